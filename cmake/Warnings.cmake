@@ -1,0 +1,14 @@
+# One target carries the warnings and the hardening that all code of the project is built with.
+add_library(velmora_warnings INTERFACE)
+target_compile_options(
+  velmora_warnings
+  INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+            -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+            # Rounding must compile to one instruction: nothing here looks at errno.
+            -fno-math-errno)
+
+option(VELMORA_SANITIZE "Run under AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+if(VELMORA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

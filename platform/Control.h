@@ -1,0 +1,173 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/Numbers.h"
+
+// A control is plain data. The game sets its properties; the screen is a cache of them, brought up
+// to date when the event loop turns, when a handler has returned, and at once where a repaint is
+// asked for. What the user does is written into the control first and told to its handlers
+// afterwards.
+
+struct Control;
+struct Window;
+
+/// What a control is on the screen.
+enum class ControlKind : std::uint8_t {
+  Label,
+  TextBox,
+  MaskedEdit,
+  Button,
+  Picture,
+  Shape,
+  Line,
+  Frame,
+  CheckBox,
+  OptionButton,
+  ListBox,
+  ProgressBar,
+  HScrollBar,
+  VScrollBar,
+  Slider,
+  Timer,
+  MenuEntry,
+  Toolbar,
+  ToolButton
+};
+
+/// A colour as red, green and blue, 0 to 255 each. Clear is no colour: what lies below shows.
+struct Colour {
+  std::uint8_t Red = 0, Green = 0, Blue = 0;
+  bool Clear = false;
+  bool operator==(const Colour&) const = default;
+};
+
+inline constexpr Colour clrClear{0, 0, 0, true};
+inline constexpr Colour clrBlack{0, 0, 0};
+inline constexpr Colour clrWhite{255, 255, 255};
+/// The system's window text colour on the white and ivory grounds of this program.
+inline constexpr Colour clrWindowText{0, 0, 0};
+
+/// A type face; Size is in points of 1/72 inch at scale 1. Fixed asks for letters of one width.
+struct Type {
+  float Size = 8.25F;
+  bool Bold = false;
+  bool Fixed = false;
+  bool Underline = false;
+  bool operator==(const Type&) const = default;
+};
+
+enum class Alignment : std::uint8_t { Left, Right, Centre };
+
+enum class ShapeForm : std::uint8_t { Rectangle, Oval, Rounded };
+
+/// The pointer over a control.
+enum class Pointer : std::uint8_t { Arrow, SizeUpDown, SizeLeftRight, HandUp, HandRight, HandLink };
+
+/// How a tool button answers a click: Check stays down until the next click, of a Group one is down
+/// at a time.
+enum class ButtonStyle : std::uint8_t { Check, Group, Separator };
+
+/// How a control is dressed beyond its plain properties; each view knows what a look means on its
+/// screen.
+enum class Look : std::uint8_t { Plain, Plate, Primary, Chip, Shadow, Card, Patch, Link, Heading };
+
+/// Mouse buttons as handlers get them.
+inline constexpr int intLeftButton = 1;
+inline constexpr int intRightButton = 2;
+inline constexpr int intMiddleButton = 4;
+
+/// Bits of the Shift argument of key and mouse handlers.
+inline constexpr int intShiftMask = 1;
+inline constexpr int intCtrlMask = 2;
+inline constexpr int intAltMask = 4;
+
+/// A mouse event: places in twips from the control's or window's own top left corner, negative
+/// above or left of it.
+struct Mouse {
+  int Button = 0;
+  int Shift = 0;
+  float X = 0, Y = 0;
+};
+
+/// The handlers of a control; an empty one is not called. They get the control, whose Index tells
+/// the element.
+struct ControlEvents {
+  void (*Click)(Control&) = nullptr;
+  void (*MouseDown)(Control&, const Mouse&) = nullptr;
+  void (*MouseMove)(Control&, const Mouse&) = nullptr;
+  void (*MouseUp)(Control&, const Mouse&) = nullptr;
+  void (*GotFocus)(Control&) = nullptr;
+  void (*LostFocus)(Control&) = nullptr;
+  /// Runs before the focus leaves; setting blnCancel keeps it.
+  void (*Validate)(Control&, bool& blnCancel) = nullptr;
+  /// The value of a scroll bar or slider, or the text of a box, has changed, by the user or by
+  /// fncSetValue.
+  void (*Change)(Control&) = nullptr;
+  void (*Resize)(Control&) = nullptr;
+  void (*Timer)(Control&) = nullptr;
+};
+
+inline constexpr ControlEvents evtNone{};
+
+/// One control. Places and sizes are in twips from the top left corner of its container, or of its
+/// window.
+struct Control {
+  // What it is: set by its window's layout.
+  ControlKind Kind = ControlKind::Label;
+  const char* Name = "";
+  Integer Index = -1;  ///< Element of a control array, from 0; -1 for a control that stands alone.
+  Window* Form = nullptr;
+  Control* Container =
+      nullptr;  ///< The picture, frame, toolbar or menu that holds it; none means the window.
+  const ControlEvents* On = &evtNone;
+  std::uint32_t Serial = 0;  ///< Given by prcAddControl, never given twice: tells a copy from a
+                             ///< later one in its place.
+
+  // Where it is and whether it can be used.
+  double Left = 0, Top = 0, Width = 0, Height = 0;
+  bool Visible = true, Enabled = true;
+  bool TabStop = true;  ///< The Tab key stops here, if the kind takes the focus at all.
+
+  // What it shows.
+  std::string Text;  ///< Caption or text; a masked box holds the plain number without its mask.
+  std::string ToolTip;
+  std::string Spoken;     ///< What a screen reader calls it; empty means its text or tool tip.
+  bool Announce = false;  ///< Read out when it appears or changes.
+  Type Face;
+  Alignment Align = Alignment::Left;
+  Colour ForeColor = clrWindowText;
+  Colour BackColor = clrClear;
+  Integer Picture = 0;  ///< A number of assets/Pictures.h; 0 shows none.
+  Look Dress = Look::Plain;
+  Pointer MousePointer = Pointer::Arrow;
+
+  // Shapes and lines.
+  ShapeForm Form2D = ShapeForm::Rectangle;
+  Colour FillColor = clrClear;
+  Colour BorderColor = clrClear;
+  int BorderWidth = 1;                    ///< Pixels at scale 1.
+  double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< A line's ends, in its container.
+
+  // Values: a check box, option, menu entry and tool button hold 0 or 1.
+  double Value = 0, Min = 0, Max = 0, SmallChange = 1, LargeChange = 1;
+  ButtonStyle Style = ButtonStyle::Check;
+  bool Default = false, CancelButton = false;  ///< Answers Enter, answers Escape.
+
+  // Masked edits: 9 stands for a digit, a leading $ is shown and never part of Text.
+  const char* Mask = "";
+  const char* Format = "";
+  char Prompt = '_';
+  int SelLength = 0;
+
+  // List boxes; ListIndex is the selected row, -1 for none.
+  std::vector<std::string> List;
+  int ListIndex = -1;
+
+  // Timers, in milliseconds; a timer runs while Enabled and Interval is above 0.
+  Long Interval = 0;
+
+  bool operator==(const Control&) const = default;
+};

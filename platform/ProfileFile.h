@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Access to a profile text, "[section]" lines followed by "key=value" lines. Every call goes to the
+// file; nothing is kept between calls. Names match without regard to case.
+
+/// The value of a key with the blanks around it removed, or fallback where the file, section or key
+/// is missing.
+std::string fncReadProfile(const std::string& path, std::string_view section, std::string_view key,
+                           std::string_view fallback);
+
+/// Writes a key, creating file, section or key as needed. All other bytes of the file stay as they
+/// are: comments, unknown lines, order, line ends. The file is replaced as a whole or not at all.
+/// Returns whether it was.
+bool fncWriteProfile(const std::string& path, std::string_view section, std::string_view key,
+                     std::string_view value);

@@ -1,0 +1,183 @@
+#include "platform/UserInput.h"
+
+#include <algorithm>
+
+#include "platform/Procedure.h"
+
+namespace {
+
+/// A click on a label counts with any button, as chips are given and taken by it; other kinds
+/// answer the left one.
+bool fncClicksWith(const Control& control, int button) {
+  return button == intLeftButton || control.Kind == ControlKind::Label;
+}
+
+void prcReleaseFellows(Control& control) {
+  if (control.Kind == ControlKind::ToolButton) {
+    // A group runs from separator to separator.
+    std::vector<Control*> group;
+    for (Control* other : control.Form->Controls) {
+      if (other->Kind != ControlKind::ToolButton || other->Container != control.Container) {
+        continue;
+      }
+      if (other->Style != ButtonStyle::Separator) {
+        group.push_back(other);
+        continue;
+      }
+      if (std::ranges::find(group, &control) != group.end()) {
+        break;
+      }
+      group.clear();
+    }
+    for (Control* other : group) {
+      other->Value = 0;
+    }
+    return;
+  }
+  for (Control* other : control.Form->Controls) {
+    if (other->Kind == control.Kind && other->Container == control.Container) {
+      other->Value = 0;
+    }
+  }
+}
+
+void prcTurnOver(Control& control) {
+  switch (control.Kind) {
+    case ControlKind::CheckBox:
+      control.Value = control.Value == 0 ? 1 : 0;
+      break;
+    case ControlKind::OptionButton:
+      prcReleaseFellows(control);
+      control.Value = 1;
+      break;
+    case ControlKind::ToolButton:
+      if (control.Style == ButtonStyle::Group) {
+        prcReleaseFellows(control);
+        control.Value = 1;
+      } else {
+        control.Value = control.Value == 0 ? 1 : 0;
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+/// Runs the check of the box that has the focus although the focus stays: what is clicked takes
+/// none.
+bool fncCheckFocused(Window& window, const Control& clicked) {
+  Control* active = window.ActiveControl;
+  if (active == nullptr || active == &clicked || active->On->Validate == nullptr ||
+      !fncTakesFocus(*active)) {
+    return true;
+  }
+  bool blnCancel = false;
+  active->On->Validate(*active, blnCancel);
+  return !blnCancel;
+}
+
+}  // namespace
+
+void prcDispatch(const std::function<void()>& handlers) {
+  try {
+    Guarded("Velmora", handlers);
+  } catch (const EndOfProgram&) {
+    // The platform has noted the end; its loops stop at their next turn.
+    return;
+  }
+}
+
+bool fncSeen(const Control& control) {
+  for (const Control* at = &control; at != nullptr; at = at->Container) {
+    if (!at->Visible) {
+      return false;
+    }
+  }
+  return control.Form != nullptr && control.Form->hWnd != 0 && control.Form->Visible;
+}
+
+bool fncUsable(const Control& control) {
+  for (const Control* at = &control; at != nullptr; at = at->Container) {
+    if (!at->Enabled) {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool fncUserPress(Control& control, const Mouse& mouse) {
+  if (!fncSeen(control) || !fncUsable(control)) {
+    return false;
+  }
+  const bool blnStands =
+      fncTakesFocus(control) ? fncSetFocus(control) : fncCheckFocused(*control.Form, control);
+  if (!blnStands || !fncSeen(control) || !fncUsable(control)) {
+    return false;
+  }
+  if (control.On->MouseDown != nullptr) {
+    control.On->MouseDown(control, mouse);
+  }
+  return true;
+}
+
+void prcUserMove(Control& control, const Mouse& mouse) {
+  if (control.On->MouseMove != nullptr) {
+    control.On->MouseMove(control, mouse);
+  }
+}
+
+void prcUserRelease(Control& control, const Mouse& mouse, bool blnInside) {
+  if (control.On->MouseUp != nullptr) {
+    control.On->MouseUp(control, mouse);
+  }
+  if (blnInside && fncClicksWith(control, mouse.Button)) {
+    prcUserClick(control);
+  }
+}
+
+void prcUserClick(Control& control) {
+  if (!fncSeen(control) || !fncUsable(control)) {
+    return;
+  }
+  prcTurnOver(control);
+  if (control.On->Click != nullptr) {
+    control.On->Click(control);
+  }
+}
+
+void prcUserText(Control& box, std::string_view text) {
+  box.Text = box.Kind == ControlKind::MaskedEdit ? fncMasked(box, text) : std::string(text);
+  if (box.On->Change != nullptr) {
+    box.On->Change(box);
+  }
+}
+
+void prcUserValue(Control& control, double value) {
+  prcSetValue(control, value);
+}
+
+void prcUserClose(Window& window) {
+  if (window.On->CloseAsked != nullptr) {
+    window.On->CloseAsked(window);
+  } else {
+    fncUnload(window);
+  }
+}
+
+Control* fncNextStop(const Window& window, bool blnBackwards) {
+  std::vector<Control*> stops;
+  for (Control* control : window.Controls) {
+    if (control->TabStop && fncTakesFocus(*control) && fncSeen(*control) && fncUsable(*control)) {
+      stops.push_back(control);
+    }
+  }
+  if (stops.empty()) {
+    return nullptr;
+  }
+  const auto at = std::ranges::find(stops, window.ActiveControl);
+  if (at == stops.end()) {
+    return blnBackwards ? stops.back() : stops.front();
+  }
+  const auto place = static_cast<std::size_t>(at - stops.begin());
+  return stops[(place + (blnBackwards ? stops.size() - 1 : 1)) % stops.size()];
+}

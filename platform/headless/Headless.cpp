@@ -1,0 +1,395 @@
+#include "platform/headless/Headless.h"
+
+#include <algorithm>
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <stdexcept>
+
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/UserInput.h"
+
+namespace {
+
+/// A scripted event; events of one moment run in the order in which they were scripted.
+struct Scripted {
+  std::uint64_t Due;
+  std::function<void()> Event;
+};
+
+struct State {
+  std::uint64_t Clock = 0;  // Milliseconds since Reset, beyond the wrap of the tick counter.
+  std::uint32_t Start = 0;
+  std::uint64_t Turns = 0;
+  bool blnEnded = false;
+  std::deque<Scripted> Script;
+  std::deque<std::function<void()>> NextTurn, Modal;
+  std::deque<platform::Answer> Answers;
+  std::vector<headless::Box> Boxes;
+  std::map<std::uint32_t, std::uint64_t> TimerDue;  // By the timer's serial.
+  std::vector<std::string> Repaints, Opened, HelpShown;
+  std::uint64_t Seed = 1;
+  int OpenCode = 33;
+  bool blnOtherInstance = false;
+  double ScreenWidth = 15360, ScreenHeight = 10500;
+  std::string Folder;
+};
+
+State state;
+
+void prcThrowIfEnded() {
+  if (state.blnEnded) {
+    throw EndOfProgram{};
+  }
+}
+
+void prcRun(const std::function<void()>& event) {
+  prcDispatch(event);
+  prcThrowIfEnded();
+}
+
+std::vector<Control*> fncRunningTimers() {
+  std::vector<Control*> timers;
+  for (Window* window : fncWindows()) {
+    for (Control* control : window->Controls) {
+      if (control->Kind == ControlKind::Timer && control->Enabled && control->Interval > 0) {
+        timers.push_back(control);
+      }
+    }
+  }
+  return timers;
+}
+
+/// Gives each running timer its next tick and forgets those that have stopped. Returns the first
+/// one due.
+Control* fncFirstTimer() {
+  const std::vector<Control*> timers = fncRunningTimers();
+  std::map<std::uint32_t, std::uint64_t> due;
+  Control* first = nullptr;
+  for (Control* timer : timers) {
+    const auto known = state.TimerDue.find(timer->Serial);
+    const std::uint64_t tick =
+        known != state.TimerDue.end()
+            ? known->second
+            : state.Clock + static_cast<std::uint64_t>(std::int32_t{timer->Interval});
+    due[timer->Serial] = tick;
+    if (first == nullptr || tick < due[first->Serial]) {
+      first = timer;
+    }
+  }
+  state.TimerDue = due;
+  return first;
+}
+
+/// Runs what is due now. Returns whether anything ran.
+bool fncServeDue() {
+  ++state.Turns;
+  prcThrowIfEnded();
+  if (!state.NextTurn.empty()) {
+    const std::function<void()> event = std::move(state.NextTurn.front());
+    state.NextTurn.pop_front();
+    prcRun(event);
+    return true;
+  }
+  const auto scripted = std::ranges::min_element(state.Script, {}, &Scripted::Due);
+  if (scripted != state.Script.end() && scripted->Due <= state.Clock) {
+    const std::function<void()> event = std::move(scripted->Event);
+    state.Script.erase(scripted);
+    prcRun(event);
+    return true;
+  }
+  Control* timer = fncFirstTimer();
+  if (timer != nullptr && state.TimerDue[timer->Serial] <= state.Clock) {
+    state.TimerDue[timer->Serial] =
+        state.Clock + static_cast<std::uint64_t>(std::int32_t{timer->Interval});
+    prcRun([timer] {
+      if (timer->On->Timer != nullptr) {
+        timer->On->Timer(*timer);
+      }
+    });
+    return true;
+  }
+  return false;
+}
+
+/// The moment of the next thing to happen, at most limit.
+std::uint64_t fncNextMoment(std::uint64_t limit) {
+  for (const Scripted& scripted : state.Script) {
+    limit = std::min(limit, scripted.Due);
+  }
+  if (Control* timer = fncFirstTimer(); timer != nullptr) {
+    limit = std::min(limit, state.TimerDue[timer->Serial]);
+  }
+  return std::max(limit, state.Clock);
+}
+
+void prcRunModalScript() {
+  if (state.Modal.empty()) {
+    return;
+  }
+  const std::function<void()> event = std::move(state.Modal.front());
+  state.Modal.pop_front();
+  prcRun(event);
+}
+
+void prcNeedUsable(Control& control) {
+  if (!fncSeen(control) || !fncUsable(control)) {
+    throw std::logic_error(std::string("the user cannot reach ") + control.Name);
+  }
+}
+
+}  // namespace
+
+namespace platform {
+
+int Run(int /*argc*/, char** /*argv*/, bool (*start)()) {
+  bool blnStarted = false;
+  prcDispatch([&] { blnStarted = start(); });
+  if (!blnStarted) {
+    state.blnEnded = true;
+  }
+  return 0;
+}
+
+void DoEvents() {
+  while (fncServeDue()) {
+  }
+}
+
+void WaitEvents(std::uint32_t milliseconds) {
+  const std::uint64_t limit = state.Clock + milliseconds;
+  while (!fncServeDue()) {
+    if (state.Clock >= limit) {
+      return;
+    }
+    state.Clock = fncNextMoment(limit);
+  }
+}
+
+std::uint32_t TickCount() {
+  return state.Start + static_cast<std::uint32_t>(state.Clock);
+}
+
+std::uint64_t RandomSeed() {
+  return state.Seed++;
+}
+
+Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
+              Answer standard) {
+  prcThrowIfEnded();
+  state.Boxes.push_back({text, title, icon, buttons, standard});
+  prcRunModalScript();
+  if (state.Answers.empty()) {
+    return standard;
+  }
+  const Answer answer = state.Answers.front();
+  state.Answers.pop_front();
+  return answer;
+}
+
+void RepaintNow(Control& control) {
+  state.Repaints.push_back(std::string(control.Name) + "(" + std::to_string(int{control.Index}) +
+                           ")");
+}
+
+void RunModal(Window& window) {
+  prcThrowIfEnded();
+  prcRunModalScript();
+  if (window.Visible) {
+    prcUserClose(window);
+  }
+}
+
+void Activate(Window& window) {
+  if (window.On->Activate != nullptr) {
+    window.On->Activate(window);
+  }
+}
+
+double ScreenWidth() {
+  return state.ScreenWidth;
+}
+double ScreenHeight() {
+  return state.ScreenHeight;
+}
+std::string DataFolder() {
+  return state.Folder;
+}
+std::string HelpFolder() {
+  return state.Folder;
+}
+
+bool FileExists(const std::string& path) {
+  std::error_code failed;
+  return std::filesystem::is_regular_file(path, failed);
+}
+
+int OpenAddress(const std::string& address) {
+  state.Opened.push_back(address);
+  return state.OpenCode;
+}
+
+void ShowHelp(const std::string& file, int context) {
+  state.HelpShown.push_back(file + "#" + std::to_string(context));
+}
+
+bool ActivateOtherInstance() {
+  return state.blnOtherInstance;
+}
+
+void End() {
+  state.blnEnded = true;
+  throw EndOfProgram{};
+}
+
+}  // namespace platform
+
+namespace headless {
+
+void Reset(const std::string& folder, std::uint32_t start) {
+  const std::vector<Window*> loaded = fncWindows();
+  state = State{};
+  for (Window* window : loaded) {
+    prcForgetWindow(*window);
+  }
+  state.Start = start;
+  state.Folder = folder;
+  prcSetCurrency(CurrencyStyle{});
+}
+
+std::uint32_t Now() {
+  return static_cast<std::uint32_t>(state.Clock);
+}
+
+void Wait(std::uint32_t milliseconds) {
+  const std::uint64_t limit = state.Clock + milliseconds;
+  try {
+    while (state.Clock < limit || fncNextMoment(limit) < limit) {
+      platform::WaitEvents(static_cast<std::uint32_t>(limit - state.Clock));
+    }
+    platform::DoEvents();
+  } catch (const EndOfProgram&) {
+    state.blnEnded = true;
+  }
+}
+
+void After(std::uint32_t milliseconds, std::function<void()> event) {
+  state.Script.push_back({state.Clock + milliseconds, std::move(event)});
+}
+
+void AtNextTurn(std::function<void()> event) {
+  state.NextTurn.push_back(std::move(event));
+}
+void WhileModal(std::function<void()> event) {
+  state.Modal.push_back(std::move(event));
+}
+void Answer(platform::Answer answer) {
+  state.Answers.push_back(answer);
+}
+const std::vector<Box>& Boxes() {
+  return state.Boxes;
+}
+void ForgetBoxes() {
+  state.Boxes.clear();
+}
+void Seed(std::uint64_t seed) {
+  state.Seed = seed;
+}
+std::uint64_t Turns() {
+  return state.Turns;
+}
+std::vector<std::string>& Repaints() {
+  return state.Repaints;
+}
+bool Ended() {
+  return state.blnEnded;
+}
+std::vector<std::string>& Opened() {
+  return state.Opened;
+}
+void OpenAddressReturns(int code) {
+  state.OpenCode = code;
+}
+std::vector<std::string>& HelpShown() {
+  return state.HelpShown;
+}
+void OtherInstanceRuns(bool blnRuns) {
+  state.blnOtherInstance = blnRuns;
+}
+
+void Screen(double width, double height) {
+  state.ScreenWidth = width;
+  state.ScreenHeight = height;
+}
+
+bool Press(Control& control, float x, float y, int button) {
+  prcNeedUsable(control);
+  bool blnStands = false;
+  prcDispatch([&] { blnStands = fncUserPress(control, {button, 0, x, y}); });
+  return blnStands;
+}
+
+bool Click(Control& control, int button) {
+  if (!Press(control, 0, 0, button)) {
+    return false;
+  }
+  prcDispatch([&] { prcUserRelease(control, {button, 0, 0, 0}, true); });
+  return true;
+}
+
+void Drag(Control& control, float x, float y) {
+  prcDispatch([&] { prcUserMove(control, {intLeftButton, 0, x, y}); });
+}
+
+void Release(Control& control, float x, float y) {
+  const bool blnInside = x >= 0 && y >= 0 && x < control.Width && y < control.Height;
+  prcDispatch([&] { prcUserRelease(control, {intLeftButton, 0, x, y}, blnInside); });
+}
+
+void Hover(Control& control) {
+  prcNeedUsable(control);
+  prcDispatch([&] { prcUserMove(control, {}); });
+}
+
+void Hover(Window& window) {
+  prcDispatch([&] {
+    if (window.On->MouseMove != nullptr) {
+      window.On->MouseMove(window, {});
+    }
+  });
+}
+
+bool Type(Control& box, const std::string& text) {
+  if (!Press(box)) {
+    return false;
+  }
+  prcDispatch([&] { prcUserText(box, text); });
+  return true;
+}
+
+bool Tab(Window& window) {
+  bool blnMoved = false;
+  prcDispatch([&] {
+    Control* next = fncNextStop(window, false);
+    blnMoved = next != nullptr && fncSetFocus(*next);
+  });
+  return blnMoved;
+}
+
+void Key(Window& window, const std::string& key, int shift) {
+  prcDispatch([&] {
+    if (window.On->KeyDown != nullptr) {
+      window.On->KeyDown(window, key, shift);
+    }
+    if (window.On->KeyPress != nullptr && key.size() == 1) {
+      window.On->KeyPress(window, key.front());
+    }
+  });
+}
+
+void Close(Window& window) {
+  prcDispatch([&] { prcUserClose(window); });
+}
+
+}  // namespace headless

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/Window.h"
+
+// All that the program may ask of the machine. Which implementation stands behind these functions
+// is decided when the program is linked: platform/qt for a real screen, platform/headless for tests
+// on a virtual clock.
+//
+// The end is final. After prcEnd no handler runs and no wait returns: each call here that serves
+// events throws EndOfProgram from then on, so that what stood behind the wait never runs.
+
+namespace platform {
+
+/// Brings the platform up, calls start, serves events until the program ends, and returns the exit
+/// code. Where start returns False the program ends at once.
+int Run(int argc, char** argv, bool (*start)());
+
+/// Serves the events that are pending and returns. May run any handler.
+void DoEvents();
+
+/// Serves events until one has been served or milliseconds have passed, whichever is first; sleeps
+/// meanwhile.
+void WaitEvents(std::uint32_t milliseconds);
+
+/// Milliseconds on a counter that only goes forward, wraps after 32 bits, and has no fixed start.
+std::uint32_t TickCount();
+
+/// A number that differs from call to call, from a fine clock.
+std::uint64_t RandomSeed();
+
+enum class Icon : std::uint8_t { None, Stop, Exclamation, Information };
+enum class Buttons : std::uint8_t { Ok, OkCancel };
+enum class Answer : std::uint8_t { Ok, Cancel };
+
+/// Shows a modal message box and returns the answer; closing it by key or box answers Cancel where
+/// there is one. An empty title means the program's own. Timers go on meanwhile. Text is shown as
+/// it stands.
+Answer MsgBox(const std::string& text, Icon icon = Icon::None, const std::string& title = {},
+              Buttons buttons = Buttons::Ok, Answer standard = Answer::Ok);
+
+/// Brings what has changed in the control's window onto the screen before it returns. Runs no
+/// handler.
+void RepaintNow(Control& control);
+
+/// Serves events until the window, already visible, is hidden or unloaded; other windows get no
+/// input meanwhile.
+void RunModal(Window& window);
+
+/// Gives a visible window the input.
+void Activate(Window& window);
+
+/// The screen's size in twips at the scale in use.
+double ScreenWidth();
+double ScreenHeight();
+
+/// The folder of the program, or the user's own data folder where that one cannot be written; no
+/// separator at the end.
+std::string DataFolder();
+
+/// The folder that holds the program's help file; no separator at the end.
+std::string HelpFolder();
+
+/// Whether the file may be read.
+bool FileExists(const std::string& path);
+
+/// Opens an address with the desktop's own opener. Above 32 is success; 0 no memory, 2 no such
+/// address, 31 no browser, any other failure its own number up to 32.
+int OpenAddress(const std::string& address);
+
+/// Shows the help file in the help window, at the first topic (context 1) or with contents and
+/// index (context 0). A file that is missing or damaged gets one message and nothing else.
+void ShowHelp(const std::string& file, int context);
+
+/// Whether another instance of this user's program runs; if so it has been asked to come to the
+/// front.
+bool ActivateOtherInstance();
+
+/// Ends the program: every window goes, nothing that waits goes on. Does not return.
+[[noreturn]] void End();
+
+}  // namespace platform

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Numbers.h"
+#include "platform/Window.h"
+
+// Turning a card by click or squeeze. Index is the table position 0..5; mouse places are twips from
+// the strip's corner.
+
+/// A card is 1065 by 1440 twips: 71 by 96 pixels of 15.
+inline constexpr int intCardWide = 1065;
+inline constexpr int intCardHigh = 1440;
+
+/// Face values from here up have the narrow marks beside a frame, and so the plain patches.
+inline constexpr int intFirstPicture = 11;
+
+/// Turns the card, if it may be turned: patches, back, totals and naturals of its side.
+void pctCardBack_Click(Integer Index);
+void pctCardBack_MouseMove(Integer Index);
+
+/// A pull above or left of the strip: the back shrinks by just that much, and at the card's whole
+/// size it turns.
+void lblCardBottom_MouseMove(Integer Index, float Y);
+void lblCardRight_MouseMove(Integer Index, float X);
+
+/// Letting go makes the back whole again.
+void lblCardBottom_MouseUp(Integer Index);
+void lblCardRight_MouseUp(Integer Index);
+
+/// The mouse is over the bare table: advice goes.
+void BaccTable_MouseMove();
+
+/// The pointers over the strips of all six positions.
+void prcLoadHands();
+void prcLoadArrows();
+
+/// Face value 1..13 of the card dealt to a position.
+Integer fncPositionValue(Integer Index);
+
+/// Shows or hides the two patches over the top left and bottom right marks, or over the other two,
+/// of the family that goes with the face value.
+void prcShowOuterPatches(Integer value, Integer Index, bool blnShow);
+void prcShowInnerPatches(Integer value, Integer Index, bool blnShow);
+
+/// Handlers of the card controls, for the window's layout.
+extern const ControlEvents evtCardBack, evtCardBottom, evtCardRight;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Window.h"
+
+// The two floating windows that follow what has left the shoe on the table.
+
+struct CardsDealtWindow {
+  Window Form;
+  Control lstCardsDealt, chkOnTop;
+};
+extern CardsDealtWindow frmCardsDealt;
+
+struct CardsDealtCountWindow {
+  Window Form;
+  Control lstCardsDealtCount, chkOnTop;
+  Control Label1, Label2, Label3, Label4;
+};
+extern CardsDealtCountWindow frmCardsDealtCount;
+
+/// Rebuilds the list of the count window from varCardsDealtCount and shows it.
+void LoadlstCardsDealtCount();
+
+/// Empties the list of cards dealt, loading its window on first use.
+void prcClearCardsDealt();
+
+/// Adds a row of 21 characters to the list of cards dealt and selects it, loading the window on
+/// first use.
+void prcAddCardsDealt(const std::string& row);
+
+/// Prepares both windows' events. Called once at the start of the program.
+void prcPrepareCardsDealt();

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+extern std::string
+    strIniFile;  ///< Full path of the settings file; set once, before the first read.
+extern std::string strHelpFile;  ///< Full path of the help file.
+
+/// The value of a key in the settings file, at most 99 characters; "No" where there is none.
+std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey);
+
+/// Writes a key to the settings file at once. A write that fails leaves the file as it was and is
+/// not told.
+void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
+                                  const std::string& strValue);
+
+/// The numeric value of a key; 0 where it is missing or no number.
+double fncGetSetting(const std::string& strSection, const std::string& strKey);
+
+/// Writes a number in the file's form, with its leading blank.
+void prcWriteSetting(const std::string& strSection, const std::string& strKey, double number);
+
+/// Fixes strIniFile and strHelpFile, and sets up the least that a first run needs where there is no
+/// settings file.
+void prcFixPaths();

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "platform/Window.h"
+#include "table/TableState.h"
+
+// The table window: its controls by name, and the values that live with it. Card controls go by
+// table position: 0, 1, 2 the Player's first, second and third card, 3, 4, 5 the Banker's.
+
+struct BaccTableWindow {
+  Window Form;
+
+  Control picTable;  ///< The felt below everything.
+  Table<Control, 2> shpSeat, shpCardZone;
+  Table<Control, 2> lblSeat;
+  Table<Control, 3> lblRow;
+
+  Table<Control, 4> duokkortos;
+  Control maisyk;
+  Control mskHandsAtaTime, lblHandsAtaTime;
+
+  Table<Control, 2> txtTieBet, txtBankerBet, txtPlayerBet;
+  Table<Control, 2> txtTieBetValue, txtBankerBetValue, txtPlayerBetValue;
+  Table<Control, 2> lblTBetInc0, lblTBetInc1, lblTBetInc2, lblTBetInc5;
+  Table<Control, 2> lblBBetInc0, lblBBetInc1, lblBBetInc2, lblBBetInc5;
+  Table<Control, 2> lblPBetInc0, lblPBetInc1, lblPBetInc2, lblPBetInc5;
+  Control txtUnitValue, lblUnitValue;
+  Table<Control, 2> lblPlayerTotal, lblPlayerWinnings;
+
+  Table<Control, 2> lblPWin, lblBWin, lblTWin, lblPLose, lblBLose, lblTLose;
+  Control WinP, WinB, TieResultP, TieResultB;
+  Control PTotal, BTotal, lblNaturalP, lblNaturalB;
+  Control FormLastHand, FormEndofShoe;
+  Table<Control, 2> lblShuffleInProgress;
+  Control prgShoe;
+  Control fraShoeNumber, lblShoeNumber;
+  Table<Control, 9> lblShoe1to9;
+  Control Label1, Label2, Label4, Label5, Label8;
+
+  Table<Control, 2> shpCardDealBG;
+  Table<Control, 6> pctCardBack, pctCardFace, shpCardShadow;
+  Table<Control, 6> pctCardTopLeft, pctCardTopRight, pctCardBottomLeft, pctCardBottomRight;
+  Table<Control, 6> pctCardTopLeftWide, pctCardTopRightWide;
+  Table<Control, 6> pctCardBottomLeftWide, pctCardBottomRightWide;
+  Table<Control, 6> lblCardRight, lblCardBottom;
+  Control pctCardBackMove;
+  Control lblCardNeedP, lblCardNeedB, shpCardNeedP, shpCardNeedB;
+
+  Control txtsetfocus;
+  Control Timer1;
+
+  Integer intFlashCount;        ///< Ticks of flashing done.
+  Integer intAddSub;            ///< Sign of the chip click under way.
+  bool blnCardsPlaced = false;  ///< The first four backs of the hand lie on the table.
+  bool blnCardNeedShown =
+      false;  ///< Advice has been worked out since the mouse was last over the bare table.
+  Integer intCardHeight, intCardWidth;  ///< Of a whole card back, twips.
+};
+
+extern BaccTableWindow BaccTable;
+
+/// A row of the bets of a seat: what the Tie, the Banker and the Player bet have in common.
+enum BetSide : int { betTie, betBanker, betPlayer };
+inline constexpr std::array<BetSide, 3> betSides{betTie, betBanker, betPlayer};
+
+/// The controls of one bet of seat 0..1: its box, its value label, its win and lose labels and its
+/// money field.
+struct BetControls {
+  Control& Box;
+  Control& Value;
+  Control& Win;
+  Control& Lose;
+  Long& Money;
+};
+BetControls fncBet(BetSide side, Integer intSeat);
+
+/// The twelve chip labels of seat 0..1: Tie, Banker, Player, and in each 0, 1, 2, 5.
+std::array<Control*, 12> fncChips(Integer intSeat);
+
+/// The numeric value of a bet's box; a bet stands while it is not 0.
+double fncBetChips(BetSide side, Integer intSeat);
+inline bool fncBetStands(BetSide side, Integer intSeat) {
+  return fncBetChips(side, intSeat) != 0;
+}
+
+/// The chip value in money per chip, as the box holds it; 0 until the user or the settings give
+/// one.
+double fncUnitValue();
+
+/// Whether strResult wins, loses or leaves a bet of this side.
+bool fncWins(BetSide side, const std::string& result);
+bool fncLoses(BetSide side, const std::string& result);
+
+/// Shows money in a label, as currency text without decimals.
+void prcShowMoney(Control& label, double money);
+
+/// Gives every control of the table its kind, place, texts and handlers, as the window is designed.
+/// Called by its load.
+void prcLayOutBaccTable();
+
+/// Prepares the table window's events. Called once at the start of the program.
+void prcPrepareBaccTable();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "table/TableState.h"
+
+// Cards by slot, face value and name. A slot says everything of a card: face value (slot mod 13) +
+// 1, suit (slot mod 52) div 13.
+
+/// Card number 1..52 of a slot.
+Integer CardNumber1To52(Integer card);
+
+/// "Spade", "Club", "Diamond" or "Heart" for a slot; also sets intSuitRow to 1..4 for the count of
+/// cards dealt.
+std::string CardSuite(Integer card);
+
+/// "1" to "10", "Jack", "Queen", "King" for a face value 1..13, empty for any other.
+std::string fncCardValueName(Integer value);
+
+/// Point value of a face value: itself up to 9, 0 for the tens and pictures.
+inline Integer fncCardPoint(Integer value) {
+  return value > 9 ? Integer(0) : value;
+}
+
+/// Sets the names and zeroes the counts of varCardsDealtCount.
+void prcInitCardsDealtCount();
+
+/// Adds the slot's card to lstCardsDealt with a mark of up to 7 characters, selects the row, and
+/// counts the card.
+void prcListCard(Integer card, Integer value, const std::string& mark);

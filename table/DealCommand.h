@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/Numbers.h"
+
+/// A Deal button 0..3 is clicked: one run of hands, from the checks to the reopened table, the
+/// flashing result or the end of the shoe.
+void duokkortos_Click(Integer Index);
+
+/// Takes the lost bets of the hand just dealt off the table. No money moves: they were paid for
+/// when placed.
+void prcClearLostBets();
+
+/// Shows and enables, or hides and disables, the Deal buttons, the Shuffle button and the hands
+/// box, in that order of a run's close.
+void prcOpenDealControls();

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Numbers.h"
+
+/// Gives the table the look of a shuffled shoe 0..8: in play or ended.
+void prcTableStatus(const Integer& shoe);
+
+/// Opens or closes all betting controls of both seats.
+void prcBettingEnableDisable(const bool& enable);
+
+/// Clears the cards from the table and makes every position unclickable.
+void CardsInvisible();
+
+/// Stops the table timer, hides all results, and takes cleared or mistyped bets out of their money
+/// fields.
+void ResultsInvisible();
+
+/// Colours the two card areas by blnShoePlayerBlue of shoe 0..8.
+void prcSetCardBG(const Integer& shoe);
