@@ -36,7 +36,8 @@ DIGIT = {
          "C1.6 10 .6 9.4 0 8.3",
     "6": "M5.4 1.2C4.8 .4 4 0 3.2 0C1.2 0 0 2.2 0 5.8V6.9C0 8.8 1.3 10 3 10C4.8 10 6 8.8 6 6.9"
          "C6 5.1 4.8 3.9 3 3.9C1.6 3.9 .5 4.7 .1 6",
-    "8": "M3 4.7C1.4 4.7 .4 3.8 .4 2.35C.4 .9 1.4 0 3 0C4.6 0 5.6 .9 5.6 2.35C5.6 3.8 4.6 4.7 3 4.7Z"
+    "8": "M3 4.7C1.4 4.7 .4 3.8 .4 2.35C.4 .9 1.4 0 3 0"
+         "C4.6 0 5.6 .9 5.6 2.35C5.6 3.8 4.6 4.7 3 4.7Z"
          "M3 4.7C1.2 4.7 0 5.7 0 7.35C0 9 1.2 10 3 10C4.8 10 6 9 6 7.35C6 5.7 4.8 4.7 3 4.7Z",
     "9": "M.6 8.8C1.2 9.6 2 10 2.8 10C4.8 10 6 7.8 6 4.2V3.1C6 1.2 4.7 0 3 0C1.2 0 0 1.2 0 3.1"
          "C0 4.9 1.2 6.1 3 6.1C4.4 6.1 5.5 5.3 5.9 4",
@@ -189,13 +190,14 @@ CARD_DEFS = (linear("paper", [(0, "#FFFEFA"), (1, "#F3EAD5")], 0, 0, 1, 1)
 
 
 def big_chip(cx, cy, r, thick, color, dark, spot, count=6):
-    """A chip lying on the table in perspective: a flat ellipse with an edge below it."""
+    """A chip lying on the table in perspective: a flat ellipse with an edge below it; spot colours
+    its count stripes."""
     ry = r * 0.42
     body = (f"M{num(cx - r)} {num(cy)}V{num(cy + thick)}A{num(r)} {num(ry)} 0 0 0 {num(cx + r)} "
             f"{num(cy + thick)}V{num(cy)}Z")
     parts = [path(body, dark)]
     for i in range(count):
-        a = math.pi * (i + 0.35) / count * 1.0
+        a = math.pi * (i + 0.35) / count
         b = a + math.pi / count * 0.42
         x1, y1 = cx + r * math.cos(a), cy + ry * math.sin(a)
         x2, y2 = cx + r * math.cos(b), cy + ry * math.sin(b)
@@ -270,9 +272,10 @@ def mirror_over(p, a, b):
     return (2 * fx - p[0], 2 * fy - p[1])
 
 
-def squeezed_card(x, y, w, h, r, fold_up, fold_in, pip, letter):
+def squeezed_card(x, y, w, h, r, fold_up, fold_in, pip, letter, bold=0.0):
     """A closed card whose lower right corner is bent up: fold_up and fold_in measure the fold
-    along the right and the lower edge, pip is the suit's size on the corner, letter the V's."""
+    along the right and the lower edge, pip is the suit's size on the corner, letter the V's and
+    bold how much the V is thickened for small sizes."""
     x2, y2 = x + w, y + h
     a, b = (x2, y2 - fold_up), (x2 - fold_in, y2)
     tip = mirror_over((x2, y2), a, b)
@@ -287,12 +290,13 @@ def squeezed_card(x, y, w, h, r, fold_up, fold_in, pip, letter):
             f"{num(tip[1])} {num(near_b[0])} {num(near_b[1])}L{num(b[0])} {num(b[1])}"
             f"Q{num(bulge[0])} {num(bulge[1])} {num(a[0])} {num(a[1])}Z")
     cx, cy = (a[0] + b[0] + tip[0]) / 3, (a[1] + b[1] + tip[1]) / 3
-    m = w * 0.075
+    m = w * 0.08
     return (group(f"translate({num(m * .5)} {num(m * .8)})", path(rest, "#021009", opacity=0.35))
             + path(rest, "url(#paper)")
             + path(f"M{num(x + m)} {num(y + m)}H{num(x2 - m)}V{num(a[1] - m * .4)}"
                    f"L{num(b[0] - m * .4)} {num(y2 - m)}H{num(x + m)}Z", "url(#back)")
-            + letter_v(x + w * .47, y + h * .33, letter, "url(#goldv)")
+            + letter_v(x + w * .48, y + h * .34, letter, "url(#goldv)", stroke="url(#goldv)",
+                       stroke_width=float(bold))
             + group(f"translate({num(-m * .5)} {num(-m * .1)})", path(flap, "#1A0208", opacity=0.4))
             + path(flap, "url(#flap)", stroke="#A8966C", stroke_width=w * 0.012)
             + suit("diamond", cx + w * .01, cy + h * .01, pip, RED))
@@ -309,11 +313,11 @@ def write_icon():
     save("icon.svg", 64, 64,
          rect(1, 1, 62, 62, 13, "url(#gold)"),
          rect(3.5, 3.5, 57, 57, 10.5, "url(#felt)"),
-         squeezed_card(12, 6.5, 40, 51, 4, 23, 24, 10.5, 23), defs=defs)
+         squeezed_card(12, 5.5, 40, 53, 4, 22, 23, 10.5, 23.5, 1.5), defs=defs)
 
 
 def write_tile():
-    """Two thirds of the lattice is drawn beyond the edge as well, so the seams vanish."""
+    """The lattice divides the side evenly and is drawn past every edge, so the seams vanish."""
     ogee, inner, leaf, dots = [], [], [], []
     for row in range(-1, 8):
         for col in range(-1, 7):
@@ -355,7 +359,7 @@ def write_felt():
         x, y, a = rng.uniform(8, 712), rng.uniform(8, 352), rng.uniform(0, math.pi)
         d = rng.uniform(1.2, 3.2)
         fibre[i % 2 == 0].append(f"M{x:.1f} {y:.1f}l{d * math.cos(a):.1f} {d * math.sin(a):.1f}")
-    defs = (radial("cloth", [(0, "#14503B"), (0.35, "#0F4130"), (0.7, "#0A2F23"), (1, "#07231A")],
+    defs = (radial("cloth", [(0, "#114735"), (0.35, "#0E3D2D"), (0.7, "#0A2F23"), (1, "#07231A")],
                    0.5, 0.46, 0.62)
             + linear("bevel", [(0, "#03110C"), (0.5, "#0B3326"), (1, "#1C5A43")])
             + linear("inlay", [(0, "#8C6A2C"), (0.25, "#D9B668"), (0.5, "#A98442"),
@@ -398,7 +402,7 @@ def icon_cardfaceup():
 
 
 def icon_cardvalues():
-    return (mini_card(3.8, 1.7, 16.4, 20.6, r=2.5) + digit("9", 9.4, 9, 10.6, 2.1, INK)
+    return (mini_card(3.75, 2.25, 16.5, 19.5, r=2.5) + digit("9", 9.4, 9, 10.6, 2.1, INK)
             + suit("diamond", 15.3, 16.6, 7.6, RED))
 
 
@@ -443,13 +447,14 @@ def icon_playerblue():
 
 def icon_decks(intDecks):
     layers = {1: 0, 2: 1, 4: 2, 6: 3, 8: 4}[intDecks]
-    step, w = 2.1, 13.0
-    x = 12 - (w + layers * step) / 2
+    step, w = 2.0, 12.0
+    x = (6.75, 5.25, 3.75, 3.75, 2.25)[layers]
     txt = ""
     for i in range(layers, 0, -1):
-        txt += rect(x + i * step, 3 + i * 0.3, w, 18 - i * 0.6, 2,
+        txt += rect(x + i * step, 3.75 + i * 0.3, w, 16.5 - i * 0.6, 2,
                     (GOLD, BURGUNDY)[i % 2], stroke=INK, stroke_width=0.7)
-    return txt + mini_card(x, 3, w, 18) + digit(str(intDecks), x + w / 2, 12, 12.4, 2.4, BURGUNDY)
+    return (txt + mini_card(x, 3.75, w, 16.5)
+            + digit(str(intDecks), x + w / 2, 12, 12, 2.4, BURGUNDY))
 
 
 def icon_delay():
@@ -585,10 +590,10 @@ def write_start():
                                      (16, card_face(46, 66, "9", "heart", RED))))
     colors = ((RED, "#6E0F1E", IVORY), (NAVY, "#0E2038", IVORY), (RED, "#6E0F1E", IVORY),
               (GOLD, GOLD_DARK, IVORY))
-    chips = (ellipse(42, 130, 20, 6.5, "url(#shadow)")
-             + "".join(big_chip(40 + (0, 1, -0.5, 0.5)[i], 124 - i * 5.4, 14, 4.4, *colors[i])
+    chips = (ellipse(43, 130, 20, 6.5, "url(#shadow)")
+             + "".join(big_chip(41.5 + (0, 1, -0.5, 0.5)[i], 124 - i * 5.4, 14, 4.4, *colors[i])
                        for i in range(4)))
-    save("start.svg", 180, 180, body, fan, group("translate(52 86) scale(1.02)", shoe()), chips,
+    save("start.svg", 180, 180, body, fan, group("translate(54 87) scale(.98)", shoe()), chips,
          defs=GOLD_DEFS + CARD_DEFS.replace("#A4223F", "#27507F").replace("#64102A", "#142C4B")
          + SHADOW_DEFS + SHOE_DEFS + defs)
 
