@@ -141,10 +141,34 @@ def lozenge(cx, cy, rx, ry):
     return f"M{cx} {cy - ry}L{cx + rx} {cy}L{cx} {cy + ry}L{cx - rx} {cy}Z"
 
 
+def arcs(segs):
+    """Path data of two half arcs if segs draw a whole oval from its left or right end, else None."""
+    if [c for c, _ in segs] != ["M", "C", "C", "C", "C", "Z"]:
+        return None
+    (x0, y0), (x1, y1), (x2, y2), (x3, y3) = (segs[i][1][-1] for i in range(4))
+    rx, ry, middle = abs(x2 - x0) / 2, abs(y1 - y0), (x0 + x2) / 2
+    ends = (y2 - y0, x1 - middle, x3 - middle, y1 + y3 - 2 * y0, segs[1][1][0][0] - x0)
+    if max(abs(e) for e in ends) > 0.001:
+        return None
+    turn = int((x1 - x0) * (y1 - y0) < 0)
+    half = f"{num(rx)} {num(ry)} 0 1 {turn} "
+    return f"M{num(x0)} {num(y0)}a{half}{num(x2 - x0)} 0 {half}{num(x0 - x2)} 0z"
+
+
 def packed(d):
     """Path data in relative commands and whole hundredths, a good third shorter."""
+    parts, segs = [], []
+    for seg in parse(d):
+        if seg[0] == "M" and segs:
+            parts.append(arcs(segs) or shortened(segs))
+            segs = []
+        segs.append(seg)
+    return "".join(parts) + (arcs(segs) or shortened(segs))
+
+
+def shortened(segs):
     out, cur, start, last = [], (0, 0), (0, 0), ""
-    for c, p in parse(d):
+    for c, p in segs:
         q = [(round(x * 100), round(y * 100)) for x, y in p]
         if c == "Z":
             out.append("z")
@@ -171,7 +195,13 @@ def packed(d):
 
 def polygon(corners, cx, cy):
     """Closed polygon from (radius, angle) pairs; angle 0 points up."""
-    return "M" + "L".join(f"{cx + r * math.sin(a):.3f} {cy - r * math.cos(a):.3f}" for r, a in corners) + "Z"
+    return "M" + "L".join(f"{cx + r * math.sin(a):.3f} {cy - r * math.cos(a):.3f}" for r,
+                          a in corners) + "Z"
+
+
+def stud(radius):
+    """Corners of an octagon: as good as a circle at this size, and far shorter."""
+    return [(radius, math.pi * (i + 0.5) / 4) for i in range(8)]
 
 
 def element(d, fill="none", stroke=None, sw=0.4):
@@ -183,18 +213,20 @@ def element(d, fill="none", stroke=None, sw=0.4):
 # Every suit fits the square -0.5 .. 0.5; the second entry is its width relative to its height.
 
 SUIT_PATHS = {
-    "heart": "M0 .5C-.09 .33 -.5 .06 -.5 -.22C-.5 -.39 -.39 -.5 -.255 -.5C-.13 -.5 -.04 -.42 0 -.29"
-             "C.04 -.42 .13 -.5 .255 -.5C.39 -.5 .5 -.39 .5 -.22C.5 .06 .09 .33 0 .5Z",
+    "heart": "M0 .5C-.09 .33 -.5 .06 -.5 -.22C-.5 -.39 -.39 -.5 -.255 -.5"
+    "C-.13 -.5 -.04 -.42 0 -.29C.04 -.42 .13 -.5 .255 -.5C.39 -.5 .5 -.39 .5 -.22"
+    "C.5 .06 .09 .33 0 .5Z",
     "diamond": "M0 -.5C.12 -.28 .28 -.1 .42 0C.28 .1 .12 .28 0 .5C-.12 .28 -.28 .1 -.42 0"
-               "C-.28 -.1 -.12 -.28 0 -.5Z",
+    "C-.28 -.1 -.12 -.28 0 -.5Z",
     "spade": "M0 -.5C.08 -.32 .48 -.1 .48 .16C.48 .3 .38 .37 .27 .37C.18 .37 .1 .33 .05 .26"
-             "C.06 .36 .1 .44 .2 .5L-.2 .5C-.1 .44 -.06 .36 -.05 .26C-.1 .33 -.18 .37 -.27 .37"
-             "C-.38 .37 -.48 .3 -.48 .16C-.48 -.1 -.08 -.32 0 -.5Z",
-    "club": "M-.045 .15C-.1 .27 -.18 .33 -.275 .33C-.4 .33 -.5 .23 -.5 .105C-.5 -.02 -.4 -.115 -.28 -.115"
-            "C-.22 -.115 -.17 -.1 -.13 -.07C-.19 -.12 -.23 -.19 -.23 -.27C-.23 -.4 -.13 -.5 0 -.5"
-            "C.13 -.5 .23 -.4 .23 -.27C.23 -.19 .19 -.12 .13 -.07C.17 -.1 .22 -.115 .28 -.115"
-            "C.4 -.115 .5 -.02 .5 .105C.5 .23 .4 .33 .275 .33C.18 .33 .1 .27 .045 .15"
-            "C.055 .33 .1 .43 .2 .5L-.2 .5C-.1 .43 -.055 .33 -.045 .15Z",
+    "C.06 .36 .1 .44 .2 .5L-.2 .5C-.1 .44 -.06 .36 -.05 .26C-.1 .33 -.18 .37 -.27 .37"
+    "C-.38 .37 -.48 .3 -.48 .16C-.48 -.1 -.08 -.32 0 -.5Z",
+    "club": "M-.045 .15C-.1 .27 -.18 .33 -.275 .33C-.4 .33 -.5 .23 -.5 .105"
+    "C-.5 -.02 -.4 -.115 -.28 -.115C-.22 -.115 -.17 -.1 -.13 -.07"
+    "C-.19 -.12 -.23 -.19 -.23 -.27C-.23 -.4 -.13 -.5 0 -.5C.13 -.5 .23 -.4 .23 -.27"
+    "C.23 -.19 .19 -.12 .13 -.07C.17 -.1 .22 -.115 .28 -.115C.4 -.115 .5 -.02 .5 .105"
+    "C.5 .23 .4 .33 .275 .33C.18 .33 .1 .27 .045 .15C.055 .33 .1 .43 .2 .5L-.2 .5"
+    "C-.1 .43 -.055 .33 -.045 .15Z",
 }
 
 
@@ -236,7 +268,7 @@ GLYPHS = {
     "A": ["M33 0L44 0L19 96L8 96Z", "M31 0L51 0L77 96L54 96Z", box(22, 60, 36, 11),
           box(0, 91, 30, 9), box(45, 91, 41, 9)],
     "2": [pen("M11 30C11 12 22 6 34 6C49 6 57 16 57 29C57 50 24 64 10 92"), box(3, 85, 62, 15),
-          "M55 70L65 70L65 90L52 90Z", oval(13, 29, 9.5)],
+    "M55 70L65 70L65 90L52 90Z", oval(13, 29, 9.5)],
     "3": [pen("M14 22C17 11 24 6 34 6C46 6 54 14 54 26C54 40 44 47 28 47"),
           pen("M28 47C47 47 57 57 57 71C57 86 46 94 32 94C19 94 12 88 10 77"),
           oval(15, 24, 9.5), oval(13, 75, 10)],
@@ -246,7 +278,7 @@ GLYPHS = {
           oval(13, 77, 10), "M50 0L60 0L58 20L52 14Z"],
     "6": SIX,
     "7": [box(4, 0, 58, 15), "M48 10L62 6C50 42 42 62 42 100L19 100C20 68 34 40 48 10Z",
-          "M4 0L14 0L12 27L4 27Z"],
+    "M4 0L14 0L12 27L4 27Z"],
     "8": [bowl(32, 27, 18, 21, 19), bowl(32, 71, 23, 23)],
     "9": [moved(p, lambda x, y: (66 - x, 100 - y)) for p in SIX],
     "10": [box(9, 0, 18, 100), "M10 0L18 0L18 20L1 26L1 17Z", box(0, 91, 36, 9),
@@ -255,7 +287,7 @@ GLYPHS = {
           box(24, 0, 42, 9.5)],
     "Q": [bowl(36, 45, 26, 39), "M28 66C44 62 48 86 72 82L72 91C46 106 42 78 30 76Z"],
     "K": [box(8, 0, 20, 100), box(0, 0, 35, 9), box(0, 91, 35, 9), "M26 54L54 5L67 5L28 70Z",
-          "M33 52L44 36L76 96L53 96Z", box(45, 0, 32, 9), box(44, 91, 40, 9)],
+    "M33 52L44 36L76 96L53 96Z", box(45, 0, 32, 9), box(44, 91, 40, 9)],
 }
 
 
@@ -284,16 +316,16 @@ def glyph(value, cx, top, width, height, turn=False):
 # reaches into a pixel column that its patch covers only in part at scale 1.
 
 MARKS = {
-    "wide": {"left": 8.1, "top_right": 62.6, "bottom_right": 62.2, "width": 9.3},
+    "wide": {"left": 8.1, "top_right": 62.6, "bottom_right": 62.3, "width": 9.25},
     "plain": {"left": 6.2, "top_right": 64.2, "bottom_right": 64.2, "width": 7.5},
 }
-MARK_TOP, VALUE_H, SUIT_GAP = 3.5, 12.6, 1.6
+MARK_TOP, VALUE_H, SUIT_GAP = 4.0, 12.4, 1.6
 
 
 def marks(value, suit):
     spec = MARKS["plain" if value in "JQK" else "wide"]
     w = spec["width"]
-    suit_h = min(10.4, w * 1.1)
+    suit_h = min(10.2, w * 1.1)
     out = []
     for cx, turn in ((spec["left"], False), (spec["top_right"], False), (spec["left"], True),
                      (spec["bottom_right"], True)):
@@ -320,7 +352,7 @@ PATTERNS = {
     "9": [(c, r) for r in (-1, -T, T, 1) for c in (-1, 1)] + [(0, 0)],
     "10": [(c, r) for r in (-1, -T, T, 1) for c in (-1, 1)] + [(0, -2 * T), (0, 2 * T)],
 }
-COLUMN, ROW, PIP_W, PIP_H = 14.7, 34.2, 12.2, 13.6
+COLUMN, ROW, PIP_W, PIP_H = 14.2, 34.2, 12.2, 13.6
 ACE_SIZE = 29
 
 
@@ -333,9 +365,9 @@ def pips(value, suit):
 
 def scroll(x, y, s, mirror):
     """A leafy scroll that grows from x, y."""
-    d = ("M0 0C1 -4 5 -6 8 -4C10.5 -2.4 9.6 1.4 7 1.2C5.2 1 5 -1.4 6.6 -1.6"
-         "M2.2 -3.4C2 -6 4 -8 6.6 -8.2C6.2 -6 4.8 -4.6 2.2 -3.4"
-         "M.4 -1.4C-1.4 -3 -1.6 -5.4 -.2 -7.4C1 -5.4 1.2 -3.4 .4 -1.4")
+    d = ("M0 0C1 -4 5 -6 8 -4C10.5 -2.4 9.6 1.4 7 1.2C5.2 1 5 -1.4 6.6 -1.6M2.2 -3.4"
+         "C2 -6 4 -8 6.6 -8.2C6.2 -6 4.8 -4.6 2.2 -3.4M.4 -1.4C-1.4 -3 -1.6 -5.4 -.2 -7.4"
+         "C1 -5.4 1.2 -3.4 .4 -1.4")
     return moved(d, lambda px, py: (x + mirror * s * px, y + s * py))
 
 
@@ -351,11 +383,15 @@ def ace(suit):
     mx, my = MID_X, MID_Y + 1.5
     for m in (-1, 1):
         out.append(element(scroll(mx + m * 7.6, my + 8.2, 0.85, m), "none", "#FFFFFF", 0.6))
-        arc = "M1 -8.4C3.4 -8.8 5.4 -10.4 5 -12.6C4.7 -14 2.9 -13.9 3 -12.5C3.1 -11.7 4 -11.6 4.1 -12.3"
+        arc = ("M1 -8.4C3.4 -8.8 5.4 -10.4 5 -12.6C4.7 -14 2.9 -13.9 3 -12.5"
+               "C3.1 -11.7 4 -11.6 4.1 -12.3")
         out.append(element(moved(arc, lambda x, y: (mx + m * x, my + y)), "none", "#FFFFFF", 0.55))
-    out.append(element(placed("M0 -8C1.7 -10.6 1.9 -14 0 -17.6C-1.9 -14 -1.7 -10.6 0 -8Z", mx, my, 1), GOLD))
-    out.append(element(placed("M0 12.6C1.2 10.8 1.2 9.4 0 7.9C-1.2 9.4 -1.2 10.8 0 12.6Z", mx, my, 1), GOLD))
-    beads = "".join(oval(mx + 6.9 * math.sin(math.pi * i / 12), my - 6.9 * math.cos(math.pi * i / 12), 0.42)
+    out.append(element(placed("M0 -8C1.7 -10.6 1.9 -14 0 -17.6C-1.9 -14 -1.7 -10.6 0 -8Z", mx, my,
+               1), GOLD))
+    out.append(element(placed("M0 12.6C1.2 10.8 1.2 9.4 0 7.9C-1.2 9.4 -1.2 10.8 0 12.6Z", mx, my,
+               1), GOLD))
+    beads = "".join(oval(mx + 6.9 * math.sin(math.pi * i / 12),
+                    my - 6.9 * math.cos(math.pi * i / 12), 0.42)
                     for i in range(24))
     out.append(element(beads, "#FFFFFF"))
     out.append(element(oval(mx, my, 5.8), "none", GOLD, 0.6))
@@ -370,7 +406,7 @@ def ace(suit):
 SLOPE, HALF_W, HALF_H = 0.27, 22.7, 42.9
 INSIDE = [lambda x, y: x + HALF_W, lambda x, y: HALF_W - x, lambda x, y: y + HALF_H]
 ABOVE_SASH = [lambda x, y: SLOPE * x - y]
-SKIN_LINE, THIN_INK = "#8A4B2A", 0.35
+SKIN_LINE, THIN_INK = "#8A4B2A", 0.36
 HALF_STYLE = (f'fill="none" stroke="{INK}" stroke-width="{THIN_INK}" stroke-linejoin="round" '
               'stroke-linecap="round"')
 
@@ -445,7 +481,7 @@ def sprinkle(fig, kind, corners, fill):
     """Fills the convex field with one of the woven patterns."""
     field = convex(corners)
     xs, ys = [c[0] for c in corners], [c[1] for c in corners]
-    step, d = 3.1, ""
+    step, d = 3.3, ""
     row = 0
     y = math.floor(min(ys) / step) * step
     while y < max(ys) + step:
@@ -457,7 +493,7 @@ def sprinkle(fig, kind, corners, fill):
                 if row % 2:
                     d += cut_path(lozenge(x, y, 0.6, 0.6), field)
                 elif all(f(x, y) > 0 for f in field):
-                    d += polygon([(0.75, math.pi * i / 4 + 0.39) for i in range(8)], x, y)
+                    d += polygon(stud(0.75), x, y)
             x += step
         if kind == "chevron":
             x = math.floor(min(xs) / 4) * 4
@@ -476,29 +512,31 @@ def sprinkle(fig, kind, corners, fill):
 
 
 MANTLE = "M-4 -18C-10 -17.4 -18 -16.4 -24 -10L-24 10L24 10L24 -10C18 -16.4 10 -17.4 4 -18Z"
+TUNIC_PATTERN = {"lozenge": "dot", "dot": "lozenge", "stripe": "chevron", "chevron": "stripe"}
 
 
 def robe(fig, c, rank):
     fig.add(MANTLE, c["mantle"], sw=0.5)
-    cloth = CREAM if c["mantle"] in (BLACK, BLUE, RED) else RED
     for corners in ([(-22.7, -9), (-17, -13), (-9.4, -15), (-13.4, 8), (-22.7, 8)],
-                    [(9.4, -15), (17, -13), (22.7, -9), (22.7, 8), (13.4, 8)]):
-        sprinkle(fig, c["pattern"], corners, GOLD if cloth == CREAM else RED)
-    fig.add("M-4 -18C-10 -17.4 -18 -16.4 -24 -10L-24 -7.8C-18 -14.4 -10 -15.6 -4 -16.2Z", c["lining"], both=True)
+                    [(9.4, -15), (17, -13), (22.7, -9), (22.7, 3), (11, -2.5)]):
+        sprinkle(fig, c["pattern"], corners, GOLD if c["mantle"] != GOLD else RED)
+    fig.add("M-4 -18C-10 -17.4 -18 -16.4 -24 -10L-24 -7.8C-18 -14.4 -10 -15.6 -4 -16.2Z",
+            c["lining"], both=True)
     fig.add("M-7 -17L7 -17L10 10L-10 10Z", c["tunic"])
-    sprinkle(fig, {"lozenge": "dot", "dot": "lozenge", "stripe": "chevron", "chevron": "stripe"}[c["pattern"]],
-             [(-6, -15), (6, -15), (8, 8), (-8, 8)], GOLD if c["tunic"] != GOLD else BLUE)
+    for corners in ([(-6, -15), (-1.4, -15), (-1.8, 4), (-8, 4)],
+                    [(1.4, -15), (6, -15), (8, 4), (1.8, 4)]):
+        sprinkle(fig, TUNIC_PATTERN[c["pattern"]], corners, GOLD if c["tunic"] != GOLD else BLUE)
     fig.add("M-1.5 -16L1.5 -16L1.9 10L-1.9 10Z", CREAM)
     fig.add("".join(lozenge(0, y, 0.95, 1.1) for y in (-9.5, -6.3, -3.1, 0.1)), c["lining"], sw=0.25)
     fig.add("M-6 -17.4L-8.8 -16.8L-13.2 8L-9.6 8Z", c["lining"], both=True)
-    studs = "".join(polygon([(0.65, math.pi * i / 4 + 0.39) for i in range(8)], 7.4 + 4 * t, -17.1 + 25 * t)
-                    for t in (0.2, 0.4, 0.6, 0.8))
+    studs = "".join(polygon(stud(0.65), 7.4 + 4 * t, -17.1 + 25 * t) for t in (0.2, 0.4, 0.6, 0.8))
     fig.add(studs, CREAM if c["lining"] != GOLD else RED, None, both=True)
     if rank == "K":
         fig.add("M-4 -19C-9 -18.4 -12.6 -16.6 -13.4 -13.6C-10 -9.6 -4.6 -8 0 -8"
                 "C4.6 -8 10 -9.6 13.4 -13.6C12.6 -16.6 9 -18.4 4 -19Z", "#FFFFFF", sw=0.45)
         tails = "".join(placed("M0 -.9C.5 -.2 .6 .3 .5 .9L0 .5L-.5 .9C-.6 .3 -.5 -.2 0 -.9Z", x, y, 1)
-                        for x, y in ((10.9, -13.8), (8.3, -15.9), (7.4, -11.4), (4.4, -13.2), (3.2, -9.8)))
+                        for x, y in ((10.9, -13.8), (8.3, -15.9), (7.4, -11.4), (4.4, -13.2),
+                                     (3.2, -9.8)))
         fig.add(tails, INK, None, both=True)
     elif rank == "Q":
         fig.add("M-7.4 -17.6C-5.6 -11.8 -3 -9.6 0 -9.6C3 -9.6 5.6 -11.8 7.4 -17.6L3 -20L-3 -20Z", SKIN)
@@ -508,9 +546,9 @@ def robe(fig, c, rank):
             fig.add(oval(x, y, 0.62), GOLD, sw=0.2, both=x > 0)
     else:
         fig.add("M-3 -20L-8.6 -17.4L-9.2 -12.4L-5.6 -13.4L-3.6 -9.4L0 -13.2L3.6 -9.4L5.6 -13.4"
-                "L9.2 -12.4L8.6 -17.4L3 -20Z", "#FFFFFF", sw=0.4)
-        fig.add("M-7.6 -16.6L-7.6 -13.8M-4.4 -15.4L-3.8 -11.8", sw=0.3, both=True)
-        fig.add("M-3 -20L3 -20L2.4 -15.6L0 -13.6L-2.4 -15.6Z", SKIN_SHADE, sw=0.3)
+                "L9.2 -12.4L8.6 -17.4L3 -20Z", "#FFFFFF")
+        fig.add("M-7.6 -16.6L-7.6 -13.8M-4.4 -15.4L-3.8 -11.8", both=True)
+        fig.add("M-3 -20L3 -20L2.4 -15.6L0 -13.6L-2.4 -15.6Z", SKIN_SHADE)
 
 
 HEAD, HEAD_SCALE = (0, -23.7), 1.1
@@ -520,204 +558,231 @@ def face(fig, rank):
     """Eyes, nose and mouth look a little towards the hand that holds something."""
     s = 0.45
     fig.head("M-5.3 -4C-5.5 1 -4.6 4 -2 6.4C-.8 7.3 .8 7.3 2 6.4C4.6 4 5.5 1 5.3 -4"
-            "C5 -7.6 -5 -7.6 -5.3 -4Z", SKIN, sw=0.4)
-    fig.head("M-5.2 -4C-5.4 1 -4.5 4 -2 6.3C-1 7.1 -.2 7.1 .4 7C-2.8 5 -3.8 1.6 -3.6 -4Z", SKIN_SHADE, None)
+             "C5 -7.6 -5 -7.6 -5.3 -4Z", SKIN)
+    fig.head("M-5.2 -4C-5.4 1 -4.5 4 -2 6.3C-1 7.1 -.2 7.1 .4 7C-2.8 5 -3.8 1.6 -3.6 -4Z",
+             SKIN_SHADE, None)
     for x in (-2.9, 3.5):
         fig.head(oval(x, 2.3, 1.05, 0.8), "#F2A48C", None)
     for x in (-2.1 + s, 2.2 + s):
         fig.head("M-1.5 .1C-.8 -1.1 .8 -1.1 1.5 .1C.7 1 -.7 1 -1.5 .1Z", "#FFFFFF", None, at=(x, -0.5))
         fig.head(oval(0.25, -0.02, 0.75), INK, None, at=(x, -0.5))
         fig.head(oval(0.48, -0.3, 0.2), "#FFFFFF", None, at=(x, -0.5))
-        fig.head("M-1.6 .2C-.8 -1.2 .8 -1.2 1.6 .1", at=(x, -0.5), sw=0.4)
+        fig.head("M-1.6 .2C-.8 -1.2 .8 -1.2 1.6 .1", at=(x, -0.5))
         fig.head("M-1.4 .2Q0 -.7 1.4 .1", at=(x, -2.7),
-                sw=0.55 if rank == "K" else 0.34, stroke=INK)
-    fig.head("M.3 -.6C.5 .6 1.1 1.6 1.2 2.1C1 2.7 .4 2.8 -.3 2.5", stroke=SKIN_LINE, sw=0.38)
+                 sw=0.55 if rank == "K" else 0.34, stroke=INK)
+    fig.head("M.3 -.6C.5 .6 1.1 1.6 1.2 2.1C1 2.7 .4 2.8 -.3 2.5", stroke=SKIN_LINE)
     if rank != "K":
-        fig.head("M-1.45 -.25Q-.6 -.75 0 -.4Q.6 -.75 1.45 -.25Q0 1.5 -1.45 -.25Z", RED, None, at=(s, 4.7))
-        fig.head("M-1.7 -.4Q0 .75 1.7 -.4", stroke="#7A1020", sw=0.22, at=(s, 4.7))
+        fig.head("M-1.45 -.25Q-.6 -.75 0 -.4Q.6 -.75 1.45 -.25Q0 1.5 -1.45 -.25Z", RED, None,
+                 at=(s, 4.7))
+        fig.head("M-1.7 -.4Q0 .75 1.7 -.4", stroke="#7A1020", sw=0.25, at=(s, 4.7))
 
 
 BEARDS = {
-    "long": "M-5.5 0C-6 5 -5 10 -2.4 13.4L0 16.2L2.4 13.4C5 10 6 5 5.5 0C4.6 2.6 3 3.6 0 3.6C-3 3.6 -4.6 2.6 -5.5 0Z",
-    "round": "M-5.6 -.6C-7 4 -6.4 9.6 -3 11.6C-1.4 12.5 1.4 12.5 3 11.6C6.4 9.6 7 4 5.6 -.6C4.6 2.6 3 3.6 0 3.6"
-             "C-3 3.6 -4.6 2.6 -5.6 -.6Z",
-    "forked": "M-5.5 0C-6.2 5 -6 9.6 -3.6 14.4C-2 13 -.6 11.4 0 9.6C.6 11.4 2 13 3.6 14.4C6 9.6 6.2 5 5.5 0"
-              "C4.6 2.6 3 3.6 0 3.6C-3 3.6 -4.6 2.6 -5.5 0Z",
-    "short": "M-5.5 -1C-5.8 3.4 -5 6.6 -2.6 8.8C-1.2 9.8 1.2 9.8 2.6 8.8C5 6.6 5.8 3.4 5.5 -1C4.6 2.6 3 3.6 0 3.6"
-             "C-3 3.6 -4.6 2.6 -5.5 -1Z",
+    "long": "M-5.5 0C-6 5 -5 10 -2.4 13.4L0 16.2L2.4 13.4C5 10 6 5 5.5 0C4.6 2.6 3 3.6 0 3.6"
+            "C-3 3.6 -4.6 2.6 -5.5 0Z",
+    "round": "M-5.6 -.6C-7 4 -6.4 9.6 -3 11.6C-1.4 12.5 1.4 12.5 3 11.6C6.4 9.6 7 4 5.6 -.6"
+             "C4.6 2.6 3 3.6 0 3.6C-3 3.6 -4.6 2.6 -5.6 -.6Z",
+    "forked": "M-5.5 0C-6.2 5 -6 9.6 -3.6 14.4C-2 13 -.6 11.4 0 9.6C.6 11.4 2 13 3.6 14.4"
+              "C6 9.6 6.2 5 5.5 0C4.6 2.6 3 3.6 0 3.6C-3 3.6 -4.6 2.6 -5.5 0Z",
+    "short": "M-5.5 -1C-5.8 3.4 -5 6.6 -2.6 8.8C-1.2 9.8 1.2 9.8 2.6 8.8C5 6.6 5.8 3.4 5.5 -1"
+             "C4.6 2.6 3 3.6 0 3.6C-3 3.6 -4.6 2.6 -5.5 -1Z",
 }
 
 
 def curl(fig, hair, x, y, s):
     fig.head(oval(x, y, s), hair, both=True)
-    fig.head(f"M{x + .5 * s} {y - .3 * s}C{x + .5 * s} {y + .6 * s} {x - .5 * s} {y + .5 * s} {x - .4 * s} {y - .1 * s}"
-            f"C{x - .3 * s} {y - .5 * s} {x + .1 * s} {y - .4 * s} {x + .1 * s} {y}", sw=0.28, both=True)
+    fig.head(f"M{x + .5 * s} {y - .3 * s}"
+             f"C{x + .5 * s} {y + .6 * s} {x - .5 * s} {y + .5 * s} {x - .4 * s} {y - .1 * s}"
+             f"C{x - .3 * s} {y - .5 * s} {x + .1 * s} {y - .4 * s} {x + .1 * s} {y}", sw=0.25,
+             both=True)
 
 
 def king_head(fig, c):
     fig.head("M-5 -5C-8.6 -4 -8.2 0 -7.6 3L-6 5L-4.4 4L-4.6 -4Z", c["hair"], both=True)
     curl(fig, c["hair"], 7.2, 4.4, 2.0)
     face(fig, "K")
-    fig.head(BEARDS[c["beard"]], c["hair"], sw=0.4)
+    fig.head(BEARDS[c["beard"]], c["hair"])
     for d in ("M-2.6 6C-2.8 8 -2.2 9.6 -1.4 11", "M-4.4 4.4C-4.6 6.4 -4.2 8 -3.4 9.2"):
         if c["beard"] != "short":
-            fig.head(d, sw=0.28, both=True)
+            fig.head(d, sw=0.25, both=True)
     fig.head("M-1.2 5.1Q.4 6.3 2 5.1Q.4 4.2 -1.2 5.1Z", RED, None)
-    fig.head("M.4 3.3C-1.4 3 -3.4 4.4 -4.8 3.6C-4 5.6 -1.2 5.7 .4 4.5C2 5.7 4.8 5.6 5.6 3.6C4.2 4.4 2.2 3 .4 3.3Z",
-            c["hair"], sw=0.3)
+    fig.head("M.4 3.3C-1.4 3 -3.4 4.4 -4.8 3.6C-4 5.6 -1.2 5.7 .4 4.5C2 5.7 4.8 5.6 5.6 3.6"
+             "C4.2 4.4 2.2 3 .4 3.3Z",
+             c["hair"])
     crown = "spikes" if c["beard"] in ("long", "forked") else "arches"
     if crown == "spikes":
         fig.head("M-6 -6C-6.4 -10 -4 -12.6 0 -12.6C4 -12.6 6.4 -10 6 -6Z", c["cap"])
-        fig.head("M-6.3 -5.6L-7.7 -12.8L-4.9 -9.6L-3.2 -14.6L0 -9.4L3.2 -14.6L4.9 -9.6L7.7 -12.8L6.3 -5.6Z", GOLD,
-                sw=0.42)
+        fig.head("M-6.3 -5.6L-7.7 -12.8L-4.9 -9.6L-3.2 -14.6L0 -9.4L3.2 -14.6L4.9 -9.6L7.7 -12.8"
+                 "L6.3 -5.6Z", GOLD)
         for px, py in ((7.7, -13.2), (3.2, -15)):
-            fig.head(oval(px, py, 0.95), "#FFFFFF" if c["beard"] == "long" else RED, sw=0.3, both=True)
-        fig.head(lozenge(0, -13.6, 1.1, 2.4), GOLD, sw=0.3)
-        fig.head(lozenge(0, -16.2, 0.9, 1.2), RED, sw=0.3)
+            fig.head(oval(px, py, 0.95), "#FFFFFF" if c["beard"] == "long" else RED, both=True)
+        fig.head(lozenge(0, -13.6, 1.1, 2.4), GOLD)
+        fig.head(lozenge(0, -16.2, 0.9, 1.2), RED)
     else:
         fig.head("M-6 -6C-9.4 -11 -5 -14.4 0 -13C5 -14.4 9.4 -11 6 -6Z", c["cap"])
-        fig.head("M-6.4 -5.8C-10 -11.6 -5 -15.2 0 -13.4C5 -15.2 10 -11.6 6.4 -5.8L4.8 -6C7.8 -11 4.4 -13.4 .8 -12.2"
-                "L.8 -6L-.8 -6L-.8 -12.2C-4.4 -13.4 -7.8 -11 -4.8 -6Z", GOLD, sw=0.38)
-        fig.head("M-.6 -13L-.6 -14.6L-2 -14.6L-2 -15.8L-.6 -15.8L-.6 -17.4L.6 -17.4L.6 -15.8L2 -15.8L2 -14.6"
-                "L.6 -14.6L.6 -13Z", GOLD, sw=0.3)
+        fig.head("M-6.4 -5.8C-10 -11.6 -5 -15.2 0 -13.4C5 -15.2 10 -11.6 6.4 -5.8L4.8 -6"
+                 "C7.8 -11 4.4 -13.4 .8 -12.2L.8 -6L-.8 -6L-.8 -12.2C-4.4 -13.4 -7.8 -11 -4.8 -6Z",
+                 GOLD)
+        fig.head("M-.6 -13L-.6 -14.6L-2 -14.6L-2 -15.8L-.6 -15.8L-.6 -17.4L.6 -17.4L.6 -15.8"
+                 "L2 -15.8L2 -14.6L.6 -14.6L.6 -13Z", GOLD)
         for px, py in ((6.6, -12), (7.3, -9.6), (4.6, -13.4)):
             fig.head(oval(px, py, 0.55), "#FFFFFF", sw=0.2, both=True)
     band(fig, c)
 
 
 def band(fig, c):
-    fig.head("M-6.5 -6.6C-3 -5.4 3 -5.4 6.5 -6.6L6.3 -3.9C3 -2.9 -3 -2.9 -6.3 -3.9Z", GOLD, sw=0.4)
-    fig.head(lozenge(0, -4.4, 1.1, 0.85), RED, sw=0.22)
-    fig.head(oval(3.1, -4.7, 0.65), BLUE, sw=0.22, both=True)
+    fig.head("M-6.5 -6.6C-3 -5.4 3 -5.4 6.5 -6.6L6.3 -3.9C3 -2.9 -3 -2.9 -6.3 -3.9Z", GOLD)
+    fig.head(lozenge(0, -4.4, 1.1, 0.85), RED, sw=0.25)
+    fig.head(oval(3.1, -4.7, 0.65), BLUE, sw=0.25, both=True)
     fig.head(oval(5.2, -5.1, 0.45), "#FFFFFF", sw=0.2, both=True)
 
 
 def veil(fig, c):
     fig.head("M-5 -8C-10.6 -7 -11.4 0 -11 6C-10.8 9 -12 11 -13 12.4L13 12.4C12 11 10.8 9 11 6"
-            "C11.4 0 10.6 -7 5 -8Z", c["cap"], sw=0.45)
-    fig.head("M-9.8 6C-9.6 8.4 -10.4 10.4 -11.2 11.6", stroke=GOLD if c["cap"] != GOLD else RED, sw=0.6, both=True)
+             "C11.4 0 10.6 -7 5 -8Z", c["cap"], sw=0.45)
+    fig.head("M-9.8 6C-9.6 8.4 -10.4 10.4 -11.2 11.6", stroke=GOLD if c["cap"] != GOLD else RED,
+             sw=0.6, both=True)
 
 
 def queen_head(fig, c):
     fig.head("M-2.6 5L2.6 5L3 9L-3 9Z", SKIN_SHADE, None)
-    fig.head("M-4.8 -6.6C-8.6 -5.6 -8.6 -1 -8 2C-7.4 5 -8.8 8 -9.6 10.6C-8 12.4 -5.6 12.4 -4 10.8C-4.6 8 -3.4 6 -4 3"
-            "L-4.4 -4Z", c["hair"], both=True)
-    for d in ("M-6.9 -3.6C-7.2 0 -6.4 3.4 -6.8 6C-7 8 -7.6 9.6 -8 11", "M-5.6 -2C-5.8 2 -5 4.4 -5.3 7C-5.4 8.6 -5.8 10 -6 11.4"):
-        fig.head(d, sw=0.26, both=True)
+    fig.head("M-4.8 -6.6C-8.6 -5.6 -8.6 -1 -8 2C-7.4 5 -8.8 8 -9.6 10.6"
+             "C-8 12.4 -5.6 12.4 -4 10.8C-4.6 8 -3.4 6 -4 3L-4.4 -4Z", c["hair"], both=True)
+    for d in ("M-6.9 -3.6C-7.2 0 -6.4 3.4 -6.8 6C-7 8 -7.6 9.6 -8 11",
+              "M-5.6 -2C-5.8 2 -5 4.4 -5.3 7C-5.4 8.6 -5.8 10 -6 11.4"):
+        fig.head(d, sw=0.25, both=True)
     face(fig, "Q")
-    fig.head("M0 -6.4C-3 -6.6 -5.8 -5 -5.7 .4C-4.6 -2.4 -2 -3.4 0 -5.2C2 -3.4 4.6 -2.4 5.7 .4C5.8 -5 3 -6.6 0 -6.4Z",
-            c["hair"], sw=0.32)
+    fig.head("M0 -6.4C-3 -6.6 -5.8 -5 -5.7 .4C-4.6 -2.4 -2 -3.4 0 -5.2C2 -3.4 4.6 -2.4 5.7 .4"
+             "C5.8 -5 3 -6.6 0 -6.4Z",
+             c["hair"])
     if c["flip"] > 0:
-        fig.head("M-5.8 -7L-7.4 -12.4L-4 -9.6L-2.6 -13.6L0 -9.8L2.6 -13.6L4 -9.6L7.4 -12.4L5.8 -7Z", GOLD, sw=0.4)
+        fig.head("M-5.8 -7L-7.4 -12.4L-4 -9.6L-2.6 -13.6L0 -9.8L2.6 -13.6L4 -9.6L7.4 -12.4L5.8 -7Z", GOLD)
         for px, py in ((7.4, -12.8), (2.6, -14.1)):
-            fig.head(oval(px, py, 0.85), "#FFFFFF", sw=0.28, both=True)
-        fig.head(oval(0, -11, 0.9), RED, sw=0.28)
+            fig.head(oval(px, py, 0.85), "#FFFFFF", sw=0.25, both=True)
+        fig.head(oval(0, -11, 0.9), RED, sw=0.25)
     else:
-        fig.head("M-5.8 -7C-7.6 -9 -7.6 -11.4 -6.2 -13C-5 -12 -4.2 -11 -3.6 -9.8C-3 -12 -1.6 -14 0 -15.4"
-                "C1.6 -14 3 -12 3.6 -9.8C4.2 -11 5 -12 6.2 -13C7.6 -11.4 7.6 -9 5.8 -7Z", GOLD, sw=0.4)
+        fig.head("M-5.8 -7C-7.6 -9 -7.6 -11.4 -6.2 -13C-5 -12 -4.2 -11 -3.6 -9.8"
+                 "C-3 -12 -1.6 -14 0 -15.4C1.6 -14 3 -12 3.6 -9.8C4.2 -11 5 -12 6.2 -13"
+                 "C7.6 -11.4 7.6 -9 5.8 -7Z", GOLD)
         fig.head("M0 -13.2C1 -12 1.2 -10.6 0 -9.4C-1.2 -10.6 -1 -12 0 -13.2Z", RED, sw=0.25)
-        fig.head(oval(5.6, -10, 0.7), BLUE, sw=0.22, both=True)
-    fig.head("M-6 -8.2C-3 -7.2 3 -7.2 6 -8.2L5.8 -6C3 -5.2 -3 -5.2 -5.8 -6Z", GOLD, sw=0.36)
+        fig.head(oval(5.6, -10, 0.7), BLUE, sw=0.25, both=True)
+    fig.head("M-6 -8.2C-3 -7.2 3 -7.2 6 -8.2L5.8 -6C3 -5.2 -3 -5.2 -5.8 -6Z", GOLD)
     for px, py in ((0, -6.5), (2, -6.6), (4, -6.9)):
         fig.head(oval(px, py, 0.55), "#FFFFFF", sw=0.2, both=px > 0)
-    fig.head(oval(5.4, 3.4, 0.6), GOLD, sw=0.22, both=True)
+    fig.head(oval(5.4, 3.4, 0.6), GOLD, sw=0.25, both=True)
 
 
 def jack_head(fig, c):
-    fig.head("M-4.8 -5C-8.4 -4 -7.6 1 -7.6 3C-7.6 5.4 -9 6.2 -10.4 5.8C-9.4 8.2 -6 8.6 -4.2 6.6L-3.6 3L-4.4 -4Z",
-            c["hair"], both=True)
-    for d in ("M-6.2 -3C-6.6 0 -5.8 3 -6.4 5C-6.8 6.2 -7.6 6.8 -8.6 6.8", "M-5.2 0C-5 2 -4.8 4.6 -5.2 6"):
-        fig.head(d, sw=0.26, both=True)
+    fig.head("M-4.8 -5C-8.4 -4 -7.6 1 -7.6 3C-7.6 5.4 -9 6.2 -10.4 5.8C-9.4 8.2 -6 8.6 -4.2 6.6"
+             "L-3.6 3L-4.4 -4Z",
+             c["hair"], both=True)
+    for d in ("M-6.2 -3C-6.6 0 -5.8 3 -6.4 5C-6.8 6.2 -7.6 6.8 -8.6 6.8",
+              "M-5.2 0C-5 2 -4.8 4.6 -5.2 6"):
+        fig.head(d, sw=0.25, both=True)
     face(fig, "J")
-    fig.head("M-5.5 -1C-5.2 -3 -4.6 -4.4 -3.6 -5L4.4 -5C5 -4.2 5.3 -3 5.5 -1C4.4 -2 3.8 -2.8 3.4 -3.8C1.4 -2.6 -2.6 -2.6 -4 -3.4"
-            "C-4.4 -2.6 -4.8 -1.8 -5.5 -1Z", c["hair"], sw=0.3)
-    fig.head("M-6.4 -6C-9.4 -8.4 -8 -12.6 -3 -13.2C1 -13.8 6 -12.8 8.4 -9.6C9.2 -8 8 -6.4 6.4 -6Z", c["cap"], sw=0.42)
-    fig.head("M-4.6 -7.4C-5.4 -9.4 -4.4 -11.2 -2 -12M-.6 -7.2C-1 -9.4 0 -11.4 2 -12.4M3.2 -7.2C3.4 -9 4 -10.4 5.4 -11.4",
-            sw=0.28)
-    fig.head("M-7.2 -7.2C-3 -6 3 -6 7.2 -7.2L7.4 -5.2C3 -3.8 -3 -3.8 -7.4 -5.2Z", GOLD, sw=0.4)
+    fig.head("M-5.5 -1C-5.2 -3 -4.6 -4.4 -3.6 -5L4.4 -5C5 -4.2 5.3 -3 5.5 -1"
+             "C4.4 -2 3.8 -2.8 3.4 -3.8C1.4 -2.6 -2.6 -2.6 -4 -3.4C-4.4 -2.6 -4.8 -1.8 -5.5 -1Z",
+             c["hair"])
+    fig.head("M-6.4 -6C-9.4 -8.4 -8 -12.6 -3 -13.2C1 -13.8 6 -12.8 8.4 -9.6C9.2 -8 8 -6.4 6.4 -6Z",
+             c["cap"])
+    fig.head("M-4.6 -7.4C-5.4 -9.4 -4.4 -11.2 -2 -12M-.6 -7.2C-1 -9.4 0 -11.4 2 -12.4M3.2 -7.2"
+             "C3.4 -9 4 -10.4 5.4 -11.4",
+             sw=0.25)
+    fig.head("M-7.2 -7.2C-3 -6 3 -6 7.2 -7.2L7.4 -5.2C3 -3.8 -3 -3.8 -7.4 -5.2Z", GOLD)
     for px, py in ((0, -5.3), (2.5, -5.45), (5, -5.9)):
         fig.head(lozenge(px, py, 0.7, 0.7), RED if c["cap"] != RED else BLUE, None, both=px > 0)
-    fig.head("M-6 -6.6C-9 -7.6 -12.4 -6.4 -14 -3C-15 -.8 -15.6 2 -14.2 4.4C-13.6 2.6 -13 1.4 -11.8 .4"
-             "C-11.6 1.6 -11.2 2.2 -10.2 2.8C-10.4 -.6 -9 -3.4 -6 -5.4Z", "#FFFFFF", sw=0.38)
-    fig.head("M-6.6 -6C-9.6 -5.6 -12 -3.6 -13.2 .4", sw=0.26)
-    fig.head(oval(-6.2, -6.5, 1.2), RED if c["cap"] != RED else GOLD, sw=0.3)
+    fig.head("M-6 -6.6C-9 -7.6 -12.4 -6.4 -14 -3C-15 -.8 -15.6 2 -14.2 4.4"
+             "C-13.6 2.6 -13 1.4 -11.8 .4C-11.6 1.6 -11.2 2.2 -10.2 2.8"
+             "C-10.4 -.6 -9 -3.4 -6 -5.4Z", "#FFFFFF")
+    fig.head("M-6.6 -6C-9.6 -5.6 -12 -3.6 -13.2 .4", sw=0.25)
+    fig.head(oval(-6.2, -6.5, 1.2), RED if c["cap"] != RED else GOLD)
 
 
-HX = 15.8
+HX = 15.8  # column of the hand and of what it holds
 
 
 def petal_ring(fig, x, y, n, r, size, fill):
     for i in range(n):
         a = 2 * math.pi * i / n
-        fig.add(oval(x + r * math.sin(a), y - r * math.cos(a), size), fill, sw=0.28)
+        fig.add(oval(x + r * math.sin(a), y - r * math.cos(a), size), fill, sw=0.25)
 
 
 def shaft(fig, top, fill, w=1.1):
-    fig.add(box(HX - w / 2, top, w, 20 - top), fill, sw=0.3)
+    fig.add(box(HX - w / 2, top, w, 20 - top), fill)
 
 
 def held_thing(fig, c):
     """What the hand at HX holds up, drawn before the hand."""
     kind = c["held"]
     if kind == "sword":
-        fig.add("M-1.3 -12L-1.3 -38L0 -41.6L1.3 -38L1.3 -12Z", STEEL, at=(HX, 0), sw=0.4)
-        fig.add("M0 -39L0 -12", at=(HX, 0), stroke="#7C8AA0", sw=0.4)
-        fig.add("M-5 -13.2C-3 -12.4 3 -12.4 5 -13.2L5.4 -10.8C3 -10 -3 -10 -5.4 -10.8Z", GOLD, at=(HX, 0), sw=0.38)
-        fig.add(box(-1, -11, 2, 10), RED, at=(HX, 0), sw=0.3)
+        fig.add("M-1.3 -12L-1.3 -38L0 -41.6L1.3 -38L1.3 -12Z", STEEL, at=(HX, 0))
+        fig.add("M0 -39L0 -12", at=(HX, 0), stroke="#7C8AA0")
+        fig.add("M-5 -13.2C-3 -12.4 3 -12.4 5 -13.2L5.4 -10.8C3 -10 -3 -10 -5.4 -10.8Z", GOLD,
+                at=(HX, 0))
+        fig.add(box(-1, -11, 2, 10), RED, at=(HX, 0))
     elif kind == "orb":
-        fig.add(oval(HX, -14.4, 5), BLUE, sw=0.42)
-        fig.add("M-4.9 -.9C-2 .6 2 .6 4.9 -.9L4.9 .9C2 2.2 -2 2.2 -4.9 .9ZM-.8 -4.9L.8 -4.9L.8 .2L-.8 .2Z", GOLD,
-                at=(HX, -14.4), sw=0.3)
-        fig.add("M-.7 -4.6L-.7 -7.4L-3 -7.4L-3 -9L-.7 -9L-.7 -11.4L.7 -11.4L.7 -9L3 -9L3 -7.4L.7 -7.4L.7 -4.6Z", GOLD,
-                at=(HX, -14.4), sw=0.35)
+        fig.add(oval(HX, -14.4, 5), BLUE)
+        fig.add("M-4.9 -.9C-2 .6 2 .6 4.9 -.9L4.9 .9C2 2.2 -2 2.2 -4.9 .9ZM-.8 -4.9L.8 -4.9"
+                "L.8 .2L-.8 .2Z", GOLD,
+                at=(HX, -14.4))
+        fig.add("M-.7 -4.6L-.7 -7.4L-3 -7.4L-3 -9L-.7 -9L-.7 -11.4L.7 -11.4L.7 -9L3 -9L3 -7.4"
+                "L.7 -7.4L.7 -4.6Z", GOLD,
+                at=(HX, -14.4))
         fig.add("M-3.4 -2.4C-3 -3.4 -2.4 -4 -1.6 -4.2", at=(HX, -14.4), stroke="#FFFFFF", sw=0.5)
     elif kind == "axe":
         shaft(fig, -40.5, "#8A5A2B", 1.4)
-        fig.add("M.7 -36.4L2.2 -36.8C3 -38.6 4.2 -39.8 5.4 -40.2C6.4 -36.6 6.4 -31.6 5.4 -28C4.2 -28.6 3 -29.6 2.2 -31.4"
-                "L.7 -31.8Z", STEEL, at=(HX, 0), sw=0.4, both=True)
-        fig.add("M4.4 -39C5.1 -36 5.1 -32 4.4 -29.2", at=(HX, 0), stroke="#7C8AA0", sw=0.35, both=True)
-        fig.add(box(-1.2, -37, 2.4, 5.8), GOLD, at=(HX, 0), sw=0.35)
-        fig.add(oval(HX, -41, 1.1), GOLD, sw=0.3)
+        fig.add("M.7 -36.4L2.2 -36.8C3 -38.6 4.2 -39.8 5.4 -40.2C6.4 -36.6 6.4 -31.6 5.4 -28"
+                "C4.2 -28.6 3 -29.6 2.2 -31.4L.7 -31.8Z", STEEL, at=(HX, 0), both=True)
+        fig.add("M4.4 -39C5.1 -36 5.1 -32 4.4 -29.2", at=(HX, 0), stroke="#7C8AA0", both=True)
+        fig.add(box(-1.2, -37, 2.4, 5.8), GOLD, at=(HX, 0))
+        fig.add(oval(HX, -41, 1.1), GOLD)
     elif kind == "sceptre":
         shaft(fig, -32, GOLD, 1.5)
         for y in (-28, -20, -13.4):
-            fig.add(oval(HX, y, 1.4, 0.8), RED, sw=0.28)
-        fig.add("M0 -42C1.8 -39.6 2 -37.2 1 -34.6C2.2 -38 5.4 -38.6 5.8 -36C6 -34.4 4.2 -33.6 3.6 -34.6C3.4 -32.6 2 -31.8 0 -31.8"
-                "C-2 -31.8 -3.4 -32.6 -3.6 -34.6C-4.2 -33.6 -6 -34.4 -5.8 -36C-5.4 -38.6 -2.2 -38 -1 -34.6C-2 -37.2 -1.8 -39.6 0 -42Z",
-                GOLD, at=(HX, 0), sw=0.38)
-        fig.add(box(-2.6, -33, 5.2, 1.6), BLUE, at=(HX, 0), sw=0.3)
+            fig.add(oval(HX, y, 1.4, 0.8), RED, sw=0.25)
+        fig.add("M0 -42C1.8 -39.6 2 -37.2 1 -34.6C2.2 -38 5.4 -38.6 5.8 -36"
+                "C6 -34.4 4.2 -33.6 3.6 -34.6C3.4 -32.6 2 -31.8 0 -31.8"
+                "C-2 -31.8 -3.4 -32.6 -3.6 -34.6C-4.2 -33.6 -6 -34.4 -5.8 -36"
+                "C-5.4 -38.6 -2.2 -38 -1 -34.6C-2 -37.2 -1.8 -39.6 0 -42Z",
+                GOLD, at=(HX, 0))
+        fig.add(box(-2.6, -33, 5.2, 1.6), BLUE, at=(HX, 0))
     elif kind == "halberd":
         shaft(fig, -34, "#8A5A2B", 1.3)
-        fig.add("M-1 -33L0 -42.2L1 -33Z", STEEL, at=(HX, 0), sw=0.38)
-        fig.add("M.6 -33.6C2.4 -34 4.4 -35.4 5.8 -37.4C7 -33.4 6.6 -29.6 4.6 -26.4C4 -28.4 2.6 -29.4 .6 -29.6Z", STEEL,
-                at=(HX, 0), sw=0.4)
-        fig.add("M-.6 -33.2L-5 -34.4L-2.6 -31.4L-5 -28.6L-.6 -29.8Z", STEEL, at=(HX, 0), sw=0.38)
-        fig.add(box(-1.1, -34, 2.2, 5), GOLD, at=(HX, 0), sw=0.32)
-        fig.add("M-1 -28C-3 -25 -1.6 -23.4 -2.4 -21L0 -22.6L2.4 -21C1.6 -23.4 3 -25 1 -28Z", RED, at=(HX, 0), sw=0.32)
+        fig.add("M-1 -33L0 -42.2L1 -33Z", STEEL, at=(HX, 0))
+        fig.add("M.6 -33.6C2.4 -34 4.4 -35.4 5.8 -37.4C7 -33.4 6.6 -29.6 4.6 -26.4"
+                "C4 -28.4 2.6 -29.4 .6 -29.6Z", STEEL,
+                at=(HX, 0))
+        fig.add("M-.6 -33.2L-5 -34.4L-2.6 -31.4L-5 -28.6L-.6 -29.8Z", STEEL, at=(HX, 0))
+        fig.add(box(-1.1, -34, 2.2, 5), GOLD, at=(HX, 0))
+        fig.add("M-1 -28C-3 -25 -1.6 -23.4 -2.4 -21L0 -22.6L2.4 -21C1.6 -23.4 3 -25 1 -28Z", RED,
+                at=(HX, 0))
     elif kind == "pennant":
         shaft(fig, -36, "#8A5A2B", 1.2)
-        fig.add("M-1.5 -36.4L0 -42L1.5 -36.4L0 -35.4Z", STEEL, at=(HX, 0), sw=0.36)
-        fig.add("M.6 -34.6C3 -36 4.6 -33.6 7.2 -34.8L5.6 -31.6L7.2 -28.2C4.6 -27 3 -29.4 .6 -28Z", GREEN, at=(HX, 0), sw=0.38)
-        fig.add("M.6 -32.6C3 -34 4.4 -31.6 6.2 -32.6L5.6 -31.6L6.2 -30.2C4.4 -29.4 3 -31.4 .6 -30Z", GOLD, None, at=(HX, 0))
+        fig.add("M-1.5 -36.4L0 -42L1.5 -36.4L0 -35.4Z", STEEL, at=(HX, 0))
+        fig.add("M.6 -34.6C3 -36 4.6 -33.6 7.2 -34.8L5.6 -31.6L7.2 -28.2C4.6 -27 3 -29.4 .6 -28Z",
+                GREEN, at=(HX, 0))
+        fig.add("M.6 -32.6C3 -34 4.4 -31.6 6.2 -32.6L5.6 -31.6L6.2 -30.2C4.4 -29.4 3 -31.4 .6 -30Z",
+                GOLD, None, at=(HX, 0))
     elif kind == "arrow":
         shaft(fig, -36, "#8A5A2B", 1.1)
-        fig.add("M0 -42.4L3.4 -35L.6 -36.2L-.6 -36.2L-3.4 -35Z", STEEL, at=(HX, 0), sw=0.38)
+        fig.add("M0 -42.4L3.4 -35L.6 -36.2L-.6 -36.2L-3.4 -35Z", STEEL, at=(HX, 0))
         for y in (-24, -20.8, -17.6):
-            fig.add(f"M.5 {y}L3.6 {y - 3}L3.6 {y - .4}L.5 {y + 2.6}Z", RED if y != -20.8 else "#FFFFFF", at=(HX, 0), sw=0.3, both=True)
+            fig.add(f"M.5 {y}L3.6 {y - 3}L3.6 {y - .4}L.5 {y + 2.6}Z",
+                    RED if y != -20.8 else "#FFFFFF", at=(HX, 0), both=True)
     elif kind == "laurel":
         fig.add("M0 -4C1 -14 -.6 -26 .4 -38", at=(HX, 0), stroke="#2A5B39", sw=0.8)
         for i, y in enumerate((-13, -18, -23, -28, -33)):
             leaf = "M0 0C1 -3.4 3.2 -5 6 -5.4C5.8 -2.4 4 -.2 0 0Z"
-            fig.add(leaf, GREEN, at=(HX, y), sw=0.32, both=True)
-            fig.add(oval(HX + (1.5 if i % 2 else -1.5), y + 1.5, 0.75), RED, sw=0.24)
-        fig.add("M0 0C-2.2 -2.4 -2.2 -5 0 -7.4C2.2 -5 2.2 -2.4 0 0Z", GREEN, at=(HX + 0.4, -35), sw=0.32)
+            fig.add(leaf, GREEN, at=(HX, y), both=True)
+            fig.add(oval(HX + (1.5 if i % 2 else -1.5), y + 1.5, 0.75), RED, sw=0.25)
+        fig.add("M0 0C-2.2 -2.4 -2.2 -5 0 -7.4C2.2 -5 2.2 -2.4 0 0Z", GREEN, at=(HX + 0.4, -35))
     elif kind == "star":
         shaft(fig, -31, GOLD, 1.3)
         pts = [(5.6 if i % 2 == 0 else 2.3, math.pi * i / 5) for i in range(10)]
-        fig.add(polygon(pts, HX, -35.6), GOLD, sw=0.4)
-        fig.add(oval(HX, -35.6, 1.4), BLUE, sw=0.3)
+        fig.add(polygon(pts, HX, -35.6), GOLD)
+        fig.add(oval(HX, -35.6, 1.4), BLUE)
         for y in (-29, -21, -13.4):
-            fig.add(oval(HX, y, 1.3, 0.8), BLUE, sw=0.28)
+            fig.add(oval(HX, y, 1.3, 0.8), BLUE, sw=0.25)
     else:
         flower(fig, kind)
 
@@ -725,32 +790,32 @@ def held_thing(fig, c):
 def flower(fig, kind):
     x, y = HX, -23.5
     fig.add(f"M{x} -4C{x + .8} -10 {x - .8} -16 {x} {y}", stroke="#2A5B39", sw=0.9)
-    fig.add("M0 0C1 -3 2.8 -4.4 5.6 -4.8C5.2 -2 3.4 -.2 0 0Z", GREEN, at=(x, -11.6), sw=0.32, both=True)
+    fig.add("M0 0C1 -3 2.8 -4.4 5.6 -4.8C5.2 -2 3.4 -.2 0 0Z", GREEN, at=(x, -11.6), both=True)
     if kind == "rose":
         petal_ring(fig, x, y, 5, 2.9, 2.3, RED)
         petal_ring(fig, x, y, 5, 1.3, 1.3, "#E8566B")
-        fig.add(oval(x, y, 0.9), GOLD, sw=0.26)
+        fig.add(oval(x, y, 0.9), GOLD, sw=0.25)
     elif kind == "daisy":
         petal_ring(fig, x, y, 8, 3.4, 1.35, "#FFFFFF")
-        fig.add(oval(x, y, 2.1), GOLD, sw=0.32)
+        fig.add(oval(x, y, 2.1), GOLD)
     else:
-        fig.add("M0 3C-5 2 -6 -3 -4.4 -6.4C-3 -5.4 -2 -4.4 -1.4 -2.8C-1.4 -5 -.8 -7 0 -8.4C.8 -7 1.4 -5 1.4 -2.8"
-                "C2 -4.4 3 -5.4 4.4 -6.4C6 -3 5 2 0 3Z", GOLD, at=(x, y), sw=0.4)
-        fig.add("M0 2.4C-1.6 0 -1.4 -3 0 -6C1.4 -3 1.6 0 0 2.4Z", RED, at=(x, y), sw=0.28)
+        fig.add("M0 3C-5 2 -6 -3 -4.4 -6.4C-3 -5.4 -2 -4.4 -1.4 -2.8C-1.4 -5 -.8 -7 0 -8.4"
+                "C.8 -7 1.4 -5 1.4 -2.8C2 -4.4 3 -5.4 4.4 -6.4C6 -3 5 2 0 3Z", GOLD, at=(x, y))
+        fig.add("M0 2.4C-1.6 0 -1.4 -3 0 -6C1.4 -3 1.6 0 0 2.4Z", RED, at=(x, y), sw=0.25)
 
 
 def arm(fig, c, rank):
-    fig.add("M8.4 8C8.6 2.6 10.2 -1 11.4 -3L19.4 -3C21 -.6 22.8 3 24 8Z", c["tunic"], sw=0.42)
-    fig.add("M12.4 0C11.6 2 11 4 10.8 6M15.4 0L15.4 6M18.4 0C19.4 2 20 4 20.2 6", sw=0.28,
+    fig.add("M8.4 8C8.6 2.6 10.2 -1 11.4 -3L19.4 -3C21 -.6 22.8 3 24 8Z", c["tunic"])
+    fig.add("M12.4 0C11.6 2 11 4 10.8 6M15.4 0L15.4 6M18.4 0C19.4 2 20 4 20.2 6", sw=0.25,
             stroke=GOLD if c["tunic"] != GOLD else RED)
     fig.add("M10.4 -5.2C13.6 -4 17.2 -4 20.4 -5.2L20 -1.8C17 -.6 13.8 -.6 10.8 -1.8Z",
-            "#FFFFFF" if rank != "K" else GOLD, sw=0.4)
+            "#FFFFFF" if rank != "K" else GOLD)
     for x in (12.4, 15.4, 18.4):
         fig.add(oval(x, -2.9, 0.55), c["mantle"] if c["mantle"] != GOLD else RED, None)
-    fig.add("M12.4 -4.8C11.8 -6.6 11.8 -8.6 12.6 -9.6C14 -10.4 17 -10.4 18.3 -9.6C19 -8.6 19 -6.6 18.4 -4.8"
-            "C16.6 -4 14.2 -4 12.4 -4.8Z", SKIN, sw=0.4)
-    fig.add("M12.2 -8.3L16 -8.2C16.8 -8 16.8 -7.2 16 -7L12 -7M12.1 -5.8L15.6 -5.7C16.3 -5.9 16.3 -6.8 15.8 -7"
-            "M17 -9.6C17.6 -8.6 17.5 -7 17 -6", stroke=SKIN_LINE, sw=0.32)
+    fig.add("M12.4 -4.8C11.8 -6.6 11.8 -8.6 12.6 -9.6C14 -10.4 17 -10.4 18.3 -9.6"
+            "C19 -8.6 19 -6.6 18.4 -4.8C16.6 -4 14.2 -4 12.4 -4.8Z", SKIN)
+    fig.add("M12.2 -8.3L16 -8.2C16.8 -8 16.8 -7.2 16 -7L12 -7M12.1 -5.8L15.6 -5.7"
+            "C16.3 -5.9 16.3 -6.8 15.8 -7M17 -9.6C17.6 -8.6 17.5 -7 17 -6", stroke=SKIN_LINE)
 
 
 def sash(c):
@@ -765,7 +830,8 @@ def sash(c):
     out = [element(strip(2.3), INK), element(strip(1.9), GOLD), element(strip(1.2), CREAM)]
     for i in range(-7, 8):
         x = i * 3
-        out.append(element(lozenge(MID_X + f * x, MID_Y + SLOPE * x, 0.95, 0.95), RED if i % 2 else BLUE))
+        out.append(element(lozenge(MID_X + f * x, MID_Y + SLOPE * x, 0.95, 0.95),
+                   RED if i % 2 else BLUE))
     return "".join(out)
 
 
@@ -780,20 +846,24 @@ def court(value, suit):
     arm(fig, c, value)
     pip = placed(SUIT_PATHS[suit], MID_X - c["flip"] * 16.8, MID_Y - 36.8, 9.4, 10)
     half = "".join(fig.out) + Figure.styled(pip, colour_of(suit), None, 0)
-    x, y, w, h = MID_X - 23.8, MID_Y - 44, 47.6, 88
-    out = [f'<rect x="{num(x)}" y="{num(y)}" width="{w}" height="{h}" rx="1.2" fill="{BLUE}"/>',
-           f'<rect x="{num(x + .5)}" y="{num(y + .5)}" width="{num(w - 1)}" height="{num(h - 1)}" rx=".8" fill="{GOLD}"/>',
-           f'<rect x="{num(x + 1)}" y="{num(y + 1)}" width="{num(w - 2)}" height="{num(h - 2)}" fill="{CREAM}"/>',
-           f'<g {HALF_STYLE}>{half}</g>',
-           f'<g {HALF_STYLE} transform="rotate(180 {MID_X} {num(MID_Y)})">{half}</g>', sash(c),
-           f'<rect x="{num(x + 1)}" y="{num(y + 1)}" width="{num(w - 2)}" height="{num(h - 2)}" fill="none"'
-           f' stroke="{BLUE}" stroke-width=".5"/>']
-    return "".join(out)
+    turned = f'transform="rotate(180 {num(MID_X)} {num(MID_Y)})"'
+    return (frame(0, f'rx="1.2" fill="{BLUE}"') + frame(0.5, f'rx=".8" fill="{GOLD}"')
+            + frame(1, f'fill="{CREAM}"') + f"<g {HALF_STYLE}>{half}</g>"
+            + f"<g {HALF_STYLE} {turned}>{half}</g>" + sash(c)
+            + frame(1, f'fill="none" stroke="{BLUE}" stroke-width=".5"'))
+
+
+def frame(inset, style):
+    """Rectangle around the figures, inset from the greatest one the patches allow."""
+    w, h = 47.6 - 2 * inset, 88 - 2 * inset
+    return (f'<rect x="{num(MID_X - w / 2)}" y="{num(MID_Y - h / 2)}" width="{num(w)}" '
+            f'height="{num(h)}" {style}/>')
 
 
 # ---------------------------------------------------------------- whole cards
 
-FACE = ('<rect x=".5" y=".5" width="70" height="95" rx="4" fill="#FFFFFF" stroke="#8E8E96" stroke-width="1"/>')
+FACE = ('<rect x=".5" y=".5" width="70" height="95" rx="4" fill="#FFFFFF" stroke="#8E8E96" '
+        'stroke-width="1"/>')
 HEADER = '<svg xmlns="http://www.w3.org/2000/svg" width="71" height="96" viewBox="0 0 71 96">'
 
 
@@ -830,14 +900,18 @@ def back():
         co, si = math.cos(math.radians(i * 22.5)), math.sin(math.radians(i * 22.5))
         petals += element(moved(thin if i % 2 else leaf, lambda x, y: (
             cx + x * co - y * si, cy + x * si + y * co)), light if i % 2 else GOLD)
-    ring = "".join(oval(cx + 12.4 * math.sin(math.radians(i * 15)), cy - 12.4 * math.cos(math.radians(i * 15)), 0.5)
+    ring = "".join(oval(cx + 12.4 * math.sin(math.radians(i * 15)),
+                   cy - 12.4 * math.cos(math.radians(i * 15)), 0.5)
                    for i in range(24))
     return (f'{HEADER}\n<g id="face">{FACE}'
             f'<rect x="3.5" y="3.5" width="64" height="89" rx="2.6" fill="{deep}"/>'
-            f'<rect x="5" y="5" width="61" height="86" rx="1.6" fill="none" stroke="{GOLD}" stroke-width=".7"/>'
-            f'<rect x="6.6" y="6.6" width="57.8" height="82.8" rx=".8" fill="none" stroke="{light}" stroke-width=".5"/>'
+            f'<rect x="5" y="5" width="61" height="86" rx="1.6" fill="none" stroke="{GOLD}" '
+            'stroke-width=".7"/>'
+            f'<rect x="6.6" y="6.6" width="57.8" height="82.8" rx=".8" fill="none" stroke="{light}" '
+            'stroke-width=".5"/>'
             + element(lines, "none", light, 0.42) + element(dots, light)
-            + element(oval(cx, cy, 14.6), deep, light, 0.5) + element(oval(cx, cy, 13.7), "none", GOLD, 0.6)
+            + element(oval(cx, cy, 14.6), deep, light, 0.5) + element(oval(cx, cy, 13.7), "none",
+                      GOLD, 0.6)
             + element(ring, GOLD) + element(oval(cx, cy, 11.2), "none", light, 0.4) + petals
             + element(oval(cx, cy, 2.2), deep, GOLD, 0.6) + element(oval(cx, cy, 0.9), GOLD)
             + "</g>\n</svg>\n")
