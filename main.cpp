@@ -1,4 +1,6 @@
 #include "platform/platform.h"
 #include "shell/Program.h"
 
-int main(int argc, char** argv) { return platform::Run(argc, argv, fncStartProgram); }
+int main(int argc, char** argv) {
+  return platform::Run(argc, argv, fncStartProgram);
+}

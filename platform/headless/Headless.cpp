@@ -248,11 +248,10 @@ void End() {
 namespace headless {
 
 void Reset(const std::string& folder, std::uint32_t start) {
-  const std::vector<Window*> loaded = fncWindows();
-  state = State{};
-  for (Window* window : loaded) {
-    prcForgetWindow(*window);
+  while (!fncWindows().empty()) {
+    prcForgetWindow(*fncWindows().back());
   }
+  state = State{};
   state.Start = start;
   state.Folder = folder;
   prcSetCurrency(CurrencyStyle{});
