@@ -1,7 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
+#include "platform/Control.h"
 #include "platform/Numbers.h"
 #include "table/TableState.h"
 
@@ -25,23 +27,28 @@ extern Integer intMarkCardNumber;  ///< The card being opened.
 extern bool blnAutoDeal;
 extern Integer intAutoDealDelay;  ///< Seconds.
 
+inline constexpr Colour clrDarkRed{192, 0, 0};
+inline constexpr Colour clrDarkBlue{0, 0, 128};
+inline constexpr Colour clrTieGreen{0, 192, 0};
+
 /// What one hand leaves on a card.
 struct Mark {
-  Integer Row, Column;       ///< Row from 1, column from 0.
-  bool FirstResult = false;  ///< The headings are due, beginning with this result.
-  bool TotalDue = false;     ///< A score stands above the column.
-  bool NewTotal = false;     ///< The label of that score has to be made.
+  /// Row from 1, column from 0. Row 0 for an ignored tie that no result has gone before.
+  Integer Row, Column;
+  std::string Heading;  ///< "B" or "P" when the headings are due: the letter over column 0.
+  std::optional<Integer> Total;  ///< The score to show above the column; nothing before the first.
+  bool NewTotal = false;         ///< The label of that score has to be made.
+  Colour Border;
   bool Oval = false;
   bool TieLine = false;    ///< An ignored tie: a thin line without text.
   bool AboveCard = false;  ///< An ignored tie before the first result.
   std::string Caption;
-  std::optional<bool>
-      Negative;  ///< Sign of the hand's units for the text colour; nothing when it had none.
+  bool Negative = false;  ///< The hand lost units. A hand without units lost none.
 };
 
 /// Places the hand just dealt on card 0..8 by its running values, which it moves on, and the state
-/// of the card's shoe.
-Mark fncPlaceMark(Integer card);
+/// of the card's shoe. A card outside is a fault, and so is a score beyond an Integer.
+Mark fncPlaceMark(const Integer& card);
 
 /// Puts the running values and settings of all nine cards back to how the program starts.
 void prcResetMarkState();

@@ -1,0 +1,313 @@
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+#include "marking/MarkCard.h"
+#include "marking/MarkState.h"
+#include "platform/Procedure.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+#include "table/HandDealing.h"
+#include "table/Shoe.h"
+#include "table/Waits.h"
+
+namespace {
+
+// Twips.
+constexpr double dblFrameMargin = 500;  ///< Of the frame's width that the card leaves free.
+constexpr double dblBelowCard = 1200;   ///< Of the frame's height that is not the card's.
+constexpr double dblMostHeight = 3855;
+constexpr double dblLeftShift = 150;
+constexpr double dblPictureWidth = 30000;
+constexpr double dblBarWidth = 225;
+constexpr double dblInset = 15;  ///< From the drawing area's edge to its rectangle and rules.
+
+constexpr double dblShuffleDelay = 2;  ///< Seconds before automatic dealing shuffles an ended shoe.
+
+/// The places that a card's section of the settings file holds.
+std::array<std::pair<const char*, double*>, 4> fncStoredPlace(Window& form) {
+  return {
+      {{"Top", &form.Top}, {"Left", &form.Left}, {"Height", &form.Height}, {"Width", &form.Width}}};
+}
+
+std::string fncSection(const Integer& card) {
+  return "frmMarkCard" + std::to_string(int{card});
+}
+
+/// The card that a window or a control on it belongs to, loaded or being loaded.
+MarkCardWindow& fncOwner(const Window& window) {
+  const auto owner = std::ranges::find_if(
+      MarkCards, [&](const MarkCardWindow& form) { return &form.Form == &window; });
+  if (owner == MarkCards.end()) {
+    throw faultSubscript;
+  }
+  return *owner;
+}
+
+void prcPlaceForm(Window& form) {
+  At(20);
+  prcBelowTable(form);
+  At(30);
+  form.Width = MDIForm1.Form.Width - dblFrameMargin;
+  At(40);
+  form.Height = std::min(MDIForm1.Form.Height - form.Top - dblBelowCard, dblMostHeight);
+  At(50);
+  form.Left = (MDIForm1.Form.Width - form.Width) / 2 - dblLeftShift;
+}
+
+/// Rules every third row below the headings, so that the eye finds its row.
+void prcMakeRules(MarkCardWindow& form) {
+  for (int n = 2; n <= intLastRule; ++n) {
+    Control& line = fncMakeElement(form, form.lneHLine, n);
+    line.X1 = dblInset;
+    line.X2 = form.Shape1.Width + dblInset;
+    line.Y1 = line.Y2 = form.lneHLine[1].Y1 + (n - 1) * intRowsBetweenRules * intRowPitch;
+    line.BorderWidth = 1;
+    line.Visible = true;
+  }
+}
+
+void prcSetDealInterval(MarkCardWindow& form) {
+  form.tmrDeal.Interval = intAutoDealDelay * 1000;
+}
+
+void Picture1_Resize(Control& picture) {
+  Guarded("MarkCard_Picture1_Resize", [&] {
+    At(10);
+    MarkCardWindow& form = fncOwner(*picture.Form);
+    form.Shape1.Left = form.Shape1.Top = dblInset;
+    form.Shape1.Width = picture.Width - 3 * dblInset;
+    form.Shape1.Height = picture.Height - 3 * dblInset;
+    At(20);
+    for (auto& [n, line] : form.lneHLine) {
+      line.X1 = dblInset;
+      line.X2 = form.Shape1.Width + dblInset;
+    }
+  });
+}
+
+void HScroll1_Change(Control& bar) {
+  fncOwner(*bar.Form).Picture1.Left = -bar.Value;
+}
+
+void VScroll1_Change(Control& bar) {
+  fncOwner(*bar.Form).Picture1.Top = -bar.Value;
+}
+
+void Timer1_Timer(Control& timer) {
+  prcBelowTable(*timer.Form);
+  timer.Enabled = false;
+}
+
+void tmrDeal_Tick(Control& timer) {
+  tmrDeal_Timer(fncOwner(*timer.Form));
+}
+
+constexpr ControlEvents evtPicture{.Resize = Picture1_Resize};
+constexpr ControlEvents evtHScroll{.Change = HScroll1_Change};
+constexpr ControlEvents evtVScroll{.Change = VScroll1_Change};
+constexpr ControlEvents evtTimer{.Timer = Timer1_Timer};
+constexpr ControlEvents evtDeal{.Timer = tmrDeal_Tick};
+
+void prcJoinEvents(MarkCardWindow& form) {
+  form.Picture1.On = &evtPicture;
+  form.HScroll1.On = &evtHScroll;
+  form.VScroll1.On = &evtVScroll;
+  form.Timer1.On = &evtTimer;
+  form.tmrDeal.On = &evtDeal;
+}
+
+void Form_Load(Window& window) {
+  Guarded("MarkCard_Form_Load", [&] {
+    MarkCardWindow& form = fncOwner(window);
+    prcLayOutMarkCard(form);
+    prcJoinEvents(form);
+    At(10);
+    for (const auto& [key, place] : fncStoredPlace(window)) {
+      *place = fncGetSetting(fncSection(intMarkCardNumber), key);
+    }
+    prcPlaceForm(window);
+    At(60);
+    prcMakeRules(form);
+    At(70);
+    form.Picture1.Left = form.Picture1.Top = 0;
+    prcResizePicture(form.Picture1, dblPictureWidth,
+                     form.shpTBP[0].Top + intRowsBeforeGrowth * intRowPitch);
+    intMarkCardBase = fncInteger(form.Picture1.Height);
+    At(80);
+    form.VScroll1.Width = form.HScroll1.Height = dblBarWidth;
+    At(90);
+    prcSetDealInterval(form);
+    At(100);
+    prcToFront(window);
+  });
+}
+
+void Form_Unload(Window& window, bool& /*blnCancel*/) {
+  Guarded("MarkCard_Form_Unload", [&] {
+    At(10);
+    const Integer card = fncMarkCardNumber(window);
+    if (card >= 0) {
+      At(20);
+      for (const auto& [key, place] : fncStoredPlace(window)) {
+        prcWriteSetting(fncSection(card), key, *place);
+      }
+    }
+    At(30);
+    RemoveCardViewForm(fncOwner(window));
+  });
+}
+
+void Form_Activate(Window& window) {
+  Guarded("MarkCard_Form_Activate", [&] {
+    At(10);
+    fncOwner(window).Timer1.Enabled = false;
+  });
+}
+
+void Form_Resize(Window& window) {
+  const Integer card = fncMarkCardNumber(window);
+  if (window.Visible && card >= 0) {
+    prcMarkCardResize(card);
+  }
+}
+
+void Form_KeyDown(Window& /*window*/, const std::string& strKey, int intShift) {
+  constexpr int intAllMasks = intShiftMask | intCtrlMask | intAltMask;
+  if (strKey == "F12" && (intShift & intAllMasks) == intAllMasks) {
+    BaccTable.Form.Visible = !BaccTable.Form.Visible;
+  }
+}
+
+constexpr WindowEvents evtMarkCard{.Load = Form_Load,
+                                   .Unload = Form_Unload,
+                                   .Activate = Form_Activate,
+                                   .Resize = Form_Resize,
+                                   .KeyDown = Form_KeyDown};
+
+/// A bar that is not needed stands just outside of the inner area.
+void prcPlaceBars(MarkCardWindow& form) {
+  const double width = form.Form.ScaleWidth, height = form.Form.ScaleHeight;
+  Control& across = form.HScroll1;
+  Control& down = form.VScroll1;
+  At(10);
+  across.Left = down.Top = 0;
+  At(20);
+  across.Top = form.Picture1.Width > width ? height - across.Height : height;
+  At(30);
+  down.Left = form.Picture1.Height > across.Top ? width - down.Width : width;
+  At(40);
+  form.ScrollCorner.Visible = false;
+  At(50);
+  const bool blnDownSeen = down.Left < width;
+  across.Width = blnDownSeen ? width - down.Width : width;
+  At(60);
+  if (across.Top > 0) {
+    down.Height = across.Top;
+  }
+  At(70);
+  if (blnDownSeen) {
+    form.ScrollCorner.Top = down.Height - dblInset;
+    form.ScrollCorner.Left = across.Width - dblInset;
+    form.ScrollCorner.Visible = true;
+  }
+}
+
+/// The steps of a bar by its range, in whole twips. A value that the range no longer holds moves to
+/// its end.
+void prcSetSteps(Control& bar) {
+  const std::int64_t range = fncRound(bar.Max);
+  bar.SmallChange = static_cast<double>(std::abs(fncDivide(range, 16)) + 1);
+  bar.LargeChange = static_cast<double>(std::abs(fncDivide(range, 4)) + 1);
+  prcSetValue(bar, bar.Value);
+}
+
+/// Whether a shoe has a hand left before its next shuffle.
+bool fncInPlay(const Integer& shoe) {
+  return blnShuffled[shoe] && !blnEndOfShoe[shoe];
+}
+
+/// Shuffles a card's own shoe after a pause in which the last mark can be seen. The timer rests
+/// meanwhile, or its next tick would begin a second shuffle within the first.
+void prcShuffleOwnShoe(MarkCardWindow& form, const Integer& shoe) {
+  const bool blnRuns = form.tmrDeal.Enabled;
+  form.tmrDeal.Enabled = false;
+  prcWaitSeconds(dblShuffleDelay);
+  Shuffle(shoe);
+  for (int j = 0; j < intShoes; ++j) {
+    if (j != shoe && intMarkCardShoe[j] == shoe) {
+      ClearCardView(j);
+    }
+  }
+  form.tmrDeal.Enabled = blnRuns;
+}
+
+}  // namespace
+
+void prcBelowTable(Window& form) {
+  const double bottom = BaccTable.Form.Top + BaccTable.Form.Height;
+  form.Top = std::max(form.Top, bottom);
+}
+
+void prcPrepareMarkCard(MarkCardWindow& form) {
+  form.Form.Name = "MarkCard";
+  form.Form.Kind = WindowKind::Child;
+  form.Form.Sizable = true;
+  form.Form.CloseBox = false;
+  form.Form.On = &evtMarkCard;
+}
+
+void prcMarkCardResize(const Integer& card) {
+  Guarded("prcMarkCardResize", [&] {
+    MarkCardWindow* form = fncMarkCard(card);
+    if (form == nullptr) {
+      return;
+    }
+    prcPlaceBars(*form);
+    At(80);
+    form->HScroll1.Max = form->Picture1.Width - form->VScroll1.Left;
+    form->VScroll1.Max = form->Picture1.Height - form->HScroll1.Top;
+    At(90);
+    prcSetSteps(form->HScroll1);
+    prcSetSteps(form->VScroll1);
+    At(100);
+    prcControlToFront(form->HScroll1);
+    prcControlToFront(form->VScroll1);
+  });
+}
+
+void tmrDeal_Timer(MarkCardWindow& form) {
+  Guarded("tmrDeal_Timer", [&] {
+    At(10);
+    prcSetDealInterval(form);
+    At(20);
+    if (!blnAutoDeal) {
+      return;
+    }
+    At(30);
+    const Integer k = fncMarkCardNumber(form.Form);
+    if (k < 0 || intMarkCardShoe[k] != k) {
+      return;
+    }
+    At(40);
+    if (!fncInPlay(k)) {
+      prcShuffleOwnShoe(form, k);
+      if (fncMarkCardNumber(form.Form) != k) {
+        return;  // The card was closed meanwhile.
+      }
+    }
+    At(50);
+    ZNEW_DealHand(k);
+    At(60);
+    varHandUnits[k] = std::nullopt;
+    intHandsDealt[k] += 1;
+    At(70);
+    for (int j = 0; j < intShoes; ++j) {
+      if (intMarkCardShoe[j] == k) {
+        SetCardView(j);
+      }
+    }
+  });
+}
