@@ -5,23 +5,21 @@
 /// Cards: 1..52 are the faces in card number order, 53 is the back. 71 by 96 pixels at scale 1.
 inline constexpr int picCardBack = 53;
 
-enum PictureNumber : int {
-  picIcon = 100,
-  picTile,  ///< 300 by 300, tiled over the frame's ground.
-  picFelt,
-  picChip0,
-  picChip1,
-  picChip2,
-  picChip5,
-  picLogo,
-  picStart,
-  picBullet,
-  picHandUp,
-  picHandRight,
-  picShoe,
-  /// Toolbar images 1..21 stand at picToolbar + 1 to picToolbar + 21; 19 is not used.
-  picToolbar = 200
-};
+inline constexpr int picIcon = 100;
+inline constexpr int picTile = 101;  ///< 300 by 300, tiled over the frame's ground.
+inline constexpr int picFelt = 102;
+inline constexpr int picChip0 = 103;
+inline constexpr int picChip1 = 104;
+inline constexpr int picChip2 = 105;
+inline constexpr int picChip5 = 106;
+inline constexpr int picLogo = 107;
+inline constexpr int picStart = 108;
+inline constexpr int picBullet = 109;
+inline constexpr int picHandUp = 110;
+inline constexpr int picHandRight = 111;
+inline constexpr int picShoe = 112;
+/// Toolbar images 1..21 stand at picToolbar + 1 to picToolbar + 21; 19 is not used.
+inline constexpr int picToolbar = 200;
 
 struct PictureFile {
   int Number;

@@ -12,9 +12,7 @@ std::map<std::string, MarkCardWindow*> colMarkCards;
 
 namespace {
 
-std::string fncHandleText(const Long& handle) {
-  return std::to_string(std::int32_t{handle});
-}
+std::string fncHandleText(const Long& handle) { return std::to_string(std::int32_t{handle}); }
 
 MarkCardWindow* fncWindowOf(const Long& handle) {
   const auto found = colMarkCards.find(fncHandleText(handle));
@@ -49,9 +47,7 @@ void prcEmptyFamily(ControlFamily& family) {
   std::erase_if(family, [](const auto& entry) { return entry.first > 0; });
 }
 
-Colour fncTextColour(bool negative) {
-  return negative ? clrDarkRed : clrWindowText;
-}
+Colour fncTextColour(bool negative) { return negative ? clrDarkRed : clrWindowText; }
 
 /// Puts an element where column c has it.
 void prcAtColumn(Control& element, const ControlFamily& family, const Integer& column) {
@@ -172,9 +168,7 @@ void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
 
 }  // namespace
 
-MarkCardWindow* fncMarkCard(Integer card) {
-  return fncWindowOf(lngMarkCardHwnd[card]);
-}
+MarkCardWindow* fncMarkCard(Integer card) { return fncWindowOf(lngMarkCardHwnd[card]); }
 
 Integer fncMarkCardNumber(const Window& form) {
   for (int card = 0; card < intShoes; ++card) {

@@ -32,9 +32,7 @@ std::array<std::pair<const char*, double*>, 4> fncStoredPlace(Window& form) {
       {{"Top", &form.Top}, {"Left", &form.Left}, {"Height", &form.Height}, {"Width", &form.Width}}};
 }
 
-std::string fncSection(const Integer& card) {
-  return "frmMarkCard" + std::to_string(int{card});
-}
+std::string fncSection(const Integer& card) { return "frmMarkCard" + std::to_string(int{card}); }
 
 /// The card that a window or a control on it belongs to, loaded or being loaded.
 MarkCardWindow& fncOwner(const Window& window) {
@@ -69,9 +67,7 @@ void prcMakeRules(MarkCardWindow& form) {
   }
 }
 
-void prcSetDealInterval(MarkCardWindow& form) {
-  form.tmrDeal.Interval = intAutoDealDelay * 1000;
-}
+void prcSetDealInterval(MarkCardWindow& form) { form.tmrDeal.Interval = intAutoDealDelay * 1000; }
 
 void Picture1_Resize(Control& picture) {
   Guarded("MarkCard_Picture1_Resize", [&] {
@@ -88,22 +84,16 @@ void Picture1_Resize(Control& picture) {
   });
 }
 
-void HScroll1_Change(Control& bar) {
-  fncOwner(*bar.Form).Picture1.Left = -bar.Value;
-}
+void HScroll1_Change(Control& bar) { fncOwner(*bar.Form).Picture1.Left = -bar.Value; }
 
-void VScroll1_Change(Control& bar) {
-  fncOwner(*bar.Form).Picture1.Top = -bar.Value;
-}
+void VScroll1_Change(Control& bar) { fncOwner(*bar.Form).Picture1.Top = -bar.Value; }
 
 void Timer1_Timer(Control& timer) {
   prcBelowTable(*timer.Form);
   timer.Enabled = false;
 }
 
-void tmrDeal_Tick(Control& timer) {
-  tmrDeal_Timer(fncOwner(*timer.Form));
-}
+void tmrDeal_Tick(Control& timer) { tmrDeal_Timer(fncOwner(*timer.Form)); }
 
 constexpr ControlEvents evtPicture{.Resize = Picture1_Resize};
 constexpr ControlEvents evtHScroll{.Change = HScroll1_Change};
@@ -225,9 +215,7 @@ void prcSetSteps(Control& bar) {
 }
 
 /// Whether a shoe has a hand left before its next shuffle.
-bool fncInPlay(const Integer& shoe) {
-  return blnShuffled[shoe] && !blnEndOfShoe[shoe];
-}
+bool fncInPlay(const Integer& shoe) { return blnShuffled[shoe] && !blnEndOfShoe[shoe]; }
 
 /// Shuffles a card's own shoe after a pause in which the last mark can be seen. The timer rests
 /// meanwhile, or its next tick would begin a second shuffle within the first.

@@ -114,14 +114,10 @@ inline std::int64_t fncRound(double number) {
 }
 
 /// number as an Integer, a tie to the even neighbour; faultOverflow outside -32768..32767.
-inline Integer fncInteger(double number) {
-  return {fncRound(number)};
-}
+inline Integer fncInteger(double number) { return {fncRound(number)}; }
 
 /// number as a Long, a tie to the even neighbour; faultOverflow outside 32 bits.
-inline Long fncLong(double number) {
-  return {fncRound(number)};
-}
+inline Long fncLong(double number) { return {fncRound(number)}; }
 
 /// numerator / denominator truncated towards zero; faultDivision when the denominator is 0.
 constexpr std::int64_t fncDivide(std::int64_t numerator, std::int64_t denominator) {

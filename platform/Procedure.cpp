@@ -9,13 +9,9 @@ namespace {
 Procedure* prcInnermost = nullptr;
 }
 
-Procedure::Procedure(const char* label) : Label(label), Outer(prcInnermost) {
-  prcInnermost = this;
-}
+Procedure::Procedure(const char* label) : Label(label), Outer(prcInnermost) { prcInnermost = this; }
 
-Procedure::~Procedure() {
-  prcInnermost = Outer;
-}
+Procedure::~Procedure() { prcInnermost = Outer; }
 
 void At(int line) {
   if (prcInnermost != nullptr) {
@@ -23,9 +19,7 @@ void At(int line) {
   }
 }
 
-int fncLine() {
-  return prcInnermost != nullptr ? prcInnermost->Line : 0;
-}
+int fncLine() { return prcInnermost != nullptr ? prcInnermost->Line : 0; }
 
 void prcTellFault(const char* label, int line, const Fault& fault) {
   platform::MsgBox("Serious Error Occurred - Line " + std::to_string(line) + " Error - " +

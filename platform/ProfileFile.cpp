@@ -66,9 +66,7 @@ std::optional<std::string_view> fncSectionName(std::string_view text) {
       text.substr(1, text.find(']') == std::string_view::npos ? text.size() : text.find(']') - 1));
 }
 
-bool fncComment(std::string_view text) {
-  return fncBare(text).starts_with(';');
-}
+bool fncComment(std::string_view text) { return fncBare(text).starts_with(';'); }
 
 Found fncFind(std::string_view contents, std::string_view section, std::string_view key) {
   Found found;

@@ -11,9 +11,7 @@ namespace {
 
 constexpr std::string_view strBlanks = " \t\r\n";
 
-bool fncDigit(char letter) {
-  return letter >= '0' && letter <= '9';
-}
+bool fncDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
 /// The length of the number that text begins with: sign, digits, one point, an exponent. 0 for
 /// none.
@@ -95,9 +93,7 @@ std::string fncNumberText(double number) {
   return text.starts_with('-') ? text : " " + text;
 }
 
-std::string fncTrim(std::string_view text) {
-  return std::string(fncTrimmed(text));
-}
+std::string fncTrim(std::string_view text) { return std::string(fncTrimmed(text)); }
 
 bool fncEqualNoCase(std::string_view one, std::string_view other) {
   return std::ranges::equal(one, other, {}, fncLower, fncLower);
@@ -120,9 +116,7 @@ CurrencyStyle fncSystemCurrency() {
   return style;
 }
 
-void prcSetCurrency(const CurrencyStyle& style) {
-  styleInForce = style;
-}
+void prcSetCurrency(const CurrencyStyle& style) { styleInForce = style; }
 
 std::string fncCurrency(double amount) {
   if (!styleInForce) {

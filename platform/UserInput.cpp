@@ -152,9 +152,7 @@ void prcUserText(Control& box, std::string_view text) {
   }
 }
 
-void prcUserValue(Control& control, double value) {
-  prcSetValue(control, value);
-}
+void prcUserValue(Control& control, double value) { prcSetValue(control, value); }
 
 void prcUserClose(Window& window) {
   if (window.On->CloseAsked != nullptr) {

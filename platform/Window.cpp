@@ -37,9 +37,7 @@ bool fncReleaseFocus(Window& window) {
 
 }  // namespace
 
-const std::vector<Window*>& fncWindows() {
-  return wndLoaded;
-}
+const std::vector<Window*>& fncWindows() { return wndLoaded; }
 
 void prcAddControl(Window& window, Control& control) {
   control.Form = &window;
@@ -108,9 +106,7 @@ void prcForgetWindow(Window& window) {
   std::erase(wndLoaded, &window);
 }
 
-void prcToFront(Window& window) {
-  window.Raised = ++lngLastRaised;
-}
+void prcToFront(Window& window) { window.Raised = ++lngLastRaised; }
 
 bool fncTakesFocus(const Control& control) {
   switch (control.Kind) {

@@ -78,9 +78,7 @@ std::array<Control*, 12> fncChips(Integer intSeat);
 
 /// The numeric value of a bet's box; a bet stands while it is not 0.
 double fncBetChips(BetSide side, Integer intSeat);
-inline bool fncBetStands(BetSide side, Integer intSeat) {
-  return fncBetChips(side, intSeat) != 0;
-}
+inline bool fncBetStands(BetSide side, Integer intSeat) { return fncBetChips(side, intSeat) != 0; }
 
 /// The chip value in money per chip, as the box holds it; 0 until the user or the settings give
 /// one.

@@ -18,9 +18,7 @@ std::string CardSuite(Integer card);
 std::string fncCardValueName(Integer value);
 
 /// Point value of a face value: itself up to 9, 0 for the tens and pictures.
-inline Integer fncCardPoint(Integer value) {
-  return value > 9 ? Integer(0) : value;
-}
+inline Integer fncCardPoint(Integer value) { return value > 9 ? Integer(0) : value; }
 
 /// Sets the names and zeroes the counts of varCardsDealtCount.
 void prcInitCardsDealtCount();

@@ -10,6 +10,5 @@ void duokkortos_Click(Integer Index);
 /// when placed.
 void prcClearLostBets();
 
-/// Shows and enables, or hides and disables, the Deal buttons, the Shuffle button and the hands
-/// box, in that order of a run's close.
+/// Reopens the Shuffle button, the Deal buttons and the hands box at the close of a run.
 void prcOpenDealControls();

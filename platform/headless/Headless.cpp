@@ -167,13 +167,9 @@ void WaitEvents(std::uint32_t milliseconds) {
   }
 }
 
-std::uint32_t TickCount() {
-  return state.Start + static_cast<std::uint32_t>(state.Clock);
-}
+std::uint32_t TickCount() { return state.Start + static_cast<std::uint32_t>(state.Clock); }
 
-std::uint64_t RandomSeed() {
-  return state.Seed++;
-}
+std::uint64_t RandomSeed() { return state.Seed++; }
 
 Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
               Answer standard) {
@@ -207,18 +203,10 @@ void Activate(Window& window) {
   }
 }
 
-double ScreenWidth() {
-  return state.ScreenWidth;
-}
-double ScreenHeight() {
-  return state.ScreenHeight;
-}
-std::string DataFolder() {
-  return state.Folder;
-}
-std::string HelpFolder() {
-  return state.Folder;
-}
+double ScreenWidth() { return state.ScreenWidth; }
+double ScreenHeight() { return state.ScreenHeight; }
+std::string DataFolder() { return state.Folder; }
+std::string HelpFolder() { return state.Folder; }
 
 bool FileExists(const std::string& path) {
   std::error_code failed;
@@ -234,9 +222,7 @@ void ShowHelp(const std::string& file, int context) {
   state.HelpShown.push_back(file + "#" + std::to_string(context));
 }
 
-bool ActivateOtherInstance() {
-  return state.blnOtherInstance;
-}
+bool ActivateOtherInstance() { return state.blnOtherInstance; }
 
 void End() {
   state.blnEnded = true;
@@ -257,9 +243,7 @@ void Reset(const std::string& folder, std::uint32_t start) {
   prcSetCurrency(CurrencyStyle{});
 }
 
-std::uint32_t Now() {
-  return static_cast<std::uint32_t>(state.Clock);
-}
+std::uint32_t Now() { return static_cast<std::uint32_t>(state.Clock); }
 
 void Wait(std::uint32_t milliseconds) {
   const std::uint64_t limit = state.Clock + milliseconds;
@@ -277,45 +261,19 @@ void After(std::uint32_t milliseconds, std::function<void()> event) {
   state.Script.push_back({state.Clock + milliseconds, std::move(event)});
 }
 
-void AtNextTurn(std::function<void()> event) {
-  state.NextTurn.push_back(std::move(event));
-}
-void WhileModal(std::function<void()> event) {
-  state.Modal.push_back(std::move(event));
-}
-void Answer(platform::Answer answer) {
-  state.Answers.push_back(answer);
-}
-const std::vector<Box>& Boxes() {
-  return state.Boxes;
-}
-void ForgetBoxes() {
-  state.Boxes.clear();
-}
-void Seed(std::uint64_t seed) {
-  state.Seed = seed;
-}
-std::uint64_t Turns() {
-  return state.Turns;
-}
-std::vector<std::string>& Repaints() {
-  return state.Repaints;
-}
-bool Ended() {
-  return state.blnEnded;
-}
-std::vector<std::string>& Opened() {
-  return state.Opened;
-}
-void OpenAddressReturns(int code) {
-  state.OpenCode = code;
-}
-std::vector<std::string>& HelpShown() {
-  return state.HelpShown;
-}
-void OtherInstanceRuns(bool blnRuns) {
-  state.blnOtherInstance = blnRuns;
-}
+void AtNextTurn(std::function<void()> event) { state.NextTurn.push_back(std::move(event)); }
+void WhileModal(std::function<void()> event) { state.Modal.push_back(std::move(event)); }
+void Answer(platform::Answer answer) { state.Answers.push_back(answer); }
+const std::vector<Box>& Boxes() { return state.Boxes; }
+void ForgetBoxes() { state.Boxes.clear(); }
+void Seed(std::uint64_t seed) { state.Seed = seed; }
+std::uint64_t Turns() { return state.Turns; }
+std::vector<std::string>& Repaints() { return state.Repaints; }
+bool Ended() { return state.blnEnded; }
+std::vector<std::string>& Opened() { return state.Opened; }
+void OpenAddressReturns(int code) { state.OpenCode = code; }
+std::vector<std::string>& HelpShown() { return state.HelpShown; }
+void OtherInstanceRuns(bool blnRuns) { state.blnOtherInstance = blnRuns; }
 
 void Screen(double width, double height) {
   state.ScreenWidth = width;

@@ -1,0 +1,292 @@
+#include "betting/BetEntry.h"
+
+#include "betting/Funds.h"
+#include "betting/TableLimits.h"
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+#include "table/TableStatus.h"
+#include "table/Waits.h"
+
+namespace {
+
+/// What the three bets of a seat differ in. Both texts of a limit are kept: chips and typing tell
+/// it differently.
+struct BetRules {
+  BetSide
+      Other;  ///< The side that cannot stand beside this one; the Tie has none and names itself.
+  int Most;   ///< Chips.
+  int SelLength;
+  const char* IncLabel;
+  const char* GotFocusLabel;
+  const char* ValidateLabel;
+  const char* ChipLimit;
+  const char* TypedLimit;
+};
+
+const BetRules& fncRules(BetSide side) {
+  static constexpr std::array<BetRules, 3> rules{{
+      {betTie, 50, 2, "Baccarat table TBetInc", "Baccarat table txtTieBet_GotFocus",
+       "Baccarat table txtTieBet_Validate", "Tie bet must be 0 to 50", "Tie bet must be 0 to 50"},
+      {betPlayer, 100, 3, "Baccarat table BBetInc", "Baccarat table txtBankerBet_GotFocus",
+       "Baccarat table txtBankerBet_Validate", "Bet must be 0 to 100",
+       "Banker bet must be 0 to 100"},
+      {betBanker, 100, 3, "Baccarat table PBetInc", "Baccarat table txtPlayerBet_GotFocus",
+       "Baccarat table txtPlayerBet_Validate", "Bet must be 0 to 100",
+       "Player bet must be 0 to 100"},
+  }};
+  return rules.at(static_cast<std::size_t>(side));
+}
+
+bool fncHasOther(BetSide side) { return fncRules(side).Other != side; }
+
+/// Money that stands on the side this bet replaces.
+Long fncOtherMoney(BetSide side, Integer Index) {
+  return fncHasOther(side) ? fncBet(fncRules(side).Other, Index).Money : Long(0);
+}
+
+/// Takes the other side's bet off the table. Its money goes back to the seat only where blnRefund
+/// says so: a typed bet has given it back already.
+void prcTakeOtherOff(BetSide side, Integer Index, bool blnRefund) {
+  if (!fncHasOther(side)) {
+    return;
+  }
+  const BetControls other = fncBet(fncRules(side).Other, Index);
+  if (blnRefund) {
+    dblPlayerTotal[Index] += other.Money;
+  }
+  other.Box.Text = "0";
+  other.Money = 0;
+  prcShowMoney(other.Value, 0);
+  other.Value.Visible = false;
+}
+
+void prcShowTotal(Integer Index) {
+  prcShowMoney(BaccTable.lblPlayerTotal[Index], dblPlayerTotal[Index]);
+}
+
+/// Books what the box of a bet holds as its money and shows it.
+void prcBookMoney(BetSide side, Integer Index) {
+  const BetControls bet = fncBet(side, Index);
+  bet.Money = fncLong(fncBetChips(side, Index) * fncUnitValue());
+  prcShowMoney(bet.Value, bet.Money);
+}
+
+void prcInc(BetSide side, Integer Index, Integer intMultiple) {
+  const BetRules& rules = fncRules(side);
+  Guarded(rules.IncLabel, [&] {
+    const BetControls bet = fncBet(side, Index);
+    At(10);
+    prcMarkCardTimers();
+    At(20);
+    // A box that is left may refuse, and a bet box is closed without a chip value: then the click
+    // does nothing more.
+    if (!fncSetFocus(bet.Box) || !fncUnitValueStands()) {
+      return;
+    }
+    At(30);
+    CardsInvisible();
+    ResultsInvisible();
+    At(40);
+    const Long NewBet = fncLong(fncUnitValue() * intMultiple) - fncOtherMoney(side, Index);
+    if (!prcSufficientFunds(NewBet, Index)) {
+      return;
+    }
+    At(50);
+    const double chips = fncBetChips(side, Index) + intMultiple;
+    if (chips < 0 || chips > rules.Most) {
+      platform::MsgBox(rules.ChipLimit, platform::Icon::Exclamation, "Velmora");
+      return;
+    }
+    At(60);
+    bet.Box.Text = fncPlainNumberText(chips);
+    At(70);
+    prcTakeOtherOff(side, Index, true);
+    At(80);
+    prcBookMoney(side, Index);
+    At(90);
+    bet.Value.Visible = bet.Money != 0;
+    At(110);
+    dblPlayerTotal[Index] -= fncUnitValue() * intMultiple;
+    prcShowTotal(Index);
+  });
+}
+
+void prcGotFocus(BetSide side, Integer Index) {
+  const BetRules& rules = fncRules(side);
+  Guarded(rules.GotFocusLabel, [&] {
+    At(10);
+    prcMarkCardTimers();
+    At(20);
+    fncBet(side, Index).Box.SelLength = rules.SelLength;
+    if (!fncUnitValueStands()) {
+      // No bet can be reckoned yet: the chip value box tells why, and takes the focus where it may.
+      txtUnitValue_LostFocus();
+    }
+  });
+}
+
+void prcRefuse(Control& box, const char* text, bool& Cancel) {
+  if (text != nullptr) {
+    platform::MsgBox(text);
+  }
+  fncSetFocus(box);
+  Cancel = true;
+}
+
+/// The checks of a typed bet, each with its message. Returns whether the bet may be booked.
+bool fncTypedBetGood(BetSide side, Integer Index, bool& Cancel) {
+  const BetRules& rules = fncRules(side);
+  const BetControls bet = fncBet(side, Index);
+  At(10);
+  if (!fncIsNumeric(bet.Box.Text)) {
+    prcRefuse(bet.Box, rules.TypedLimit, Cancel);
+    bet.Box.Text = "0";
+    return false;
+  }
+  At(20);
+  const double chips = fncBetChips(side, Index);
+  if (chips < 0 || chips > rules.Most) {
+    prcRefuse(bet.Box, rules.TypedLimit, Cancel);
+    return false;
+  }
+  At(30);
+  const double unit = fncUnitValue();
+  const Integer old = fncInteger(bet.Money / unit);
+  At(40);
+  const Long NewBet = fncLong((chips - old) * unit - fncOtherMoney(side, Index));
+  if (!prcSufficientFunds(NewBet, Index)) {
+    bet.Box.Text = std::to_string(old);
+    prcRefuse(bet.Box, nullptr, Cancel);
+    return false;
+  }
+  return true;
+}
+
+void prcBookTypedBet(BetSide side, Integer Index) {
+  const BetControls bet = fncBet(side, Index);
+  At(50);
+  dblPlayerTotal[Index] += bet.Money;
+  At(60);
+  if (fncBetStands(side, Index)) {
+    dblPlayerTotal[Index] += fncOtherMoney(side, Index);
+  }
+  At(70);
+  prcBookMoney(side, Index);
+  At(80);
+  dblPlayerTotal[Index] -= bet.Money;
+  prcShowTotal(Index);
+  At(90);
+  if (bet.Money == 0) {
+    bet.Value.Visible = false;
+    return;
+  }
+  At(100);
+  bet.Value.Visible = true;
+  CardsInvisible();
+  ResultsInvisible();
+  At(110);
+  prcTakeOtherOff(side, Index, false);
+}
+
+void prcValidate(BetSide side, Integer Index, bool& Cancel) {
+  Guarded(fncRules(side).ValidateLabel, [&] {
+    if (!fncUnitValueStands()) {
+      // The box is closed: what was typed all the same must not stand unpaid.
+      fncBet(side, Index).Box.Text = "0";
+      return;
+    }
+    if (fncTypedBetGood(side, Index, Cancel)) {
+      prcBookTypedBet(side, Index);
+    }
+  });
+}
+
+void prcIncSide(BetSide side, Integer Index, Integer intMultiple) {
+  switch (side) {
+    case betTie:
+      TBetInc(Index, intMultiple);
+      break;
+    case betBanker:
+      BBetInc(Index, intMultiple);
+      break;
+    case betPlayer:
+      PBetInc(Index, intMultiple);
+      break;
+  }
+}
+
+template <BetSide side>
+constexpr ControlEvents evtBox{
+    .GotFocus = [](Control& box) { prcGotFocus(side, box.Index); },
+    .Validate = [](Control& box, bool& Cancel) { prcValidate(side, box.Index, Cancel); }};
+
+template <BetSide side, int chips>
+constexpr ControlEvents evtChip{
+    .Click = [](Control& chip) { prcIncSide(side, chip.Index, BaccTable.intAddSub * chips); },
+    .MouseDown = [](Control&, const Mouse& mouse) { prcAddSub(mouse.Button); }};
+
+template <BetSide side>
+constexpr ControlEvents evtClear{.Click = [](Control& chip) {
+  prcIncSide(side, chip.Index, fncInteger(-fncBetChips(side, chip.Index)));
+}};
+
+template <BetSide side>
+const ControlEvents& fncChipEventsOf(int intChips) {
+  switch (intChips) {
+    case 1:
+      return evtChip<side, 1>;
+    case 2:
+      return evtChip<side, 2>;
+    case 5:
+      return evtChip<side, 5>;
+    default:
+      return evtClear<side>;
+  }
+}
+
+}  // namespace
+
+int fncMostChips(BetSide side) { return fncRules(side).Most; }
+
+void prcAddSub(Integer Button) {
+  if (Button == intLeftButton || Button == intMiddleButton) {
+    BaccTable.intAddSub = 1;
+  } else if (Button == intRightButton) {
+    BaccTable.intAddSub = -1;
+  }
+}
+
+void BBetInc(Integer Index, Integer intMultiple) { prcInc(betBanker, Index, intMultiple); }
+void PBetInc(Integer Index, Integer intMultiple) { prcInc(betPlayer, Index, intMultiple); }
+void TBetInc(Integer Index, Integer intMultiple) { prcInc(betTie, Index, intMultiple); }
+
+void txtTieBet_GotFocus(Integer Index) { prcGotFocus(betTie, Index); }
+void txtBankerBet_GotFocus(Integer Index) { prcGotFocus(betBanker, Index); }
+void txtPlayerBet_GotFocus(Integer Index) { prcGotFocus(betPlayer, Index); }
+
+void txtTieBet_Validate(Integer Index, bool& Cancel) { prcValidate(betTie, Index, Cancel); }
+void txtBankerBet_Validate(Integer Index, bool& Cancel) { prcValidate(betBanker, Index, Cancel); }
+void txtPlayerBet_Validate(Integer Index, bool& Cancel) { prcValidate(betPlayer, Index, Cancel); }
+
+const ControlEvents& fncBetBoxEvents(BetSide side) {
+  switch (side) {
+    case betTie:
+      return evtBox<betTie>;
+    case betBanker:
+      return evtBox<betBanker>;
+    default:
+      return evtBox<betPlayer>;
+  }
+}
+
+const ControlEvents& fncChipEvents(BetSide side, int intChips) {
+  switch (side) {
+    case betTie:
+      return fncChipEventsOf<betTie>(intChips);
+    case betBanker:
+      return fncChipEventsOf<betBanker>(intChips);
+    default:
+      return fncChipEventsOf<betPlayer>(intChips);
+  }
+}

@@ -1,0 +1,61 @@
+#include "betting/TableLimits.h"
+
+#include <cmath>
+
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+
+namespace {
+
+constexpr int intUnitStep = 10;
+
+/// What is wrong with the chip value box, in the words of its message; nothing where it is good.
+const char* fncUnitValueFault() {
+  const double value = fncUnitValue();
+  if (!fncIsNumeric(BaccTable.txtUnitValue.Text) || value < intLeastUnit || value > intMostUnit) {
+    return "Must be between $10 and $9990";
+  }
+  return std::fmod(value, intUnitStep) == 0 ? nullptr : "Must be in multiples of $10";
+}
+
+}  // namespace
+
+bool fncUnitValueStands() { return fncUnitValueFault() == nullptr; }
+
+void txtUnitValue_GotFocus() { BaccTable.txtUnitValue.SelLength = 5; }
+
+void txtUnitValue_LostFocus() {
+  Guarded("Baccarat table txtUnitValue_LostFocus", [] {
+    At(10);
+    const char* fault = fncUnitValueFault();
+    if (fault == nullptr) {
+      At(30);
+      prcWritePrivateProfileString("Misc", "UnitValue", BaccTable.txtUnitValue.Text);
+      return;
+    }
+    platform::MsgBox(fault, platform::Icon::Exclamation, "Velmora");
+    At(40);
+    fncSetFocus(BaccTable.txtUnitValue);
+  });
+}
+
+void mskHandsAtaTime_GotFocus() { BaccTable.mskHandsAtaTime.SelLength = 2; }
+
+void mskHandsAtaTime_LostFocus() {
+  Guarded("Baccarat table mskHandsAtaTime_LostFocus", [] {
+    std::string& text = BaccTable.mskHandsAtaTime.Text;
+    At(10);
+    if (text.empty() || text.front() < '0' || text.front() > '9') {
+      text = "1";
+    }
+    At(20);
+    // As text, not as numbers: "5" lies between "1" and "90", "91" and "0" do not.
+    if (text > "90" || text < "1") {
+      platform::MsgBox("Hands At a Time must be 1 to 90");
+      fncSetFocus(BaccTable.mskHandsAtaTime);
+    }
+  });
+}

@@ -1,0 +1,175 @@
+#include "table/BaccTable.h"
+
+#include <cmath>
+
+#include "assets/Pictures.h"
+#include "betting/Funds.h"
+#include "learn/CardNeed.h"
+#include "marking/MarkCard.h"
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+#include "reveal/CardReveal.h"
+#include "reveal/KeyboardReveal.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+
+BaccTableWindow BaccTable;
+
+namespace {
+
+const std::string strSection = "frmBaccTable";
+
+void prcApplyPlace() {
+  Window& form = BaccTable.Form;
+  form.Top = fncGetSetting(strSection, "Top");
+  form.Height = fncGetSetting(strSection, "Height");
+  form.Width = fncGetSetting(strSection, "Width");
+  form.Left = (MDIForm1.Form.Width - form.Width) / 2;
+}
+
+void prcLoadSeat(Integer i) {
+  const std::string section = fncSeatSection(i);
+  const auto stake = std::nearbyint(fncGetSetting(section, "Stake"));
+  dblPlayerWin[i] = fncGetSetting(section, "Win");
+  dblPlayerTotal[i] = stake + dblPlayerWin[i];
+  prcShowMoney(BaccTable.lblPlayerWinnings[i], dblPlayerWin[i]);
+  prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
+}
+
+/// The captions of the Deal buttons; those of elements 1 to 3 begin with the number of hands that
+/// they deal.
+constexpr std::array<const char*, 4> strDealCaptions{"Deal", "5 hands", "10 hands", "20 hands"};
+
+void Form_Load(Window&) {
+  Guarded("Baccarat table Form_Load", [] {
+    prcLayOutBaccTable();
+    At(10);
+    prcApplyPlace();
+    At(20);
+    BaccTable.intCardHeight = fncInteger(BaccTable.pctCardBack[0].Height);
+    BaccTable.intCardWidth = fncInteger(BaccTable.pctCardBack[0].Width);
+    At(30);
+    blnEndOfShoe.fill(true);
+    At(40);
+    for (int i = 0; i < intSeats; ++i) {
+      for (const BetSide side : betSides) {
+        fncBet(side, i).Box.Text = "0";
+      }
+    }
+    At(50);
+    for (Control& back : BaccTable.pctCardBack) {
+      back.Picture = picCardBack;
+    }
+    At(60);
+    for (int i = 0; i < intSeats; ++i) {
+      prcLoadSeat(i);
+    }
+    At(70);
+    BaccTable.maisyk.Text = "Shuffle";
+    At(80);
+    if (fncEqualNoCase(fncGetPrivateProfileString("File", "Learn"), "True")) {
+      prcShowLearnPanels(true);
+    }
+    At(90);
+    BaccTable.txtUnitValue.Text = fncPlainNumberText(fncGetSetting("Misc", "UnitValue"));
+    At(100);
+    blnTableLoaded = true;
+    At(110);
+    for (int i = 0; i < intShoes; ++i) {
+      intMarkCardShoe[i] = i;
+    }
+    At(120);
+    NewCardViewForm(0, 0);
+    At(130);
+    BaccTable.maisyk.Visible = true;
+    At(140);
+    for (int i = 0; i < BaccTable.duokkortos.size(); ++i) {
+      BaccTable.duokkortos[i].Text = strDealCaptions.at(static_cast<std::size_t>(i));
+    }
+    At(150);
+    blnShoePlayerBlue.fill(blnPlayerBlue);
+  });
+}
+
+void Form_Unload(Window& form, bool& /*blnCancel*/) {
+  Guarded("Baccarat table Form_Unload", [&] {
+    At(10);
+    prcWriteSetting(strSection, "Top", form.Top);
+    prcWriteSetting(strSection, "Left", form.Left);
+    prcWriteSetting(strSection, "Height", form.Height);
+    prcWriteSetting(strSection, "Width", form.Width);
+    At(20);
+    // A running shuffle tests this bound on every pass: this is what ends it.
+    intLastCard[intShoeNumber] = 0;
+    At(30);
+    prcReturnBets();
+  });
+}
+
+/// The table asked to close on its own, not by the frame: in the middle of a hand or shuffle it
+/// must wait; otherwise the program has no use without it and closes.
+void Form_CloseAsked(Window&) {
+  if (blnBusy) {
+    platform::MsgBox("Must wait for hand or shuffle to end.", platform::Icon::Exclamation,
+                     "Velmora");
+    return;
+  }
+  prcCloseFrame();
+}
+
+constexpr WindowEvents evtBaccTable{
+    .Load = Form_Load,
+    .Unload = Form_Unload,
+    .CloseAsked = Form_CloseAsked,
+    .KeyDown = [](Window&, const std::string& strKey, int) { prcRevealKey(strKey); },
+    .MouseMove = [](Window&, const Mouse&) { BaccTable_MouseMove(); }};
+
+}  // namespace
+
+BetControls fncBet(BetSide side, Integer intSeat) {
+  BaccTableWindow& table = BaccTable;
+  switch (side) {
+    case betTie:
+      return {table.txtTieBet[intSeat], table.txtTieBetValue[intSeat], table.lblTWin[intSeat],
+              table.lblTLose[intSeat], lngTieBet[intSeat]};
+    case betBanker:
+      return {table.txtBankerBet[intSeat], table.txtBankerBetValue[intSeat], table.lblBWin[intSeat],
+              table.lblBLose[intSeat], lngBankerBet[intSeat]};
+    default:
+      return {table.txtPlayerBet[intSeat], table.txtPlayerBetValue[intSeat], table.lblPWin[intSeat],
+              table.lblPLose[intSeat], lngPlayerBet[intSeat]};
+  }
+}
+
+std::array<Control*, 12> fncChips(Integer intSeat) {
+  BaccTableWindow& table = BaccTable;
+  return {&table.lblTBetInc0[intSeat], &table.lblTBetInc1[intSeat], &table.lblTBetInc2[intSeat],
+          &table.lblTBetInc5[intSeat], &table.lblBBetInc0[intSeat], &table.lblBBetInc1[intSeat],
+          &table.lblBBetInc2[intSeat], &table.lblBBetInc5[intSeat], &table.lblPBetInc0[intSeat],
+          &table.lblPBetInc1[intSeat], &table.lblPBetInc2[intSeat], &table.lblPBetInc5[intSeat]};
+}
+
+double fncBetChips(BetSide side, Integer intSeat) { return fncVal(fncBet(side, intSeat).Box.Text); }
+
+double fncUnitValue() { return fncVal(BaccTable.txtUnitValue.Text); }
+
+bool fncWins(BetSide side, const std::string& result) {
+  return result == (side == betTie ? "T" : side == betBanker ? "B" : "P");
+}
+
+bool fncLoses(BetSide side, const std::string& result) {
+  return side == betTie ? result != "T" : result == (side == betBanker ? "P" : "B");
+}
+
+void prcShowMoney(Control& label, double money) { label.Text = fncCurrency(money); }
+
+void prcPrepareBaccTable() {
+  Window& form = BaccTable.Form;
+  form = Window{};
+  form.Name = "BaccTable";
+  form.Kind = WindowKind::Child;
+  form.On = &evtBaccTable;
+  form.Caption = "Velmora";
+  form.TitleBar = false;
+}

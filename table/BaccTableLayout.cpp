@@ -1,0 +1,446 @@
+#include "assets/Pictures.h"
+#include "betting/BetEntry.h"
+#include "betting/TableLimits.h"
+#include "platform/Layout.h"
+#include "reveal/CardReveal.h"
+#include "table/BaccTable.h"
+#include "table/DealCommand.h"
+#include "table/Shoe.h"
+#include "table/TableTimer.h"
+
+// The table as it is designed. From below: felt, plates and card areas, the seats, the cards,
+// results, buttons.
+
+namespace {
+
+constexpr Colour clrIvory{245, 238, 220};
+constexpr Colour clrQuiet{196, 205, 190};
+constexpr Colour clrGold{236, 203, 120};
+constexpr Colour clrPlate{9, 34, 26};
+constexpr Colour clrPlateEdge{96, 112, 74};
+constexpr Colour clrPanel{14, 30, 58};
+constexpr Colour clrWon{28, 110, 58};
+constexpr Colour clrLost{122, 32, 38};
+
+constexpr Type tpeQuiet{.Size = 7.5F};
+constexpr Type tpeText{.Size = 9};
+constexpr Type tpeStrong{.Size = 9, .Bold = true};
+constexpr Type tpeHeading{.Size = 15, .Bold = true};
+constexpr Type tpeTotal{.Size = 36, .Bold = true};
+
+using enum ControlKind;
+
+void prcAdd(const Place& row) { prcPlace(BaccTable.Form, row); }
+
+/// Looks of a label over the felt.
+void prcDress(Control& label, Type face, Colour text, Alignment align = Alignment::Centre) {
+  label.Face = face;
+  label.ForeColor = text;
+  label.Align = align;
+}
+
+void prcPlateShape(Control& shape, Colour fill, Colour edge) {
+  shape.Form2D = ShapeForm::Rounded;
+  shape.FillColor = fill;
+  shape.BorderColor = edge;
+}
+
+/// The card areas lie left and right, the betting seats between them.
+constexpr std::array<double, 2> dblAreaLeft{810, 7350};
+constexpr double dblAreaWidth = 2640;
+
+void prcLayGround() {
+  BaccTableWindow& t = BaccTable;
+  prcAdd({&t.picTable, "picTable", -1, Picture, 0, 0, 10770, 5400});
+  t.picTable.Picture = picFelt;
+  t.picTable.Enabled = false;
+  for (int side = 0; side < 2; ++side) {
+    const double left = dblAreaLeft.at(static_cast<std::size_t>(side));
+    prcAdd({&t.shpCardZone[side], "shpCardZone", side, Shape, left - 60, 105, dblAreaWidth + 120,
+            4125});
+    prcPlateShape(t.shpCardZone[side], clrPlate, clrPlateEdge);
+    prcAdd({&t.shpCardDealBG[side], "shpCardDealBG", side, Shape, left, 1020, dblAreaWidth, 3165});
+    prcPlateShape(t.shpCardDealBG[side], clrClear, clrClear);
+    t.shpCardDealBG[side].Visible = false;
+    prcAdd(
+        {&t.shpSeat[side], "shpSeat", side, Shape, side == 0 ? 3840.0 : 5302.0, 1680, 1462, 3015});
+    prcPlateShape(t.shpSeat[side], clrPlate, clrPlateEdge);
+  }
+}
+
+void prcLayShoe() {
+  BaccTableWindow& t = BaccTable;
+  prcAdd({&t.prgShoe, "prgShoe", -1, ProgressBar, 4050, 1125, 2655, 120, "",
+          "Cards that have left the shoe"});
+  t.prgShoe.Visible = false;
+  prcAdd({&t.fraShoeNumber, "fraShoeNumber", -1, Frame, 6240, 300, 735, 600, "",
+          "Click to select a shoe"});
+  t.fraShoeNumber.Visible = false;
+  prcAdd({&t.lblShoeNumber, "lblShoeNumber", -1, Label, 0, 60, 735, 225, "SHOE",
+          "Click to select a shoe"});
+  prcDress(t.lblShoeNumber, tpeQuiet, clrQuiet);
+  t.lblShoeNumber.Container = &t.fraShoeNumber;
+  static constexpr std::array<const char*, 9> numbers{"1", "2", "3", "4", "5", "6", "7", "8", "9"};
+  for (int i = 0; i < t.lblShoe1to9.size(); ++i) {
+    Control& label = t.lblShoe1to9[i];
+    prcAdd({&label, "lblShoe1to9", i, Label, 0, 270, 735, 300,
+            numbers.at(static_cast<std::size_t>(i)), "Click to select a shoe"});
+    prcDress(label, tpeHeading, clrIvory);
+    label.Container = &t.fraShoeNumber;
+    label.Visible = i == intShoeNumber;
+  }
+  for (Control* label : {&t.FormLastHand, &t.FormEndofShoe}) {
+    const bool blnLast = label == &t.FormLastHand;
+    prcAdd({label, blnLast ? "FormLastHand" : "FormEndofShoe", -1, Label, 3840, 1275, 2925, 360,
+            blnLast ? "LAST HAND" : "END OF SHOE"});
+    prcDress(*label, tpeHeading, clrGold);
+    label->Visible = false;
+    label->Announce = true;
+  }
+}
+
+/// Columns of a seat: its box and value label, its chips, its money.
+struct SeatColumns {
+  double Box, Value, Chips, Money;
+};
+constexpr std::array<SeatColumns, 2> colSeats{{{4020, 3930, 4440, 4110}, {5370, 5310, 5790, 5490}}};
+
+struct BetRow {
+  BetSide Side;
+  const char *Box, *Value, *Win, *Lose;
+  std::array<const char*, 4> Chips;
+  const char* Clear;
+  double Top;
+  const char* Mask;
+};
+constexpr std::array<BetRow, 3> rowBets{
+    {{betTie,
+      "txtTieBet",
+      "txtTieBetValue",
+      "lblTWin",
+      "lblTLose",
+      {"lblTBetInc0", "lblTBetInc1", "lblTBetInc2", "lblTBetInc5"},
+      "Clear Tie Bet",
+      2070,
+      "99"},
+     {betBanker,
+      "txtBankerBet",
+      "txtBankerBetValue",
+      "lblBWin",
+      "lblBLose",
+      {"lblBBetInc0", "lblBBetInc1", "lblBBetInc2", "lblBBetInc5"},
+      "Clear Banker Bet",
+      2700,
+      "999"},
+     {betPlayer,
+      "txtPlayerBet",
+      "txtPlayerBetValue",
+      "lblPWin",
+      "lblPLose",
+      {"lblPBetInc0", "lblPBetInc1", "lblPBetInc2", "lblPBetInc5"},
+      "Clear Player Bet",
+      3330,
+      "999"}}};
+
+struct Chip {
+  int Chips;
+  const char *Text, *ToolTip;
+  int Picture;
+};
+constexpr std::array<Chip, 4> chpAll{
+    {{0, "0", "", picChip0},
+     {1, "1", "Left click add 1 chip / Right click subtract 1 chip", picChip1},
+     {2, "2", "Left click add 2 chips / Right click subtract 2 chips", picChip2},
+     {5, "5", "Left click add 5 chips / Right click subtract 5 chips", picChip5}}};
+constexpr double dblChipPitch = 210;
+
+const char* fncBoxTip(BetSide side, int seat) {
+  if (side != betTie) {
+    return "Enter between 0 and 100 units";
+  }
+  return seat == 0 ? "Enter between 0 and 50 units" : "Enter between 0 and 20 units";
+}
+
+void prcLayChips(const BetRow& row, int seat) {
+  for (std::size_t k = 0; k < chpAll.size(); ++k) {
+    Control& label = *fncChips(seat)[static_cast<std::size_t>(row.Side) * chpAll.size() + k];
+    const Chip& chip = chpAll.at(k);
+    prcAdd(
+        {&label, row.Chips.at(k), seat, Label,
+         colSeats.at(static_cast<std::size_t>(seat)).Chips + dblChipPitch * static_cast<double>(k),
+         row.Top + 30, 225, 285, chip.Text, k == 0 ? row.Clear : chip.ToolTip});
+    label.On = &fncChipEvents(row.Side, chip.Chips);
+    label.Dress = Look::Chip;
+    label.Picture = chip.Picture;
+    label.MousePointer = Pointer::HandLink;
+    label.Visible = false;
+  }
+}
+
+void prcLayBet(const BetRow& row, int seat) {
+  const SeatColumns& at = colSeats.at(static_cast<std::size_t>(seat));
+  const BetControls bet = fncBet(row.Side, seat);
+  prcAdd({&bet.Box, row.Box, seat, MaskedEdit, at.Box, row.Top, 405, 315, "0",
+          fncBoxTip(row.Side, seat)});
+  bet.Box.Mask = row.Mask;
+  bet.Box.Format = "0";
+  bet.Box.Face = tpeStrong;
+  bet.Box.Align = Alignment::Centre;
+  bet.Box.On = &fncBetBoxEvents(row.Side);
+  bet.Box.Visible = false;
+  prcLayChips(row, seat);
+  prcAdd({&bet.Value, row.Value, seat, Label, at.Value, row.Top + 360, 765, 255, "0"});
+  prcDress(bet.Value, tpeText, clrIvory);
+  bet.Value.Visible = false;
+  for (const bool blnWin : {true, false}) {
+    Control& mark = blnWin ? bet.Win : bet.Lose;
+    prcAdd({&mark, blnWin ? row.Win : row.Lose, seat, Label, at.Value + 780, row.Top + 360, 570,
+            255, blnWin ? "WIN" : "LOSE"});
+    prcDress(mark, tpeStrong, clrWhite);
+    mark.BackColor = blnWin ? clrWon : clrLost;
+    mark.Dress = Look::Plate;
+    mark.Visible = false;
+    mark.Announce = true;
+  }
+}
+
+void prcLaySeat(int seat) {
+  BaccTableWindow& t = BaccTable;
+  const SeatColumns& at = colSeats.at(static_cast<std::size_t>(seat));
+  prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, at.Value, 1740, 1290, 270,
+          seat == 0 ? "Player 1" : "Player 2"});
+  prcDress(t.lblSeat[seat], tpeStrong, clrGold);
+  for (const BetRow& row : rowBets) {
+    prcLayBet(row, seat);
+  }
+  prcAdd({&t.lblPlayerTotal[seat], "lblPlayerTotal", seat, Label, at.Money, 4020, 1095, 255, "",
+          "Stake and winnings"});
+  prcDress(t.lblPlayerTotal[seat], {.Size = 10.5F, .Bold = true}, clrIvory, Alignment::Right);
+  prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, at.Money, 4350, 1095, 255,
+          "", "Winnings"});
+  prcDress(t.lblPlayerWinnings[seat], tpeText, clrQuiet, Alignment::Right);
+}
+
+void prcLayRowHeads() {
+  BaccTableWindow& t = BaccTable;
+  const auto head = [](Control& label, const char* name, int index, double top, const char* text) {
+    prcAdd({&label, name, index, Label, 6795, top, 495, 225, text});
+    prcDress(label, {.Size = 6.75F, .Bold = true}, clrGold);
+  };
+  head(t.lblRow[0], "lblRow", 0, 2055, "TIE");
+  prcAdd({&t.Label8, "Label8", -1, Label, 6795, 2265, 495, 420, "Pays 8 To 1"});
+  prcDress(t.Label8, {.Size = 6.75F}, clrQuiet);
+  head(t.Label5, "Label5", -1, 2760, "BANKER");
+  head(t.Label4, "Label4", -1, 3390, "PLAYER");
+  head(t.lblRow[1], "lblRow", 1, 4035, "MONEY");
+  head(t.lblRow[2], "lblRow", 2, 4365, "WON");
+}
+
+struct CardPlace {
+  double Left, Top, BottomLeft, BottomTop, RightLeft, RightTop;
+};
+constexpr std::array<CardPlace, intPositions> plcCards{{{960, 2700, 960, 4140, 2040, 2700},
+                                                        {2160, 2700, 2160, 4140, 3225, 2700},
+                                                        {1560, 1140, 1590, 2580, 2625, 1140},
+                                                        {7500, 2700, 7500, 4140, 8565, 2700},
+                                                        {8700, 2700, 8700, 4140, 9765, 2670},
+                                                        {8100, 1140, 8100, 2580, 9165, 1140}}};
+
+struct PatchPlace {
+  Table<Control, 6> BaccTableWindow::*Family;
+  const char* Name;
+  double Left, Top, Width;
+};
+/// Over the corners' marks: wide ones for pips, narrow ones beside the frame of a picture.
+constexpr double dblPatchHeight = 390;
+constexpr std::array<PatchPlace, 8> plcPatches{
+    {{&BaccTableWindow::pctCardTopLeftWide, "pctCardTopLeftWide", 45, 45, 159},
+     {&BaccTableWindow::pctCardTopRightWide, "pctCardTopRightWide", 855, 45, 165},
+     {&BaccTableWindow::pctCardBottomLeftWide, "pctCardBottomLeftWide", 45, 1005, 159},
+     {&BaccTableWindow::pctCardBottomRightWide, "pctCardBottomRightWide", 855, 1005, 159},
+     {&BaccTableWindow::pctCardTopLeft, "pctCardTopLeft", 30, 45, 129},
+     {&BaccTableWindow::pctCardTopRight, "pctCardTopRight", 900, 45, 129},
+     {&BaccTableWindow::pctCardBottomLeft, "pctCardBottomLeft", 30, 1005, 129},
+     {&BaccTableWindow::pctCardBottomRight, "pctCardBottomRight", 900, 1005, 129}}};
+
+void prcLayCard(int n) {
+  BaccTableWindow& t = BaccTable;
+  const CardPlace& at = plcCards.at(static_cast<std::size_t>(n));
+  const bool blnNarrowShadow = n == 4;
+  prcAdd({&t.shpCardShadow[n], "shpCardShadow", n, Shape, at.Left + (blnNarrowShadow ? 30 : 45),
+          at.Top + 45, blnNarrowShadow ? 1080.0 : intCardWide, intCardHigh});
+  t.shpCardShadow[n].Dress = Look::Shadow;
+  t.shpCardShadow[n].FillColor = clrBlack;
+  prcAdd({&t.pctCardFace[n], "pctCardFace", n, Picture, at.Left, at.Top, intCardWide, intCardHigh});
+  t.pctCardFace[n].Dress = Look::Card;
+  for (const PatchPlace& patch : plcPatches) {
+    Control& picture = (t.*patch.Family)[n];
+    prcAdd({&picture, patch.Name, n, Picture, at.Left + patch.Left, at.Top + patch.Top, patch.Width,
+            dblPatchHeight});
+    picture.BackColor = clrWhite;
+    picture.Dress = Look::Patch;
+    picture.Visible = false;
+  }
+  prcAdd({&t.pctCardBack[n], "pctCardBack", n, Picture, at.Left, at.Top, intCardWide, intCardHigh,
+          "", "Click to reveal card"});
+  t.pctCardBack[n].On = &evtCardBack;
+  t.pctCardBack[n].Dress = Look::Card;
+  t.pctCardBack[n].TabStop = true;
+  prcAdd({&t.lblCardBottom[n], "lblCardBottom", n, Label, at.BottomLeft, at.BottomTop, 1065, 135,
+          "", "To reveal card - press left mouse button and move up"});
+  t.lblCardBottom[n].On = &evtCardBottom;
+  prcAdd({&t.lblCardRight[n], "lblCardRight", n, Label, at.RightLeft, at.RightTop, 135, 1440, "",
+          "To reveal card - press left mouse button and move left"});
+  t.lblCardRight[n].On = &evtCardRight;
+  for (Control* control : {&t.shpCardShadow[n], &t.pctCardFace[n], &t.pctCardBack[n],
+                           &t.lblCardBottom[n], &t.lblCardRight[n]}) {
+    control->Visible = false;
+  }
+}
+
+void prcLayResults(bool blnPlayer) {
+  BaccTableWindow& t = BaccTable;
+  const double left = dblAreaLeft.at(blnPlayer ? 0 : 1);
+  const auto add = [](Control& label, const char* name, double x, double y, double w, double h,
+                      const char* text, Type face, Colour colour) {
+    prcAdd({&label, name, -1, Label, x, y, w, h, text});
+    prcDress(label, face, colour);
+    label.Visible = false;
+  };
+  add(blnPlayer ? t.Label1 : t.Label2, blnPlayer ? "Label1" : "Label2", left + 30, 180, 1200, 345,
+      blnPlayer ? "PLAYER" : "BANKER", tpeHeading, clrWhite);
+  Control& natural = blnPlayer ? t.lblNaturalP : t.lblNaturalB;
+  add(natural, blnPlayer ? "lblNaturalP" : "lblNaturalB", left + 30, 570, 1890, 345, "NATURAL!",
+      tpeHeading, clrGold);
+  natural.Announce = true;
+  Control& total = blnPlayer ? t.PTotal : t.BTotal;
+  add(total, blnPlayer ? "PTotal" : "BTotal", left + 1950, 135, 645, 840, "0", tpeTotal, clrWhite);
+  total.Announce = true;
+  for (const bool blnTie : {false, true}) {
+    Control& mark =
+        blnTie ? (blnPlayer ? t.TieResultP : t.TieResultB) : (blnPlayer ? t.WinP : t.WinB);
+    const char* name =
+        blnTie ? (blnPlayer ? "TieResultP" : "TieResultB") : (blnPlayer ? "WinP" : "WinB");
+    add(mark, name, left + 1245, 180, 690, 345, blnTie ? "TIE" : "WIN", {.Size = 12, .Bold = true},
+        clrWhite);
+    mark.BackColor = clrWon;
+    mark.Dress = Look::Plate;
+    mark.Announce = true;
+  }
+}
+
+void prcLayLearnPanel(bool blnPlayer) {
+  BaccTableWindow& t = BaccTable;
+  const double left = blnPlayer ? 600 : 7110;
+  Control& shape = blnPlayer ? t.shpCardNeedP : t.shpCardNeedB;
+  prcAdd({&shape, blnPlayer ? "shpCardNeedP" : "shpCardNeedB", -1, Shape, left, 4260, 3045, 615});
+  prcPlateShape(shape, clrPanel, clrGold);
+  shape.Visible = false;
+  Control& label = blnPlayer ? t.lblCardNeedP : t.lblCardNeedB;
+  prcAdd({&label, blnPlayer ? "lblCardNeedP" : "lblCardNeedB", -1, Label, left, 4260, 3045, 615});
+  prcDress(label, {.Size = 8.25F}, clrWhite);
+  label.Announce = true;
+  label.Visible = false;
+}
+
+void prcLayShuffleNotes() {
+  for (int side = 0; side < 2; ++side) {
+    Control& label = BaccTable.lblShuffleInProgress[side];
+    prcAdd({&label, "lblShuffleInProgress", side, Label,
+            dblAreaLeft.at(static_cast<std::size_t>(side)), 1950, dblAreaWidth, 1200,
+            "SHUFFLE IN PROGRESS PLEASE WAIT"});
+    prcDress(label, tpeHeading, clrGold);
+    label.Visible = false;
+    label.Announce = side == 0;
+  }
+}
+
+constexpr ControlEvents evtUnit{.GotFocus = [](Control&) { txtUnitValue_GotFocus(); },
+                                .LostFocus = [](Control&) { txtUnitValue_LostFocus(); }};
+constexpr ControlEvents evtHands{.GotFocus = [](Control&) { mskHandsAtaTime_GotFocus(); },
+                                 .LostFocus = [](Control&) { mskHandsAtaTime_LostFocus(); }};
+constexpr ControlEvents evtDeal{.Click = [](Control& button) { duokkortos_Click(button.Index); }};
+constexpr ControlEvents evtShuffle{.Click = [](Control&) { maisyk_Click(); }};
+constexpr ControlEvents evtTimer{.Timer = [](Control&) { Timer1_Timer(); }};
+
+void prcMasked(Control& box, const char* mask, const char* format, const ControlEvents& events) {
+  box.Mask = mask;
+  box.Format = format;
+  box.Face = tpeStrong;
+  box.Align = Alignment::Centre;
+  box.On = &events;
+}
+
+constexpr double dblButtonTop = 4905;
+constexpr double dblButtonHeight = 390;
+
+void prcLayButtons() {
+  BaccTableWindow& t = BaccTable;
+  prcAdd(
+      {&t.lblUnitValue, "lblUnitValue", -1, Label, 600, dblButtonTop + 75, 960, 255, "Chip Value"});
+  prcDress(t.lblUnitValue, tpeText, clrIvory, Alignment::Left);
+  prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1530, dblButtonTop + 30, 780, 330, "0",
+          "Enter between $10 and $9990"});
+  prcMasked(t.txtUnitValue, "$9999", "$0", evtUnit);
+  prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 75, 1200, 255,
+          "Hands at A Time"});
+  prcDress(t.lblHandsAtaTime, tpeText, clrIvory, Alignment::Right);
+  t.lblHandsAtaTime.Visible = false;
+  prcAdd({&t.mskHandsAtaTime, "mskHandsAtaTime", -1, MaskedEdit, 3885, dblButtonTop + 30, 450, 330,
+          "1", "Enter Between 1 and 90"});
+  prcMasked(t.mskHandsAtaTime, "99", "0", evtHands);
+  t.mskHandsAtaTime.Visible = false;
+  for (int i = 0; i < t.duokkortos.size(); ++i) {
+    prcAdd({&t.duokkortos[i], "duokkortos", i, Button, i == 0 ? 4380.0 : 4470.0 + 1005 * i,
+            dblButtonTop, i == 0 ? 1050.0 : 960.0, dblButtonHeight});
+    t.duokkortos[i].On = &evtDeal;
+    t.duokkortos[i].Face = tpeStrong;
+    t.duokkortos[i].Dress = i == 0 ? Look::Primary : Look::Plain;
+    t.duokkortos[i].Visible = false;
+  }
+  prcAdd({&t.maisyk, "maisyk", -1, Button, 8880, dblButtonTop, 1275, dblButtonHeight});
+  t.maisyk.On = &evtShuffle;
+  t.maisyk.Face = tpeStrong;
+  t.maisyk.Visible = false;
+}
+
+/// The back in flight lies above everything, and the box that only parks the focus lies out of
+/// sight.
+void prcLayFlightAndTimer() {
+  BaccTableWindow& t = BaccTable;
+  prcAdd(
+      {&t.pctCardBackMove, "pctCardBackMove", -1, Picture, 4950, -1500, intCardWide, intCardHigh});
+  t.pctCardBackMove.Picture = picCardBack;
+  t.pctCardBackMove.Dress = Look::Card;
+  t.pctCardBackMove.Visible = false;
+  prcAdd({&t.txtsetfocus, "txtsetfocus", -1, TextBox, -900, -900, 300, 300});
+  t.txtsetfocus.TabStop = false;
+  prcAdd({&t.Timer1, "Timer1", -1, Timer, 0, 0, 0, 0});
+  t.Timer1.Interval = 500;
+  t.Timer1.Enabled = false;
+  t.Timer1.On = &evtTimer;
+}
+
+}  // namespace
+
+void prcLayOutBaccTable() {
+  BaccTable.Form.Controls.clear();
+  BaccTable.Form.ActiveControl = nullptr;
+  prcLayGround();
+  prcLayShoe();
+  prcLaySeat(0);
+  prcLaySeat(1);
+  prcLayRowHeads();
+  for (int n = 0; n < intPositions; ++n) {
+    prcLayCard(n);
+  }
+  prcLayResults(true);
+  prcLayResults(false);
+  prcLayLearnPanel(true);
+  prcLayLearnPanel(false);
+  prcLayShuffleNotes();
+  prcLayButtons();
+  prcLayFlightAndTimer();
+  BaccTable.intFlashCount = BaccTable.intAddSub = 0;
+  BaccTable.blnCardsPlaced = BaccTable.blnCardNeedShown = false;
+}

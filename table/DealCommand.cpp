@@ -1,0 +1,214 @@
+#include "table/DealCommand.h"
+
+#include "betting/Funds.h"
+#include "betting/frmStatistics.h"
+#include "learn/CardNeed.h"
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+#include "shell/MDIForm1.h"
+#include "table/BaccTable.h"
+#include "table/EndOfShoe.h"
+#include "table/HandDealing.h"
+#include "table/HandPresentation.h"
+#include "table/HandSettlement.h"
+#include "table/SeatResults.h"
+#include "table/TableStatus.h"
+#include "table/Waits.h"
+
+namespace {
+
+/// The checks before a run; each refusal is told and changes nothing.
+bool fncMayDeal() {
+  At(10);
+  if (!blnShuffled[intShoeNumber]) {
+    platform::MsgBox("Shoe is not yet shuffled", platform::Icon::Stop, "Velmora");
+    return false;
+  }
+  At(20);
+  for (int i = 0; i < intSeats; ++i) {
+    if (fncBetStands(betBanker, i) && fncBetStands(betPlayer, i)) {
+      platform::MsgBox("Player " + std::to_string(i + 1) + "must bet only on Banker OR Player",
+                       platform::Icon::Exclamation, "Velmora");
+      return false;
+    }
+  }
+  return true;
+}
+
+/// Hands asked for by a Deal button: the hands box for the first, its own caption for the others.
+Integer fncHandsAsked(Integer Index) {
+  const std::string& text =
+      Index == 0 ? BaccTable.mskHandsAtaTime.Text : BaccTable.duokkortos[Index].Text;
+  return fncInteger(fncVal(text));
+}
+
+void prcShowCardAreas() {
+  BaccTable.Label1.Visible = BaccTable.Label2.Visible = true;
+  BaccTable.shpCardDealBG[1].Visible = BaccTable.shpCardDealBG[0].Visible = true;
+}
+
+void prcLockSeat(Integer i) {
+  for (const BetSide side : betSides) {
+    const BetControls bet = fncBet(side, i);
+    bet.Win.Visible = bet.Lose.Visible = false;
+    if (!fncBetStands(side, i)) {
+      bet.Value.Visible = false;
+    }
+    bet.Box.Enabled = false;
+  }
+  for (Control* chip : fncChips(i)) {
+    chip->Visible = chip->Enabled = false;
+  }
+}
+
+void prcLockTable() {
+  BaccTableWindow& table = BaccTable;
+  fncSetFocus(table.txtsetfocus);
+  for (Control& button : table.duokkortos) {
+    button.Visible = false;
+  }
+  table.mskHandsAtaTime.Visible = table.mskHandsAtaTime.Enabled = false;
+  table.maisyk.Visible = table.maisyk.Enabled = false;
+  table.txtUnitValue.Enabled = false;
+  for (int i = 0; i < intSeats; ++i) {
+    prcLockSeat(i);
+  }
+}
+
+/// The bets that stand and that the hand just dealt has lost, seat by seat: Tie, Banker, Player.
+template <class Action>
+void prcForLostBets(Action action) {
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      if (fncBetStands(side, i) && fncLoses(side, strResult[intShoeNumber])) {
+        action(fncBet(side, i), Integer(i));
+      }
+    }
+  }
+}
+
+void prcTakeOff(const BetControls& bet) {
+  bet.Money = 0;
+  bet.Box.Text = "0";
+}
+
+void prcRenewLostBets() {
+  prcForLostBets([](const BetControls& bet, Integer i) {
+    if (!prcSufficientFunds(bet.Money, i)) {
+      prcTakeOff(bet);
+      return;
+    }
+    dblPlayerTotal[i] -= bet.Money;
+    prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
+  });
+}
+
+/// Deals the hands of a run; a multi-hand run settles each at once. Returns how many were dealt.
+Integer fncDealHands() {
+  const bool blnMany = intHandsAtaTime > 1;
+  Integer dealt = 0;
+  for (Integer hand = 1; !blnEndOfShoe[intShoeNumber] && hand <= intHandsAtaTime;) {
+    ZNEW_DealHand(intShoeNumber);
+    ++intHandsDealt[intShoeNumber];
+    if (blnMany) {
+      prcSettleHand();
+    }
+    ++hand;
+    ++dealt;
+    if (!blnMany) {
+      continue;
+    }
+    if (!blnEndOfShoe[intShoeNumber] && hand <= intHandsAtaTime) {
+      prcRenewLostBets();
+    } else {
+      prcClearLostBets();
+    }
+  }
+  return dealt;
+}
+
+void prcCloseRun(Integer dealt) {
+  if (intHandsAtaTime > 1) {
+    platform::MsgBox(std::to_string(dealt) + " hands have just been dealt",
+                     platform::Icon::Information, "Velmora");
+    blnBusy = false;
+    return;
+  }
+  prcPresentHand();
+  prcSettleHand();
+  BaccTable.intFlashCount = 0;
+  BaccTable.Timer1.Enabled = true;
+}
+
+void prcReopenAfterMany() {
+  if (intHandsAtaTime > 1 && !blnEndOfShoe[intShoeNumber]) {
+    prcBettingEnableDisable(true);
+    prcOpenDealControls();
+    fncSetFocus(BaccTable.duokkortos[0]);
+  }
+}
+
+void prcOpenRun() {
+  BaccTable.blnCardsPlaced = false;
+  blnBusy = true;
+  prcMarkCardTimers();
+  CardsInvisible();
+  ResultsInvisible();
+}
+
+}  // namespace
+
+void prcClearLostBets() {
+  prcForLostBets([](const BetControls& bet, Integer) { prcTakeOff(bet); });
+}
+
+void prcOpenDealControls() {
+  BaccTable.maisyk.Visible = BaccTable.maisyk.Enabled = true;
+  for (Control& button : BaccTable.duokkortos) {
+    button.Visible = true;
+  }
+  BaccTable.mskHandsAtaTime.Visible = BaccTable.mskHandsAtaTime.Enabled = true;
+}
+
+void duokkortos_Click(Integer Index) {
+  Guarded("Baccarat table duokkortos_Click", [&] {
+    if (!fncMayDeal()) {
+      return;
+    }
+    At(30);
+    prcOpenRun();
+    At(40);
+    intHandsAtaTime = fncHandsAsked(Index);
+    At(50);
+    if (intHandsAtaTime == 1) {
+      prcShowCardAreas();
+    }
+    At(60);
+    prcLockTable();
+    At(70);
+    if (intHandsAtaTime > 1 || blnCardFaceUp) {
+      prcHideLearnPanels();
+    }
+    At(80);
+    const Integer dealt = fncDealHands();
+    At(90);
+    prcCloseRun(dealt);
+    At(100);
+    prcReopenAfterMany();
+    At(110);
+    BaccTable.mskHandsAtaTime.Text = "1";
+    At(120);
+    if (blnLastHand[intShoeNumber]) {
+      BaccTable.FormLastHand.Visible = true;
+    }
+    At(130);
+    if (blnEndOfShoe[intShoeNumber]) {
+      prcEndOfShoe();
+    }
+    At(140);
+    if (MDIForm1.mnuStatistics.Value == 1) {
+      prcStatisticsRefresh();
+    }
+  });
+}

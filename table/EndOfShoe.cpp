@@ -1,0 +1,40 @@
+#include "table/EndOfShoe.h"
+
+#include "betting/Funds.h"
+#include "shell/CardsDealt.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+#include "table/Cards.h"
+#include "table/DealCommand.h"
+#include "table/TableStatus.h"
+
+namespace {
+
+/// The cards left behind the last hand go into the list, and the bar runs with them to the end.
+void prcListRest() {
+  for (int p = intNextCard[0]; p <= intLastCard[0]; ++p) {
+    const Integer slot = intShoeCards[0][p];
+    prcListCard(slot, intCardValue[0][slot], "<-End");
+    BaccTable.prgShoe.Value = p;
+  }
+  if (blnShowCardsDealtCount) {
+    LoadlstCardsDealtCount();
+  }
+}
+
+}  // namespace
+
+void prcEndOfShoe() {
+  if (intHandsAtaTime == 1) {
+    prcClearLostBets();
+  }
+  prcReturnBets();
+  prcTableStatus(intShoeNumber);
+  BaccTable.txtUnitValue.Enabled = true;
+  if (intShoeNumber == 0) {
+    prcListRest();
+  }
+  intNextCard[intShoeNumber] = int{intLastCard[intShoeNumber]};
+  const std::string key = "Decks " + std::to_string(intDecksInPlay[intShoeNumber]);
+  prcWriteSetting("ShoesHandsPlayed", key, fncLong(fncGetSetting("ShoesHandsPlayed", key) + 1));
+}

@@ -1,0 +1,161 @@
+#include "table/HandPresentation.h"
+
+#include "learn/CardNeed.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+#include "reveal/CardMovement.h"
+#include "reveal/CardReveal.h"
+#include "table/BaccTable.h"
+#include "table/SeatResults.h"
+#include "table/Waits.h"
+
+namespace {
+
+/// Everything of one side that the presentation shows, its first card's position among it.
+struct Side {
+  int First;
+  Control& Total;
+  Control& Natural;
+  const Table<Integer, intShoes>& Total2;
+  const Table<Integer, intShoes>& FinalTotal;
+  const Table<bool, intShoes>& HasNatural;
+  const Table<bool, intShoes>& HasThird;
+};
+
+Side fncPlayerSide() {
+  return {0,
+          BaccTable.PTotal,
+          BaccTable.lblNaturalP,
+          intPlayerTotal2,
+          intPlayerTotal,
+          blnPlayerNatural,
+          blnPlayerThird};
+}
+
+Side fncBankerSide() {
+  return {3,
+          BaccTable.BTotal,
+          BaccTable.lblNaturalB,
+          intBankerTotal2,
+          intBankerTotal,
+          blnBankerNatural,
+          blnBankerThird};
+}
+
+/// Picture number of the card dealt to a position.
+Integer fncPositionCard(int n) {
+  const std::array<Integer, intPositions> cards{
+      intPlayerCard1[intShoeNumber], intPlayerCard2[intShoeNumber], intPlayerCard3[intShoeNumber],
+      intBankerCard1[intShoeNumber], intBankerCard2[intShoeNumber], intBankerCard3[intShoeNumber]};
+  return cards.at(static_cast<std::size_t>(n));
+}
+
+void prcLayBack(int n) {
+  if (blnDealAnimation) {
+    prcMoveCard(BaccTable, n);
+  }
+  BaccTable.pctCardBack[n].Visible = true;
+  BaccTable.shpCardShadow[n].Visible = true;
+}
+
+template <class Test>
+void prcPoll(Test done) {
+  while (!done()) {
+    prcWaitSeconds(1);
+    platform::DoEvents();
+  }
+}
+
+bool fncTurned(int n) { return !BaccTable.pctCardBack[n].Visible; }
+
+void prcShowNumber(Control& label, Integer number) { label.Text = std::to_string(number); }
+
+void prcLayFirstFour() {
+  for (const int n : {0, 3, 1}) {
+    prcLayBack(n);
+    prcWaitSeconds(0.5);
+  }
+  prcLayBack(4);
+}
+
+void prcTurnPair(const Side& side) {
+  for (const int n : {side.First, side.First + 1}) {
+    BaccTable.pctCardFace[n].Picture = fncPositionCard(n);
+    BaccTable.pctCardFace[n].Visible = true;
+    RevealCards(fncPositionValue(n), n, BaccTable);
+  }
+  if (blnCardFaceUp) {
+    prcShowNumber(side.Total, side.Total2[intShoeNumber]);
+    side.Total.Visible = true;
+    if (side.HasNatural[intShoeNumber]) {
+      side.Natural.Visible = true;
+    }
+  }
+}
+
+void prcThirdCard(const Side& side) {
+  if (!side.HasThird[intShoeNumber]) {
+    return;
+  }
+  const int n = side.First + 2;
+  BaccTable.pctCardFace[n].Picture = fncPositionCard(n);
+  prcLayBack(n);
+  BaccTable.pctCardFace[n].Visible = true;
+  prcWaitSeconds(blnDealDelay ? 0.7 : 0.5);
+  blnCardClickable[n] = true;
+  RevealCards(fncPositionValue(n), n, BaccTable);
+  if (blnCardFaceUp) {
+    prcShowNumber(side.Total, side.FinalTotal[intShoeNumber]);
+  }
+}
+
+/// Below this total the Banker draws whatever the Player's third card is, so nothing has to wait
+/// for it.
+constexpr double dblBankerDrawsAnyway = 2;
+
+void prcHoldForPlayerThird() {
+  if (blnPlayerThird[intShoeNumber] && !blnCardFaceUp &&
+      fncVal(BaccTable.BTotal.Text) > dblBankerDrawsAnyway) {
+    prcPoll([] { return fncTurned(2); });
+  }
+}
+
+void prcShowResults() {
+  for (Control* label : fncSideResults()) {
+    label->Visible = true;
+  }
+  for (int i = 0; i < intSeats; ++i) {
+    for (const SeatResult& result : fncSeatResults(i)) {
+      result.Label->Visible = true;
+    }
+  }
+}
+
+}  // namespace
+
+void prcPresentHand() {
+  if (blnLearn && !blnCardFaceUp) {
+    BaccTable.shpCardNeedP.Visible = BaccTable.shpCardNeedB.Visible = true;
+  }
+  prcLayFirstFour();
+  BaccTable.blnCardsPlaced = true;
+  if (!blnDealDelay) {
+    prcWaitSeconds(0.5);
+  }
+  prcTurnPair(fncPlayerSide());
+  prcTurnPair(fncBankerSide());
+  for (const int n : {0, 1, 3, 4}) {
+    blnCardClickable[n] = true;
+  }
+  if (!blnCardFaceUp) {
+    prcPoll([] { return fncTurned(0) && fncTurned(1) && fncTurned(3) && fncTurned(4); });
+  }
+  prcThirdCard(fncPlayerSide());
+  prcHoldForPlayerThird();
+  prcThirdCard(fncBankerSide());
+  if (!blnCardFaceUp && (blnPlayerThird[intShoeNumber] || blnBankerThird[intShoeNumber])) {
+    prcPoll([] { return fncTurned(2) && fncTurned(5); });
+  }
+  prcHideLearnPanels();
+  prcShowResults();
+}

@@ -1,0 +1,36 @@
+#include "table/HandSettlement.h"
+
+#include "marking/ManualShoe.h"
+#include "marking/MarkCard.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+
+namespace {
+
+void prcSettleSeat(Integer i) {
+  const std::string section = fncSeatSection(i);
+  ManualShoe(fncBetChips(betPlayer, i), fncBetChips(betBanker, i), fncBetChips(betTie, i), i + 1);
+  dblPlayerWin[i] = dblHandWin + dblPlayerWin[i] - dblHandLoss;
+  prcShowMoney(BaccTable.lblPlayerWinnings[i], dblPlayerWin[i]);
+  dblPlayerTotal[i] = dblHandWin + dblPlayerTotal[i];
+  prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
+  prcWriteSetting(section, "Win", dblPlayerWin[i]);
+  const Long turnover = fncLong(fncGetSetting(section, "Turnover"));
+  const Long played = turnover + lngTieBet[i] + lngBankerBet[i] + lngPlayerBet[i];
+  prcWriteSetting(section, "Turnover", played);
+}
+
+}  // namespace
+
+void prcSettleHand() {
+  for (int i = 0; i < intSeats; ++i) {
+    prcSettleSeat(i);
+  }
+  prcWriteSetting("ShoesHandsPlayed", "Hands",
+                  fncLong(fncGetSetting("ShoesHandsPlayed", "Hands") + 1));
+  for (int k = 0; k < intShoes; ++k) {
+    if (intMarkCardShoe[k] == intShoeNumber && k != intShoeNumber) {
+      SetCardView(k);
+    }
+  }
+}

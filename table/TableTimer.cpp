@@ -1,0 +1,70 @@
+#include "table/TableTimer.h"
+
+#include "platform/Procedure.h"
+#include "table/BaccTable.h"
+#include "table/DealCommand.h"
+#include "table/SeatResults.h"
+
+namespace {
+
+constexpr int intFlashTicks = 4;
+
+void prcFlash() {
+  for (Control* label : fncSideResults()) {
+    label->Visible = !label->Visible;
+  }
+  for (int i = 0; i < intSeats; ++i) {
+    for (const SeatResult& result : fncSeatResults(i)) {
+      result.Label->Visible = !result.Label->Visible;
+    }
+  }
+  ++BaccTable.intFlashCount;
+}
+
+void prcReopenSeat(Integer i) {
+  for (const BetSide side : betSides) {
+    fncBet(side, i).Box.Enabled = true;
+  }
+  for (Control* chip : fncChips(i)) {
+    chip->Visible = chip->Enabled = true;
+  }
+}
+
+void prcCloseRound() {
+  const bool blnOpen = !blnEndOfShoe[intShoeNumber];
+  for (Control* label : fncSideResults()) {
+    label->Visible = true;
+  }
+  for (int i = 0; i < intSeats; ++i) {
+    for (const SeatResult& result : fncSeatResults(i)) {
+      result.Label->Visible = true;
+      if (!result.Won) {
+        const BetControls bet = fncBet(result.Side, i);
+        bet.Box.Text = "0";
+        bet.Money = 0;
+      }
+    }
+    if (blnOpen) {
+      prcReopenSeat(i);
+    }
+  }
+  if (blnOpen) {
+    prcOpenDealControls();
+  }
+  BaccTable.Timer1.Enabled = false;
+  blnBusy = false;
+}
+
+}  // namespace
+
+void Timer1_Timer() {
+  Guarded("Baccarat table Timer1_Timer", [] {
+    if (BaccTable.intFlashCount < intFlashTicks) {
+      At(10);
+      prcFlash();
+    } else {
+      At(20);
+      prcCloseRound();
+    }
+  });
+}
