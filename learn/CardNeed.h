@@ -3,10 +3,10 @@
 #include "platform/Numbers.h"
 
 /// Shows in the panel of its side what the hidden card at position 0..5 would have to be, as far as
-/// that can be said. Sets blnCardNeedShown.
+/// that can be said; otherwise the panels stay as they are. Sets blnCardNeedShown either way.
 void CardNeed(const Integer& Index);
 
-/// Shows or hides both advice panels with their default text.
+/// Gives both panels their default text and shows them, or hides shapes and labels.
 void prcShowLearnPanels(bool blnShow);
 
 /// Hides the panels and their advice: shapes and labels.

@@ -3,8 +3,9 @@
 #include "platform/Numbers.h"
 #include "table/BaccTable.h"
 
-/// Flies a card back from above the table to a position 0..5; returns when it has arrived. Serves
-/// events.
+/// Flies a card back from above the table towards a position 0..5 in steps of 180 twips across, and
+/// returns when it is within one step. Serves events. The card must lie at least a step across from
+/// the start; otherwise faultDivision.
 void prcMoveCard(BaccTableWindow& frm, const Integer& Index);
 
 /// Turns a laid card of face value 1..13, or makes it ready for the user, by the card settings. May

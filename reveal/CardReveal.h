@@ -2,9 +2,10 @@
 
 #include "platform/Numbers.h"
 #include "platform/Window.h"
+#include "table/BaccTable.h"
 
-// Turning a card by click or squeeze. Index is the table position 0..5; mouse places are twips from
-// the strip's corner.
+// Turning a card by click or squeeze. Index is the table position 0..5, any other is
+// faultSubscript; mouse places are twips from the strip's corner.
 
 /// A card is 1065 by 1440 twips: 71 by 96 pixels of 15.
 inline constexpr int intCardWide = 1065;
@@ -15,10 +16,12 @@ inline constexpr int intFirstPicture = 11;
 
 /// Turns the card, if it may be turned: patches, back, totals and naturals of its side.
 void pctCardBack_Click(Integer Index);
+
+/// Gives advice in learn mode, once until the mouse has been over the bare table.
 void pctCardBack_MouseMove(Integer Index);
 
 /// A pull above or left of the strip: the back shrinks by just that much, and at the card's whole
-/// size it turns.
+/// size it turns. On the strip or beyond it the back stays as it is. Gives advice like the back.
 void lblCardBottom_MouseMove(Integer Index, float Y);
 void lblCardRight_MouseMove(Integer Index, float X);
 
@@ -26,7 +29,7 @@ void lblCardRight_MouseMove(Integer Index, float X);
 void lblCardBottom_MouseUp(Integer Index);
 void lblCardRight_MouseUp(Integer Index);
 
-/// The mouse is over the bare table: advice goes.
+/// The mouse is over the bare table: advice goes, the panels stay.
 void BaccTable_MouseMove();
 
 /// The pointers over the strips of all six positions.
@@ -37,9 +40,9 @@ void prcLoadArrows();
 Integer fncPositionValue(Integer Index);
 
 /// Shows or hides the two patches over the top left and bottom right marks, or over the other two,
-/// of the family that goes with the face value.
-void prcShowOuterPatches(Integer value, Integer Index, bool blnShow);
-void prcShowInnerPatches(Integer value, Integer Index, bool blnShow);
+/// of the family that goes with the face value. The other family is left alone.
+void prcShowOuterPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow);
+void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow);
 
 /// Handlers of the card controls, for the window's layout.
 extern const ControlEvents evtCardBack, evtCardBottom, evtCardRight;

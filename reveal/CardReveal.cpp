@@ -1,0 +1,211 @@
+#include "reveal/CardReveal.h"
+
+#include <array>
+#include <string>
+
+#include "learn/CardNeed.h"
+#include "platform/Procedure.h"
+#include "platform/platform.h"
+#include "table/TableState.h"
+
+namespace {
+
+/// The four patches of one family over a card.
+struct Patches {
+  Control &TopLeft, &TopRight, &BottomLeft, &BottomRight;
+};
+
+Patches fncPatches(BaccTableWindow& frm, Integer value, Integer n) {
+  if (value < intFirstPicture) {
+    return {frm.pctCardTopLeftWide[n], frm.pctCardTopRightWide[n], frm.pctCardBottomLeftWide[n],
+            frm.pctCardBottomRightWide[n]};
+  }
+  return {frm.pctCardTopLeft[n], frm.pctCardTopRight[n], frm.pctCardBottomLeft[n],
+          frm.pctCardBottomRight[n]};
+}
+
+void prcAdviseOnce(Integer Index) {
+  if (blnLearn && BaccTable.blnCardsPlaced && !BaccTable.blnCardNeedShown) {
+    CardNeed(Index);
+  }
+}
+
+/// Where a side shows what it has on two cards.
+struct SideResult {
+  Control &Total, &Natural;
+  Integer intTotal2;
+  bool blnNatural;
+};
+
+/// Shows the two-card total once the second card of the pair, whichever it is, has been turned.
+void prcShowPair(Integer first, const SideResult& side) {
+  if (BaccTable.pctCardBack[first].Visible || BaccTable.pctCardBack[first + 1].Visible) {
+    return;
+  }
+  side.Total.Text = std::to_string(side.intTotal2);
+  side.Total.Visible = true;
+  if (side.blnNatural) {
+    side.Natural.Visible = true;
+  }
+}
+
+/// A squeeze by dblPull twips, negative inwards, of a side of the back that is dblWhole long.
+void prcSqueeze(Integer Index, double& dblSide, double dblWhole, double dblPull) {
+  At(10);
+  prcAdviseOnce(Index);
+  At(20);
+  if (!(dblPull < 0)) {
+    return;
+  }
+  At(30);
+  if (dblWhole + dblPull > 0) {
+    dblSide = dblWhole + dblPull;
+    // The hand waits in a poll meanwhile: left to the event loop, the card would lag behind.
+    platform::RepaintNow(BaccTable.pctCardFace[Index]);
+    platform::RepaintNow(BaccTable.pctCardBack[Index]);
+    return;
+  }
+  At(40);
+  pctCardBack_Click(Index);
+}
+
+void prcSetPointers(Pointer bottom, Pointer right) {
+  for (int n = 0; n < intPositions; ++n) {
+    BaccTable.lblCardBottom[n].MousePointer = bottom;
+    BaccTable.lblCardRight[n].MousePointer = right;
+  }
+}
+
+}  // namespace
+
+Integer fncPositionValue(Integer Index) {
+  const std::array<const Table<Integer, intShoes>*, 3> player{&intPlayerValue1, &intPlayerValue2,
+                                                              &intPlayerValue3};
+  const std::array<const Table<Integer, intShoes>*, 3> banker{&intBankerValue1, &intBankerValue2,
+                                                              &intBankerValue3};
+  if (Index < 0 || Index >= intPositions) {
+    throw faultSubscript;
+  }
+  const auto& side = Index < 3 ? player : banker;
+  return (*side.at(static_cast<std::size_t>(Index % 3)))[intShoeNumber];
+}
+
+void prcShowOuterPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow) {
+  const Patches patches = fncPatches(frm, value, Index);
+  patches.TopLeft.Visible = blnShow;
+  patches.BottomRight.Visible = blnShow;
+}
+
+void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow) {
+  const Patches patches = fncPatches(frm, value, Index);
+  patches.TopRight.Visible = blnShow;
+  patches.BottomLeft.Visible = blnShow;
+}
+
+void pctCardBack_Click(Integer Index) {
+  Guarded("Baccarat table pctCardBack_Click", [&] {
+    const Integer shoe = intShoeNumber;
+    At(10);
+    if (!blnCardClickable[Index]) {
+      return;
+    }
+    At(20);
+    const Integer value = fncPositionValue(Index);
+    At(30);
+    BaccTable.lblCardBottom[Index].Visible = false;
+    BaccTable.lblCardRight[Index].Visible = false;
+    At(40);
+    prcShowInnerPatches(BaccTable, value, Index, true);
+    prcShowOuterPatches(BaccTable, value, Index, false);
+    At(50);
+    BaccTable.pctCardBack[Index].Visible = false;
+    platform::RepaintNow(BaccTable.pctCardFace[Index]);
+    At(60);
+    if (Index == 0 || Index == 1) {
+      prcShowPair(0, {BaccTable.PTotal, BaccTable.lblNaturalP, intPlayerTotal2[shoe],
+                      blnPlayerNatural[shoe]});
+    }
+    At(70);
+    if (Index == 3 || Index == 4) {
+      prcShowPair(3, {BaccTable.BTotal, BaccTable.lblNaturalB, intBankerTotal2[shoe],
+                      blnBankerNatural[shoe]});
+    }
+    At(80);
+    if (Index == 2) {
+      BaccTable.PTotal.Text = std::to_string(intPlayerTotal[shoe]);
+    }
+    At(90);
+    if (Index == 5) {
+      BaccTable.BTotal.Text = std::to_string(intBankerTotal[shoe]);
+    }
+  });
+}
+
+void pctCardBack_MouseMove(Integer Index) {
+  Guarded("Baccarat table pctCardBack_MouseMove", [&] {
+    At(10);
+    prcAdviseOnce(Index);
+  });
+}
+
+void lblCardBottom_MouseMove(Integer Index, float Y) {
+  Guarded("Baccarat table lblCardBottom_MouseMove", [&] {
+    prcSqueeze(Index, BaccTable.pctCardBack[Index].Height, BaccTable.intCardHeight, Y);
+  });
+}
+
+void lblCardRight_MouseMove(Integer Index, float X) {
+  Guarded("Baccarat table lblCardRight_MouseMove", [&] {
+    prcSqueeze(Index, BaccTable.pctCardBack[Index].Width, BaccTable.intCardWidth, X);
+  });
+}
+
+void lblCardBottom_MouseUp(Integer Index) {
+  BaccTable.pctCardBack[Index].Height = BaccTable.intCardHeight;
+}
+
+void lblCardRight_MouseUp(Integer Index) {
+  BaccTable.pctCardBack[Index].Width = BaccTable.intCardWidth;
+}
+
+void BaccTable_MouseMove() {
+  Guarded("Baccarat table Form_MouseMove", [] {
+    At(10);
+    if (BaccTable.blnCardNeedShown) {
+      BaccTable.blnCardNeedShown = false;
+      BaccTable.lblCardNeedP.Visible = false;
+      BaccTable.lblCardNeedB.Visible = false;
+    }
+  });
+}
+
+void prcLoadHands() {
+  Guarded("ZNEW prcLoadHands", [] {
+    At(10);
+    prcSetPointers(Pointer::HandUp, Pointer::HandRight);
+  });
+}
+
+void prcLoadArrows() {
+  Guarded("ZNEW prcLoadArrows", [] {
+    At(10);
+    prcSetPointers(Pointer::SizeUpDown, Pointer::SizeLeftRight);
+  });
+}
+
+const ControlEvents evtCardBack{
+    .Click = [](Control& card) { pctCardBack_Click(card.Index); },
+    .MouseMove = [](Control& card, const Mouse& /*mouse*/) { pctCardBack_MouseMove(card.Index); },
+};
+
+const ControlEvents evtCardBottom{
+    .MouseMove = [](Control& strip,
+                    const Mouse& mouse) { lblCardBottom_MouseMove(strip.Index, mouse.Y); },
+    .MouseUp = [](Control& strip, const Mouse& /*mouse*/) { lblCardBottom_MouseUp(strip.Index); },
+};
+
+const ControlEvents evtCardRight{
+    .MouseMove = [](Control& strip,
+                    const Mouse& mouse) { lblCardRight_MouseMove(strip.Index, mouse.X); },
+    .MouseUp = [](Control& strip, const Mouse& /*mouse*/) { lblCardRight_MouseUp(strip.Index); },
+};
