@@ -171,3 +171,9 @@ bool fncWriteProfile(const std::string& path, std::string_view section, std::str
   }
   return fncReplace(path, fncWithKey(contents.value_or(""), section, key, value));
 }
+
+bool fncCreateProfile(const std::string& path, const std::string& contents) {
+  std::error_code failed;
+  const bool blnThere = std::filesystem::exists(path, failed);
+  return !blnThere && !failed && fncReplace(path, contents);
+}

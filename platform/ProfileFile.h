@@ -16,3 +16,7 @@ std::string fncReadProfile(const std::string& path, std::string_view section, st
 /// Returns whether it was.
 bool fncWriteProfile(const std::string& path, std::string_view section, std::string_view key,
                      std::string_view value);
+
+/// Makes a new profile of these contents, as a whole or not at all. A file that stands is left
+/// alone. Returns whether one was made.
+bool fncCreateProfile(const std::string& path, const std::string& contents);

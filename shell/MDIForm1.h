@@ -3,11 +3,9 @@
 #include <string>
 
 #include "platform/Window.h"
+#include "shell/Toolbar.h"
 
 // The frame: its menus and toolbars, which show the user's switches, and the start and end of play.
-
-/// Buttons and separators of a toolbar, in order.
-inline constexpr int intToolButtons = 28;
 
 struct MDIFormWindow {
   Window Form;
@@ -28,13 +26,6 @@ struct MDIFormWindow {
 };
 extern MDIFormWindow MDIForm1;
 
-/// The button of the toolbar in use that has this key, such as "CardsDealt". An unknown key is a
-/// fault.
-Control& fncToolButton(const std::string& key);
-
-/// Sets a check button of the toolbar in use down (1) or up (0) without an event.
-void prcSetButton(const std::string& key, int value);
-
 /// Shows the frame, loading it on first use.
 void prcShowFrame();
 
@@ -42,21 +33,19 @@ void prcShowFrame();
 /// the program.
 void prcCloseFrame();
 
-/// Brings menus, buttons, flags and shoe size up from the settings file.
-void prcSetMenusAndButtons();
-
-void prcLearn();
-void prcShowCardsDealt();
-void prcShowCardsDealtCount();
-void prcPlayerBlue();
-/// Sets the size of the next shoe, 1, 2, 4, 6 or 8 decks, and marks its entry and button.
-void prcDecks(Integer decks, Control& button);
-/// The same after the warning that a shoe is in play.
-void prcDecksButtonWarning(Integer decks, Control& button);
-void prcSetRevealIcons();
+/// Turns mnuStatistics over and shows or hides the statistics, as a modal dialog.
 void prcStatistics();
+
+/// Shows the window of the nine shoes, or hides it. Nothing in the running program calls for it.
 void prcSelectaShoe();
+
+/// Turns mnuOptions over and shows or hides the options, as a modal dialog. Their entry and button
+/// are hidden.
 void prcOptions();
+
+/// Where the program's pages lie on the web: a host under a reserved example domain, so that
+/// nothing is ever fetched.
+extern const char* const strWebSite;
 
 /// Opens an address in the system's browser; a failure is told in one box titled varTitle.
 void DisplayURL(const std::string& strURL, const std::string& varTitle);

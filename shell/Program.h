@@ -1,5 +1,5 @@
 #pragma once
 
-/// Prepares all windows and starts the program: a second instance brings the first to the front and
-/// returns False.
+/// Puts the game's state to its start, prepares all windows and loads the start screen. Where a
+/// second instance is started, the first has been brought to the front and False comes back.
 bool fncStartProgram();

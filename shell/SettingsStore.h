@@ -20,6 +20,15 @@ double fncGetSetting(const std::string& strSection, const std::string& strKey);
 /// Writes a number in the file's form, with its leading blank.
 void prcWriteSetting(const std::string& strSection, const std::string& strKey, double number);
 
+/// A yes/no flag: only the exact text "False" is off, so a missing key is on.
+bool fncSwitchedOn(const std::string& strSection, const std::string& strKey);
+
+/// Writes a yes/no flag as "True" or "False".
+void prcWriteSwitch(const std::string& strSection, const std::string& strKey, bool blnOn);
+
+/// Full path of the help file.
+std::string fncHelpFilePath();
+
 /// Fixes strIniFile and strHelpFile, and sets up the least that a first run needs where there is no
 /// settings file.
 void prcFixPaths();

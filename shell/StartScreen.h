@@ -2,7 +2,7 @@
 
 #include "platform/Window.h"
 
-// The start screen and the About dialog.
+// The start screen, the first window of every run.
 
 struct PlaukWindow {
   Window Form;
@@ -12,15 +12,5 @@ struct PlaukWindow {
 };
 extern PlaukWindow Plauk;
 
-struct KasSitasWindow {
-  Window Form;
-  Control Image1, lblVersion, lblDescription, cmdOK;
-};
-extern KasSitasWindow KasSitas;
-
-/// Where the program's pages lie on the web: a host under a reserved example domain, so that
-/// nothing is ever fetched.
-extern const char* const strWebSite;
-
-/// Prepares both windows' events. Called once at the start of the program.
+/// Prepares the events of the start screen. Called once at the start of the program.
 void prcPrepareStartScreen();

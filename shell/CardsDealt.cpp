@@ -1,0 +1,210 @@
+#include "shell/CardsDealt.h"
+
+#include <array>
+
+#include "platform/Layout.h"
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+#include "shell/WindowPlace.h"
+#include "table/TableState.h"
+
+CardsDealtWindow frmCardsDealt;
+CardsDealtCountWindow frmCardsDealtCount;
+
+namespace {
+
+constexpr std::size_t intRowWidth = 21;
+
+/// Columns of a count row, from 0, in the order of the suits 1 to 4.
+constexpr std::array<std::size_t, 4> intSuitColumns{5, 8, 11, 14};
+
+/// What the two windows' handlers do alike, and where they differ.
+struct ListWindow {
+  Window& Form;
+  Control& List;
+  Control& OnTop;
+  const char* Section;
+  const char* OnTopKey;
+  Control& Entry;
+  const char* Button;
+  const char* SwitchKey;
+  const char* LoadLabel;
+  const char* UnloadLabel;
+  const char* ClickLabel;
+};
+
+constexpr ListWindow wndCards{frmCardsDealt.Form,
+                              frmCardsDealt.lstCardsDealt,
+                              frmCardsDealt.chkOnTop,
+                              "frmCardsDealt",
+                              "CardsDealtOnTop",
+                              MDIForm1.mnuShowCardsDealt,
+                              "CardsDealt",
+                              "Show Cards Dealt",
+                              "frmCardsDealt_Form_Load",
+                              "frmCardsDealt_Unload",
+                              "chkOnTop_Click"};
+constexpr ListWindow wndCount{frmCardsDealtCount.Form,
+                              frmCardsDealtCount.lstCardsDealtCount,
+                              frmCardsDealtCount.chkOnTop,
+                              "frmCardsDealtCount",
+                              "CardsDealtCountOnTop",
+                              MDIForm1.mnuShowCardsDealtCount,
+                              "CardsDealtCount",
+                              "Show Cards Dealt Count",
+                              "frmCardsDealtCount_Form_Load",
+                              "frmCardsDealtCount_Unload",
+                              "frmCardsDealtCount_chkOnTop_Click"};
+
+void prcEmpty(Control& list) {
+  list.List.clear();
+  list.ListIndex = -1;
+}
+
+void prcOnTopClick(const ListWindow& window) {
+  Guarded(window.ClickLabel, [&] {
+    At(10);
+    window.Form.Topmost = window.OnTop.Value == 1;
+    At(20);
+    prcWritePrivateProfileString("Misc", window.OnTopKey, window.Form.Topmost ? "1" : "0");
+  });
+}
+
+constexpr ControlEvents evtCardsOnTop{.Click = [](Control&) { prcOnTopClick(wndCards); }};
+constexpr ControlEvents evtCountOnTop{.Click = [](Control&) { prcOnTopClick(wndCount); }};
+
+void prcLayOutCards() {
+  const Place rows[] = {
+      {&frmCardsDealt.lstCardsDealt, "lstCardsDealt", -1, ControlKind::ListBox, 45, 45, 1845, 2955},
+      {&frmCardsDealt.chkOnTop, "chkOnTop", -1, ControlKind::CheckBox, 300, 3075, 1170, 270,
+       "Keep on top"},
+  };
+  prcLayOut(frmCardsDealt.Form, rows);
+  frmCardsDealt.lstCardsDealt.BackColor = clrWhite;
+  frmCardsDealt.lstCardsDealt.Spoken = "Cards dealt";
+  frmCardsDealt.chkOnTop.BackColor = clrWhite;
+  frmCardsDealt.chkOnTop.On = &evtCardsOnTop;
+}
+
+void prcLayOutCount() {
+  CardsDealtCountWindow& w = frmCardsDealtCount;
+  const Place rows[] = {
+      {&w.lstCardsDealtCount, "lstCardsDealtCount", -1, ControlKind::ListBox, 75, 450, 2055, 2565},
+      {&w.Label1, "Label1", -1, ControlKind::Label, 615, 0, 525, 255, "Spade"},
+      {&w.Label2, "Label2", -1, ControlKind::Label, 1005, 210, 405, 255, "Club"},
+      {&w.Label3, "Label3", -1, ControlKind::Label, 1215, 0, 645, 255, "Diamond"},
+      {&w.Label4, "Label4", -1, ControlKind::Label, 1665, 210, 525, 255, "Heart"},
+      {&w.chkOnTop, "chkOnTop", -1, ControlKind::CheckBox, 480, 3030, 1320, 270, "Keep on top"},
+  };
+  prcLayOut(w.Form, rows);
+  w.lstCardsDealtCount.BackColor = clrWhite;
+  w.lstCardsDealtCount.Face = {.Size = 9.75F, .Fixed = true};
+  w.lstCardsDealtCount.Spoken = "Count of cards dealt by suit";
+  w.chkOnTop.BackColor = clrWhite;
+  w.chkOnTop.On = &evtCountOnTop;
+}
+
+void prcLoadWindow(const ListWindow& window, void (*prcLayOutControls)()) {
+  Guarded(window.LoadLabel, [&] {
+    At(10);
+    prcLayOutControls();
+    prcEmpty(window.List);
+    At(20);
+    prcReadPlace(window.Form, window.Section);
+    At(30);
+    window.Form.Topmost = false;
+    if (fncGetPrivateProfileString("Misc", window.OnTopKey) == "1") {
+      prcSetValue(window.OnTop, 1);
+    }
+  });
+}
+
+/// The switch goes off with its window, wherever the closing comes from.
+void prcSwitchOff(const ListWindow& window) {
+  At(10);
+  window.Entry.Value = 0;
+  At(20);
+  prcSetButton(window.Button, 0);
+  At(30);
+  prcWriteSwitch("Card Options", window.SwitchKey, false);
+  At(40);
+  prcWritePlace(window.Form, window.Section);
+  At(50);
+}
+
+constexpr WindowEvents evtCards{.Load = [](Window&) { prcLoadWindow(wndCards, prcLayOutCards); },
+                                .Unload =
+                                    [](Window& form, bool& blnCancel) {
+                                      Guarded(wndCards.UnloadLabel, [&] {
+                                        prcSwitchOff(wndCards);
+                                        // The rows of the shoe live in the list alone: the window
+                                        // only goes out of sight.
+                                        form.Visible = false;
+                                        blnCancel = true;
+                                      });
+                                    }};
+
+constexpr WindowEvents evtCount{.Load = [](Window&) { prcLoadWindow(wndCount, prcLayOutCount); },
+                                .Unload =
+                                    [](Window&, bool&) {
+                                      Guarded(wndCount.UnloadLabel, [] {
+                                        prcSwitchOff(wndCount);
+                                        blnShowCardsDealtCount = false;
+                                      });
+                                    }};
+
+std::string fncCountRow(const CardsDealtRow& counts) {
+  std::string row = counts.Name;
+  row.resize(intRowWidth, ' ');
+  for (std::size_t suit = 0; suit < intSuitColumns.size(); ++suit) {
+    const std::string count = fncPlainNumberText(counts.Suit[static_cast<std::int64_t>(suit) + 1]);
+    row.replace(intSuitColumns[suit], count.size(), count);
+  }
+  return row;
+}
+
+void prcPrepareFloat(Window& form, const char* name, const char* caption, double width,
+                     double height, const WindowEvents& events) {
+  form.Name = name;
+  form.Kind = WindowKind::Float;
+  form.On = &events;
+  form.Caption = caption;
+  form.FixedInner = true;
+  form.ScaleWidth = width;
+  form.ScaleHeight = height;
+  form.BackColor = clrWhite;
+}
+
+}  // namespace
+
+void LoadlstCardsDealtCount() {
+  Guarded("LoadlstCardsDealtCount", [] {
+    At(10);
+    prcLoad(frmCardsDealtCount.Form);
+    prcEmpty(frmCardsDealtCount.lstCardsDealtCount);
+    At(20);
+    for (const CardsDealtRow& counts : varCardsDealtCount) {
+      frmCardsDealtCount.lstCardsDealtCount.List.push_back(fncCountRow(counts));
+    }
+    At(30);
+    frmCardsDealtCount.Form.Visible = true;
+  });
+}
+
+void prcClearCardsDealt() {
+  prcLoad(frmCardsDealt.Form);
+  prcEmpty(frmCardsDealt.lstCardsDealt);
+}
+
+void prcAddCardsDealt(const std::string& row) {
+  prcLoad(frmCardsDealt.Form);
+  prcAddRow(frmCardsDealt.lstCardsDealt, row);
+}
+
+void prcPrepareCardsDealt() {
+  prcPrepareFloat(frmCardsDealt.Form, "frmCardsDealt", "Cards Dealt", 1920, 3375, evtCards);
+  prcPrepareFloat(frmCardsDealtCount.Form, "frmCardsDealtCount", "Cards Dealt Count", 2205, 3315,
+                  evtCount);
+}

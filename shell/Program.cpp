@@ -1,0 +1,34 @@
+#include "shell/Program.h"
+
+#include "betting/frmStatistics.h"
+#include "marking/MarkState.h"
+#include "platform/platform.h"
+#include "shell/About.h"
+#include "shell/CardsDealt.h"
+#include "shell/MDIForm1.h"
+#include "shell/StartScreen.h"
+#include "shell/frmKaNori.h"
+#include "shell/frmSelectaShoe.h"
+#include "table/BaccTable.h"
+#include "table/Cards.h"
+#include "table/TableState.h"
+
+bool fncStartProgram() {
+  if (platform::ActivateOtherInstance()) {
+    return false;
+  }
+  prcResetTableState();
+  prcResetMarkState();
+  // The count of cards dealt may show before the first shuffle: its rows have their names already.
+  prcInitCardsDealtCount();
+  prcPrepareFrame();
+  prcPrepareBaccTable();
+  prcPrepareCardsDealt();
+  prcPrepareStatistics();
+  prcPrepareSelectaShoe();
+  prcPrepareKaNori();
+  prcPrepareAbout();
+  prcPrepareStartScreen();
+  prcLoad(Plauk.Form);
+  return true;
+}

@@ -1,0 +1,66 @@
+#include "shell/SettingsStore.h"
+
+#include "platform/Procedure.h"
+#include "platform/ProfileFile.h"
+#include "platform/Texts.h"
+#include "platform/platform.h"
+
+std::string strIniFile;
+std::string strHelpFile;
+
+namespace {
+
+constexpr std::size_t intLongestValue = 99;
+
+/// Without these a first run would open a table of no size, with seats that have no money. Twips,
+/// money per chip, money.
+constexpr const char* strFirstSettings =
+    "[frmBaccTable]\r\n"
+    "Height= 5400\r\n"
+    "Width= 10770\r\n"
+    "[Misc]\r\n"
+    "UnitValue= 10\r\n"
+    "[Player1Stats]\r\n"
+    "Stake= 1000\r\n"
+    "[Player2Stats]\r\n"
+    "Stake= 1000\r\n";
+
+}  // namespace
+
+std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey) {
+  return Guarded("ZNEW fncGetPrivateProfileString", [&] {
+    At(10);
+    return fncReadProfile(strIniFile, strSection, strKey, "No").substr(0, intLongestValue);
+  });
+}
+
+void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
+                                  const std::string& strValue) {
+  fncWriteProfile(strIniFile, strSection, strKey, strValue);
+}
+
+double fncGetSetting(const std::string& strSection, const std::string& strKey) {
+  return fncVal(fncGetPrivateProfileString(strSection, strKey));
+}
+
+void prcWriteSetting(const std::string& strSection, const std::string& strKey, double number) {
+  prcWritePrivateProfileString(strSection, strKey, fncNumberText(number));
+}
+
+bool fncSwitchedOn(const std::string& strSection, const std::string& strKey) {
+  return fncGetPrivateProfileString(strSection, strKey) != "False";
+}
+
+void prcWriteSwitch(const std::string& strSection, const std::string& strKey, bool blnOn) {
+  prcWritePrivateProfileString(strSection, strKey, blnOn ? "True" : "False");
+}
+
+std::string fncHelpFilePath() {
+  return platform::HelpFolder() + "/VELMORA.HLP";
+}
+
+void prcFixPaths() {
+  strIniFile = platform::DataFolder() + "/VELMORA.INI";
+  strHelpFile = fncHelpFilePath();
+  fncCreateProfile(strIniFile, strFirstSettings);
+}

@@ -1,0 +1,109 @@
+#include "shell/ShoeSize.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "platform/Procedure.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+#include "shell/Switches.h"
+#include "shell/Toolbar.h"
+#include "table/TableState.h"
+
+namespace {
+
+Control* tlbrDecksButton = nullptr;  // The button of the size in force; none for an odd size.
+
+Control& fncSizeButton(int decks) {
+  return fncToolButton("Decks" + std::to_string(decks));
+}
+
+/// The stored number of decks. What no Integer holds counts as the nearest one that fits, and so as
+/// out of range.
+Integer fncStoredDecks() {
+  using Bounds = std::numeric_limits<std::int16_t>;
+  return fncInteger(std::clamp(fncGetSetting("Shoe Size", "Decks"), double{Bounds::min()},
+                               double{Bounds::max()}));
+}
+
+}  // namespace
+
+void prcDecks(Integer decks, Control& button) {
+  Guarded("MDIForm1_prcDecks", [&] {
+    At(10);
+    intDecks[intShoeNumber] = decks;
+    At(20);
+    for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
+      MDIForm1.mnuShoeSizeDecks[i].Value =
+          intShoeSizes[static_cast<std::size_t>(i)] == decks ? 1 : 0;
+    }
+    At(30);
+    prcWriteSetting("Shoe Size", "Decks", decks);
+    At(40);
+    prcSetButton(button, 1);
+    tlbrDecksButton = &button;
+  });
+}
+
+void prcDecksButtonWarning(Integer decks, Control& button) {
+  Guarded("MDIForm1_prcDecksButtonWarning", [&] {
+    At(10);
+    if (fncChangeWanted()) {
+      At(20);
+      prcDecks(decks, button);
+      return;
+    }
+    At(30);
+    // Last comes the press, so that a click on the size in force leaves it down.
+    prcSetButton(button, 0);
+    if (tlbrDecksButton != nullptr) {
+      prcSetButton(*tlbrDecksButton, 1);
+    }
+  });
+}
+
+void prcSizeButton(Control& button) {
+  for (const int decks : intShoeSizes) {
+    if (&fncSizeButton(decks) == &button) {
+      prcDecksButtonWarning(decks, button);
+    }
+  }
+}
+
+void prcSizeEntry(Control& entry) {
+  Guarded("MDIForm1_mnuShoeSizeDecks_Click", [&] {
+    At(10);
+    if (fncChangeWanted()) {
+      At(20);
+      const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));
+      prcDecks(decks, fncSizeButton(decks));
+    }
+  });
+}
+
+void prcReadShoeSize() {
+  At(20);
+  for (Integer& decks : intDecks) {
+    decks = fncStoredDecks();
+  }
+  At(30);
+  for (Control& entry : MDIForm1.mnuShoeSizeDecks) {
+    entry.Value = 0;
+  }
+  At(40);
+  Integer& decks = intDecks[intShoeNumber];
+  if (decks < intShoeSizes.front() || decks > intShoeSizes.back()) {
+    decks = intShoeSizes.back();
+  }
+  At(50);
+  tlbrDecksButton = nullptr;
+  prcMarkShoeSize();
+}
+
+void prcMarkShoeSize() {
+  const Integer decks = intDecks[intShoeNumber];
+  if (std::ranges::find(intShoeSizes, int{decks}) != intShoeSizes.end()) {
+    prcDecks(decks, fncSizeButton(decks));
+  }
+}

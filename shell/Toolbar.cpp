@@ -1,0 +1,169 @@
+#include "shell/Toolbar.h"
+
+#include <algorithm>
+#include <array>
+
+#include "assets/Pictures.h"
+#include "platform/Layout.h"
+#include "platform/Procedure.h"
+#include "platform/platform.h"
+#include "shell/MDIForm1.h"
+#include "shell/ShoeSize.h"
+#include "shell/Switches.h"
+
+Control* tlbrRef = &MDIForm1.tlbrMDIForm1;
+
+namespace {
+
+/// A button as both toolbars show it; what its click does depends on the key alone.
+struct ToolRow {
+  const char* Key;
+  ButtonStyle Style;
+  int Image;
+  const char* Caption;
+  bool blnCaptionWhenSmall;
+  const char* ToolTip;
+  void (*Click)(Control& button);
+};
+
+constexpr void (*prcReveal)(Control&) = [](Control&) { prcSetRevealIcons(); };
+constexpr ToolRow rowSeparator{"Separator", ButtonStyle::Separator, 0, "", true, "", nullptr};
+
+constexpr std::array<ToolRow, intToolButtons> toolRows{{
+    {"Learn", ButtonStyle::Check, 1, "Learn", true, "Learn which cards are required to WIN",
+     prcSwitchButton},
+    rowSeparator,
+    {"CardFaceUp", ButtonStyle::Check, 2, "Card Face Up", true, "Cards dealt face up if pressed",
+     prcSwitchButton},
+    {"CardValues", ButtonStyle::Check, 3, "", true, "Card values shown when revealing card face",
+     prcSwitchButton},
+    {"CardsDealt", ButtonStyle::Check, 4, "Cards Dealt List", false, "Show list of all cards dealt",
+     prcSwitchButton},
+    {"CardsDealtCount", ButtonStyle::Check, 5, "Cards Dealt Count", false,
+     "Show count of all cards dealt", prcSwitchButton},
+    rowSeparator,
+    {"ShowScore", ButtonStyle::Check, 6, "", true, "Show Score when pressed otherwise units bet",
+     prcSwitchButton},
+    {"ShowNaturals", ButtonStyle::Check, 7, "", true, "Show Naturals as ovals on mark card",
+     prcSwitchButton},
+    {"PlayerBlue", ButtonStyle::Check, 8, "", true, "Player is blue when pressed down",
+     prcSwitchButton},
+    rowSeparator,
+    {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe", prcSizeButton},
+    {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe", prcSizeButton},
+    {"Decks4", ButtonStyle::Group, 11, "", true, "4 Decks of cards per shoe", prcSizeButton},
+    {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe", prcSizeButton},
+    {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe", prcSizeButton},
+    rowSeparator,
+    {"Delay", ButtonStyle::Check, 14, "", true, "Delay between showing cards when face up",
+     prcSwitchButton},
+    {"Animation", ButtonStyle::Check, 15, "", true, "Animation", prcSwitchButton},
+    rowSeparator,
+    {"RevealArrows", ButtonStyle::Group, 16, "", true, "Use arrows to reveal cards", prcReveal},
+    {"RevealHands", ButtonStyle::Group, 17, "", true, "Use hands to reveal cards", prcReveal},
+    rowSeparator,
+    {"Statistics", ButtonStyle::Check, 18, "", true, "Show Player Statistics",
+     [](Control&) { prcStatistics(); }},
+    rowSeparator,
+    {"SelectaShoe", ButtonStyle::Check, 21, "", true, "Select a shoe to play",
+     [](Control&) { prcSelectaShoe(); }},
+    rowSeparator,
+    {"Options", ButtonStyle::Check, 20, "", true, "General Options",
+     [](Control&) { prcOptions(); }},
+}};
+
+const ToolRow& fncRow(const std::string& key) {
+  const auto* const row = std::ranges::find(toolRows, key, &ToolRow::Key);
+  if (row == toolRows.end()) {
+    throw faultSubscript;
+  }
+  return *row;
+}
+
+std::ptrdiff_t fncPlace(const std::string& key) {
+  return &fncRow(key) - toolRows.data();
+}
+
+Table<Control, intToolButtons>& fncButtons(const Control& toolbar) {
+  return &toolbar == &MDIForm1.tlbrMDIForm2 ? MDIForm1.tlbrButtons2 : MDIForm1.tlbrButtons1;
+}
+
+constexpr ControlEvents evtToolButton{.Click = [](Control& button) {
+  Guarded("MDIForm1_tlbrMDIForm1_ButtonClick", [&] {
+    At(10);
+    fncRow(button.Name).Click(button);
+  });
+}};
+
+/// The group of a button runs from separator to separator.
+void prcReleaseGroup(Control& button) {
+  Table<Control, intToolButtons>& buttons = fncButtons(*button.Container);
+  const std::ptrdiff_t place = &button - &buttons[0];
+  const auto release = [&](std::ptrdiff_t at, int step) {
+    for (at += step; at >= 0 && at < intToolButtons; at += step) {
+      if (buttons[at].Style != ButtonStyle::Group) {
+        return;
+      }
+      buttons[at].Value = 0;
+    }
+  };
+  release(place, -1);
+  release(place, 1);
+}
+
+void prcLayOutToolbar(Control& toolbar, const char* name, double top, double height,
+                      bool blnLarge) {
+  prcPlace(MDIForm1.Form,
+           {&toolbar, name, -1, ControlKind::Toolbar, 0, top, platform::ScreenWidth(), height});
+  Table<Control, intToolButtons>& buttons = fncButtons(toolbar);
+  for (int i = 0; i < intToolButtons; ++i) {
+    const ToolRow& row = toolRows[static_cast<std::size_t>(i)];
+    const char* const caption = blnLarge || row.blnCaptionWhenSmall ? row.Caption : "";
+    prcPlace(MDIForm1.Form, {&buttons[i], row.Key, -1, ControlKind::ToolButton, 0, 0, 0, height,
+                             caption, row.ToolTip});
+    buttons[i].Container = &toolbar;
+    buttons[i].Style = row.Style;
+    buttons[i].Picture = row.Image == 0 ? 0 : picToolbar + row.Image;
+    buttons[i].On = row.Style == ButtonStyle::Separator ? &evtNone : &evtToolButton;
+  }
+}
+
+}  // namespace
+
+Control& fncToolButton(const std::string& key) {
+  return fncButtons(*tlbrRef)[fncPlace(key)];
+}
+
+void prcSetButton(Control& button, int value) {
+  if (value == 1 && button.Style == ButtonStyle::Group) {
+    prcReleaseGroup(button);
+  }
+  button.Value = value;
+}
+
+void prcSetButton(const std::string& key, int value) {
+  prcSetButton(fncToolButton(key), value);
+}
+
+void prcMoveButton(const std::string& key) {
+  prcSetButton(key, fncToolButton(key).Value == 1 ? 0 : 1);
+}
+
+void prcUseToolbar(bool blnLarge) {
+  MDIForm1.mnuLargeButtons.Value = blnLarge ? 1 : 0;
+  MDIForm1.tlbrMDIForm1.Visible = MDIForm1.tlbrMDIForm1.Enabled = blnLarge;
+  MDIForm1.tlbrMDIForm2.Visible = MDIForm1.tlbrMDIForm2.Enabled = !blnLarge;
+  tlbrRef = blnLarge ? &MDIForm1.tlbrMDIForm1 : &MDIForm1.tlbrMDIForm2;
+}
+
+void prcHideButton(const std::string& key) {
+  for (auto* buttons : {&MDIForm1.tlbrButtons1, &MDIForm1.tlbrButtons2}) {
+    Control& button = (*buttons)[fncPlace(key)];
+    button.Visible = button.Enabled = false;
+  }
+}
+
+void prcLayOutToolbars() {
+  prcLayOutToolbar(MDIForm1.tlbrMDIForm1, "tlbrMDIForm1", 420, 540, true);
+  prcLayOutToolbar(MDIForm1.tlbrMDIForm2, "tlbrMDIForm2", 960, 420, false);
+}
