@@ -126,9 +126,7 @@ std::string fncWinningCards(int v, int count) {
   return (v > 7 ? fncNaturalCards(v) : fncBestCards(29 - v, count)) + " to WIN";
 }
 
-std::string fncTieCard(int number) {
-  return fncCard(number) + " to TIE";
-}
+std::string fncTieCard(int number) { return fncCard(number) + " to TIE"; }
 
 std::string fncAgainst8(int v) {
   if (v == 9) {
@@ -139,9 +137,7 @@ std::string fncAgainst8(int v) {
 }
 
 /// Face values above 9 count nothing.
-int fncWorth(Integer v) {
-  return v > 9 ? 0 : int{v};
-}
+int fncWorth(Integer v) { return v > 9 ? 0 : int{v}; }
 
 enum class ThirdCard { Absent, FaceDown, Revealed, BackAlone };
 

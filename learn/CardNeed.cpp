@@ -70,6 +70,4 @@ void prcShowLearnPanels(bool blnShow) {
   }
 }
 
-void prcHideLearnPanels() {
-  prcShowLearnPanels(false);
-}
+void prcHideLearnPanels() { prcShowLearnPanels(false); }

@@ -120,9 +120,7 @@ const std::array<Rows, 5> playerThird{
       "4, 5 to WIN|3 to TIE|1, 2, 6, 7, 8, 9, 10, Picture to LOSE",
       "3, 4 to WIN|2 to TIE|1, 5, 6, 7, 8, 9, 10, Picture to LOSE"}}};
 
-std::string fncRow(const Rows& rows, int at) {
-  return rows.at(static_cast<std::size_t>(at));
-}
+std::string fncRow(const Rows& rows, int at) { return rows.at(static_cast<std::size_t>(at)); }
 
 /// The last card told by the rules of the game: which card makes which total.
 std::string fncLastCardByTotals(int v, int t) {
