@@ -182,7 +182,6 @@ void prcPlaceBars(MarkCardWindow& form) {
   const double width = form.Form.ScaleWidth, height = form.Form.ScaleHeight;
   Control& across = form.HScroll1;
   Control& down = form.VScroll1;
-  At(10);
   across.Left = down.Top = 0;
   At(20);
   across.Top = form.Picture1.Width > width ? height - across.Height : height;
@@ -249,6 +248,7 @@ void prcPrepareMarkCard(MarkCardWindow& form) {
 
 void prcMarkCardResize(const Integer& card) {
   Guarded("prcMarkCardResize", [&] {
+    At(10);
     MarkCardWindow* form = fncMarkCard(card);
     if (form == nullptr) {
       return;
