@@ -1,0 +1,130 @@
+#include <array>
+
+#include "shell/SettingsStore.h"
+#include "tests/shell/RunningProgram.h"
+
+namespace {
+
+class SettingsStore : public RunningProgram {};
+
+std::string fncJunk() {
+  std::string junk;
+  for (int i = 0; i < 4096; ++i) {
+    junk += static_cast<char>((i * 7919) >> 3);
+  }
+  return junk;
+}
+
+TEST_F(SettingsStore, ReadsWhatADamagedFileStillHolds) {
+  const struct {
+    const char* Case;
+    std::string Contents, Value;
+  } rows[] = {
+      {"plain", "[File]\r\nLearn=False\r\n", "False"},
+      {"line feeds alone", "[Deal]\nDelay=True\n[File]\nLearn=False\n", "False"},
+      {"carriage returns alone", "[File]\rLearn=False\r", "False"},
+      {"no end of the last line", "[File]\r\nLearn=False", "False"},
+      {"other case", "[fILE]\r\nlEARN=False\r\n", "False"},
+      {"blanks and tabs around all", "  [ File ]\r\n \tLearn \t = \t False \t\r\n", "False"},
+      {"line without equals sign", "[File]\r\nwhat is this\r\nLearn=False\r\n", "False"},
+      {"section without its bracket", "[File\r\nLearn=False\r\n", "False"},
+      {"equals sign in the value", "[File]\r\nLearn=a=b\r\n", "a=b"},
+      {"empty value", "[File]\r\nLearn=\r\n", ""},
+      {"first of two", "[File]\r\nLearn=1\r\nLearn=2\r\n", "1"},
+      {"comment", "[File]\r\n;Learn=True\r\nLearn=False\r\n", "False"},
+      {"binary in front", fncJunk() + "\r\n[File]\r\nLearn=False\r\n", "False"},
+      {"binary alone", fncJunk(), "No"},
+      {"nothing", "", "No"},
+      {"before any section", "Learn=False\r\n[File]\r\n", "No"},
+      {"another section", "[Files]\r\nLearn=False\r\n[Deal]\r\nLearn=False\r\n", "No"},
+      {"longer key", "[File]\r\nLearner=False\r\n", "No"},
+      {"99 characters come back", "[File]\r\nLearn=" + std::string(120, 'x'), std::string(99, 'x')},
+  };
+  for (const auto& row : rows) {
+    prcWriteFile(row.Contents);
+    EXPECT_EQ(fncGetPrivateProfileString("File", "Learn"), row.Value) << row.Case;
+  }
+}
+
+TEST_F(SettingsStore, AWriteLeavesEveryOtherByteAlone) {
+  const struct {
+    const char* Case;
+    std::string Before, After;
+  } rows[] = {
+      {"new file", "", "[Deal]\r\nDelay=True\r\n"},
+      {"replaced in place", "; mine\r\n[Deal]\r\nx\r\ndelay = False\r\nAnimation=1\r\n",
+       "; mine\r\n[Deal]\r\nx\r\nDelay=True\r\nAnimation=1\r\n"},
+      {"added to its section", "[Deal]\r\nAnimation=1\r\n\r\n[File]\r\nLearn=1\r\n",
+       "[Deal]\r\nAnimation=1\r\nDelay=True\r\n\r\n[File]\r\nLearn=1\r\n"},
+      {"added behind an open line", "[Deal]\nAnimation=1", "[Deal]\nAnimation=1\nDelay=True\n"},
+      {"new section", "[File]\nLearn=1", "[File]\nLearn=1\n[Deal]\nDelay=True\n"},
+      {"line feeds stay", "[Deal]\nDelay=1\nb=2\n", "[Deal]\nDelay=True\nb=2\n"},
+      {"binary stays", fncJunk() + "\n[Deal]\nDelay=1\n", fncJunk() + "\n[Deal]\nDelay=True\n"},
+  };
+  for (const auto& row : rows) {
+    prcWriteFile(row.Before);
+    prcWritePrivateProfileString("Deal", "Delay", "True");
+    EXPECT_EQ(fncFile(), row.After) << row.Case;
+  }
+}
+
+TEST_F(SettingsStore, TenMegabytesAreReadAndKept) {
+  std::string contents;
+  while (contents.size() < 10'000'000) {
+    contents +=
+        "[Section " + std::to_string(contents.size()) + "]\r\nkey=" + std::string(80, 'v') + "\r\n";
+  }
+  prcWriteFile(contents + "[Misc]\r\nUnitValue= 20\r\n");
+  EXPECT_EQ(fncGetSetting("misc", "unitvalue"), 20);
+  prcWriteSetting("Misc", "UnitValue", 30);
+  EXPECT_EQ(fncFile(), contents + "[Misc]\r\nUnitValue= 30\r\n");
+}
+
+TEST_F(SettingsStore, AWriteThatFailsLosesNothing) {
+  const std::string before = "[Deal]\r\nDelay=False\r\n";
+  const std::string beside = strIniFile + ".new";
+  prcWriteFile(before);
+
+  std::filesystem::create_directory(beside);  // Nothing can be written beside the file.
+  prcWritePrivateProfileString("Deal", "Delay", "True");
+  EXPECT_EQ(fncFile(), before);
+  std::filesystem::remove(beside);
+
+  if (std::filesystem::exists("/dev/full")) {
+    std::filesystem::create_symlink("/dev/full", beside);  // The disk is full.
+    prcWritePrivateProfileString("Deal", "Delay", "True");
+    EXPECT_EQ(fncFile(), before);
+  }
+
+  prcWritePrivateProfileString("Deal", "Delay", "True");
+  EXPECT_EQ(fncKey("Deal", "Delay"), "True");
+}
+
+TEST_F(SettingsStore, NumbersKeepTheirFormAndTheirFraction) {
+  const struct {
+    double Number;
+    const char* Written;
+  } rows[] = {{2310, "= 2310\r"}, {2310.5, "= 2310.5\r"}, {-250, "=-250\r"}, {0, "= 0\r"}};
+  for (const auto& row : rows) {
+    prcWriteSetting("Misc", "UnitValue", row.Number);
+    EXPECT_NE(fncFile().find(row.Written), std::string::npos) << row.Number;
+    EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), row.Number);
+  }
+  prcWritePrivateProfileString("Misc", "UnitValue", "12 chips");
+  EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), 12);
+}
+
+TEST_F(SettingsStore, AFirstRunGetsAPlayableTableAndALaterOneKeepsItsFile) {
+  prcFixPaths();
+  EXPECT_EQ(fncGetSetting("Player1Stats", "Stake"), 1000);
+  EXPECT_EQ(fncGetSetting("Player2Stats", "Stake"), 1000);
+  EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), 10);
+  EXPECT_EQ(fncGetSetting("frmBaccTable", "Width"), 10770);
+  EXPECT_EQ(fncGetSetting("frmBaccTable", "Height"), 5400);
+
+  prcWriteFile("[Deal]\r\nDelay=False\r\n");
+  prcFixPaths();
+  EXPECT_EQ(fncFile(), "[Deal]\r\nDelay=False\r\n");
+}
+
+}  // namespace
