@@ -1,0 +1,130 @@
+# The steps of the tour, in the order of an evening: sourced by tour.sh.
+
+deal_button='^push button<T>Deal'
+shuffle_button='^push button<T>&?Shuffle'
+message='^(alert|dialog)<T>Velmora'
+
+start_play
+picture start-screen
+click 'Click to START'
+wait_for 20 "$chip_value_box" "the table does not show after a click on Start"
+measure_table
+expect Player1Stats Stake 1000 "the first run has set up no stake"
+picture frame
+
+click "$shuffle_button"
+wait_for 5 'SHUFFLE IN PROGRESS' "a click on Shuffle starts no shuffle"
+picture shuffle
+wait_for 20 "$deal_button" "the shuffle does not end"
+
+# Bets: 5 chips and a Tie by mouse for the first seat, 3 chips by keyboard for the second.
+click_table $seat1_banker_chip5
+click_table $seat1_tie_chip1
+wait_for 5 '<T>\$940<T>Stake and winnings' "the chips did not cost the first seat \$60"
+click_table $seat2_player_box
+typed 3
+keys Tab
+wait_for 5 '<T>\$970<T>Stake and winnings' "the typed bet did not cost the second seat \$30"
+picture bets
+
+click '^push button<T>10( |<T>)'
+wait_for 10 '10 hands have just been dealt' "the ten hands do not end in their message"
+picture ten-hands
+keys Return
+wait_gone 5 'hands have just been dealt' "Enter does not close the message"
+expect ShoesHandsPlayed Hands 10 "ten hands were not counted"
+[ "$(setting Player1Stats Turnover)" -ge 50 ] || fail "the first seat's turnover was not booked"
+
+# One hand, dealt face up.
+click_table $seat1_banker_chip5
+click "$deal_button"
+wait_for 20 '^label<T>(WIN|TIE)<T>' "the hand shows no result"
+picture hand-face-up
+expect ShoesHandsPlayed Hands 11 "the eleventh hand was not counted"
+wait_for 10 "$deal_button" "the table does not reopen after the hand"
+
+# One hand face down, with advice; the first card is squeezed and the others clicked.
+click '<T>Cards dealt face up if pressed<T>'
+expect "Card Options" "Card Face Up" False "the toolbar does not turn the cards face down"
+click "$deal_button"
+wait_for 20 'To reveal card - press left mouse button and move up' "no card waits for the user"
+sleep 3
+xdotool mousemove $(on_table $second_card) mousemove_relative 5 5 sleep 0.5
+picture learn
+xdotool mousemove $(on_table $first_strip) mousedown 1
+read -r _ from < <(on_table $first_strip)
+for pulled in 200 400 600 800; do
+  xdotool mousemove $(on_table ${first_strip% *} $((${first_strip#* } - pulled))) sleep 0.1
+done
+picture squeeze
+xdotool mousemove $(on_table ${first_strip% *} $((${first_strip#* } - 1600))) sleep 0.2 mouseup 1
+for card in "$second_card" "$third_card" "$fourth_card"; do
+  click_table $card
+done
+until=$((SECONDS + 30))
+until sees '^label<T>(WIN|TIE)<T>'; do
+  [ "$SECONDS" -lt "$until" ] || fail "the turned cards lead to no result"
+  if line '<T>Click to reveal card<T>' >/dev/null; then
+    click '<T>Click to reveal card<T>'
+  fi
+done
+picture hand-revealed
+expect ShoesHandsPlayed Hands 12 "the squeezed hand was not counted"
+wait_for 10 "$deal_button" "the table does not reopen after the squeezed hand"
+
+# The rest of the shoe in one run.
+click '<T>Enter Between 1 and 90<T>'
+keys ctrl+a
+typed 90
+keys Tab
+click "$deal_button"
+wait_for 20 'hands have just been dealt' "the rest of the shoe is not dealt"
+keys Return
+wait_for 5 'END OF SHOE' "the shoe does not end"
+expect ShoesHandsPlayed "Decks 8" 1 "the shoe was not counted"
+picture end-of-shoe
+
+# Around the table: the lists, statistics, menus, help, About.
+click '<T>Show list of all cards dealt<T>'
+expect "Card Options" "Show Cards Dealt" False "the first click does not turn the list off"
+click '<T>Show list of all cards dealt<T>'
+wait_for 5 '^frame<T>.*CARDS' "the list of cards dealt does not show"
+picture cards-dealt
+
+click '<T>Show Player Statistics<T>'
+wait_for 5 'TURNOVER|Turnover' "the statistics do not show"
+picture statistics
+keys Escape
+keys alt+F4
+
+keys alt+o
+wait_for 5 'Large Buttons' "the menu does not open by its key"
+picture menu
+keys l
+wait_for 5 '<T>Statistics' "the small toolbar does not show"
+expect Options "Large Buttons" False "the menu does not change the toolbar"
+picture small-toolbar
+
+keys alt+h c
+wait_for 10 'Contents' "the help does not open"
+picture help
+keys alt+F4
+keys alt+h a
+wait_for 5 'Improve your Betting Strategy' "About does not show"
+picture about
+keys Return
+
+# Out by the menu, and in again: what was won and lost is still there.
+keys alt+f x
+wait "$program" || fail "the program did not end well"
+[ -n "$(setting frmBaccTable Height)" ] || fail "the places of the windows were not stored"
+start_play
+keys s
+wait_for 20 "$chip_value_box" "the key S does not start the second run"
+total=$(awk -v win="$(setting Player1Stats Win)" 'BEGIN { n = 1000 + win; printf "%.0f", n < 0 ? -n : n }')
+look
+name_of '<T>Stake and winnings<T>' | tr -d ',' | grep -qF "$total" ||
+  fail "the first seat does not find its $total again"
+picture second-run
+keys alt+f x
+wait "$program" || fail "the program did not end well the second time"
