@@ -97,6 +97,7 @@ constexpr WindowEvents evtFrame{.Load = prcLoadFrame,
 void prcCloseMarkCards() {
   // Each closing takes its window out of the collection.
   std::vector<MarkCardWindow*> open;
+  open.reserve(colMarkCards.size());
   for (const auto& [handle, card] : colMarkCards) {
     open.push_back(card);
   }
@@ -121,9 +122,7 @@ constexpr int intLastFailure = 32;
 
 }  // namespace
 
-void prcShowFrame() {
-  prcShow(MDIForm1.Form);
-}
+void prcShowFrame() { prcShow(MDIForm1.Form); }
 
 void prcCloseFrame() {
   Guarded("MDIForm1_Unload", [] {

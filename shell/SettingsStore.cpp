@@ -55,9 +55,7 @@ void prcWriteSwitch(const std::string& strSection, const std::string& strKey, bo
   prcWritePrivateProfileString(strSection, strKey, blnOn ? "True" : "False");
 }
 
-std::string fncHelpFilePath() {
-  return platform::HelpFolder() + "/VELMORA.HLP";
-}
+std::string fncHelpFilePath() { return platform::HelpFolder() + "/VELMORA.HLP"; }
 
 void prcFixPaths() {
   strIniFile = platform::DataFolder() + "/VELMORA.INI";

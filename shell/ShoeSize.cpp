@@ -15,9 +15,7 @@ namespace {
 
 Control* tlbrDecksButton = nullptr;  // The button of the size in force; none for an odd size.
 
-Control& fncSizeButton(int decks) {
-  return fncToolButton("Decks" + std::to_string(decks));
-}
+Control& fncSizeButton(int decks) { return fncToolButton("Decks" + std::to_string(decks)); }
 
 /// The stored number of decks. What no Integer holds counts as the nearest one that fits, and so as
 /// out of range.

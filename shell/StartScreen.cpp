@@ -30,9 +30,7 @@ constexpr std::array<double, 3> dblPointTops{990, 1485, 2175};
 constexpr double dblBulletLeft = 3480;
 constexpr double dblPointLeft = 3885;
 
-void prcShowHelp() {
-  platform::ShowHelp(strHelpFile, intFirstTopic);
-}
+void prcShowHelp() { platform::ShowHelp(strHelpFile, intFirstTopic); }
 
 /// No window remains behind the start screen, so the program goes with it.
 void prcLeave() {

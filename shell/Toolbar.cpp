@@ -80,9 +80,7 @@ const ToolRow& fncRow(const std::string& key) {
   return *row;
 }
 
-std::ptrdiff_t fncPlace(const std::string& key) {
-  return &fncRow(key) - toolRows.data();
-}
+std::ptrdiff_t fncPlace(const std::string& key) { return &fncRow(key) - toolRows.data(); }
 
 Table<Control, intToolButtons>& fncButtons(const Control& toolbar) {
   return &toolbar == &MDIForm1.tlbrMDIForm2 ? MDIForm1.tlbrButtons2 : MDIForm1.tlbrButtons1;
@@ -130,9 +128,7 @@ void prcLayOutToolbar(Control& toolbar, const char* name, double top, double hei
 
 }  // namespace
 
-Control& fncToolButton(const std::string& key) {
-  return fncButtons(*tlbrRef)[fncPlace(key)];
-}
+Control& fncToolButton(const std::string& key) { return fncButtons(*tlbrRef)[fncPlace(key)]; }
 
 void prcSetButton(Control& button, int value) {
   if (value == 1 && button.Style == ButtonStyle::Group) {
@@ -141,9 +137,7 @@ void prcSetButton(Control& button, int value) {
   button.Value = value;
 }
 
-void prcSetButton(const std::string& key, int value) {
-  prcSetButton(fncToolButton(key), value);
-}
+void prcSetButton(const std::string& key, int value) { prcSetButton(fncToolButton(key), value); }
 
 void prcMoveButton(const std::string& key) {
   prcSetButton(key, fncToolButton(key).Value == 1 ? 0 : 1);

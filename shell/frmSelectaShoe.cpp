@@ -15,8 +15,9 @@ void prcLayOutSelectaShoe(Window& form) {
   SelectaShoeWindow& w = frmSelectaShoe;
   prcLayOut(form, {});
   for (int i = 0; i < intShoes; ++i) {
+    const int row = i / intShoesInRow;
     prcPlace(form, {&w.chkSelectaShoe[i], "chkSelectaShoe", i, ControlKind::CheckBox,
-                    150.0 + 600 * (i % intShoesInRow), 120.0 + 360 * (i / intShoesInRow), 540, 300,
+                    150.0 + 600 * (i % intShoesInRow), 120.0 + 360 * row, 540, 300,
                     strNumbers.at(static_cast<std::size_t>(i)), "Click to open a shoe"});
   }
   const Place rows[] = {

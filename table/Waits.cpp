@@ -10,8 +10,10 @@ void prcWaitSeconds(double seconds) {
   const double limit = seconds * 1000;
   // The difference of two unsigned counts stays right when the counter wraps in the middle of the
   // wait.
-  for (double passed = 0; passed <= limit; passed = platform::TickCount() - start) {
+  double passed = 0;
+  while (passed <= limit) {
     platform::WaitEvents(static_cast<std::uint32_t>(std::floor(limit - passed)) + 1);
+    passed = platform::TickCount() - start;
   }
 }
 
