@@ -1,0 +1,170 @@
+#include "platform/qt/Boxes.h"
+
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "platform/UserInput.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+/// Lets only through what the control's mask does, of pasted and dropped texts too.
+class MaskFilter : public QValidator {
+ public:
+  MaskFilter(const Control& box, QObject* parent) : QValidator(parent), box_(box) {}
+
+  State validate(QString& text, int& at) const override {
+    const QString kept = QString::fromStdString(fncMasked(box_, text.toStdString()));
+    if (kept != text) {
+      text = kept;
+      at = std::min(at, static_cast<int>(text.size()));
+    }
+    return Acceptable;
+  }
+
+ private:
+  const Control& box_;
+};
+
+Qt::Alignment fncAlignment(Alignment align) {
+  switch (align) {
+    case Alignment::Right:
+      return Qt::AlignRight | Qt::AlignVCenter;
+    case Alignment::Centre:
+      return Qt::AlignHCenter | Qt::AlignVCenter;
+    case Alignment::Left:
+      break;
+  }
+  return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+void prcColour(QWidget& widget, const Control& control) {
+  QPalette palette;
+  if (!control.BackColor.Clear) {
+    palette.setColor(QPalette::Active, QPalette::Base, fncColour(control.BackColor));
+    palette.setColor(QPalette::Inactive, QPalette::Base, fncColour(control.BackColor));
+  }
+  palette.setColor(QPalette::Active, QPalette::Text, fncColour(control.ForeColor));
+  palette.setColor(QPalette::Inactive, QPalette::Text, fncColour(control.ForeColor));
+  widget.setPalette(palette);
+}
+
+}  // namespace
+
+EditView::EditView(ControlView& view, QWidget* parent) : QLineEdit(parent), view_(&view) {
+  setFocusPolicy(Qt::TabFocus);
+  if (view.Drawn.Kind == ControlKind::MaskedEdit && *view.Drawn.Mask != '\0') {
+    setValidator(new MaskFilter(view.Drawn, this));
+  }
+  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+    Control* box = view_ != nullptr ? fncLive(*view_) : nullptr;
+    if (box != nullptr) {
+      const std::string typed = text.toStdString();
+      prcServe([&] { prcUserText(*box, typed); });
+    }
+  });
+}
+
+void EditView::prcDetach() {
+  setValidator(nullptr);
+  view_ = nullptr;
+}
+
+void EditView::prcUpdate(const Control& control) {
+  setFont(fncFont(control.Face));
+  setAlignment(fncAlignment(control.Align));
+  prcColour(*this, control);
+  prcShowText();
+}
+
+void EditView::prcShowText() {
+  const Control* box = view_ != nullptr ? fncLive(*view_) : nullptr;
+  if (box == nullptr) {
+    return;
+  }
+  const bool blnPlain =
+      box->Kind != ControlKind::MaskedEdit || view_->Home.Source->ActiveControl == box;
+  const QString shown = fncText(blnPlain ? box->Text : fncMaskShown(*box));
+  if (shown == text()) {
+    return;
+  }
+  // A shown format is no typed text: the mask's filter must not touch it.
+  const QValidator* filter = validator();
+  setValidator(nullptr);
+  const int at = cursorPosition();
+  setText(shown);
+  setCursorPosition(std::min(at, static_cast<int>(shown.size())));
+  setValidator(filter);
+}
+
+void EditView::prcSelect() {
+  const Control* box = view_ != nullptr ? fncLive(*view_) : nullptr;
+  if (box != nullptr && box->SelLength > 0) {
+    setSelection(0, std::min(box->SelLength, static_cast<int>(text().size())));
+  }
+}
+
+bool EditView::fncRefuses(const QString& typed) const {
+  if (view_ == nullptr || view_->Drawn.Kind != ControlKind::MaskedEdit || typed.size() != 1 ||
+      !typed.at(0).isPrint()) {
+    return false;
+  }
+  const auto left = static_cast<std::size_t>(text().size() - selectedText().size());
+  return !fncMaskAdmits(view_->Drawn, left, typed.at(0).toLatin1());
+}
+
+void EditView::keyPressEvent(QKeyEvent* event) {
+  const bool blnCommand = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+  if (!blnCommand && fncRefuses(event->text())) {
+    event->accept();
+    return;
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), view_(&view) {
+  setFocusPolicy(Qt::TabFocus);
+  setUniformItemSizes(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setEditTriggers(NoEditTriggers);
+  connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
+    Control* list = view_ != nullptr && !fncSyncing() ? fncLive(*view_) : nullptr;
+    if (list != nullptr) {
+      list->ListIndex = row;
+    }
+  });
+}
+
+void RowsView::prcUpdate(const Control& control, bool blnFirst) {
+  const QSignalBlocker quiet(this);
+  if (blnFirst || view_->Drawn.Face != control.Face || view_->Drawn.BackColor != control.BackColor) {
+    setFont(fncFont(control.Face));
+    prcColour(*this, control);
+  }
+  prcFill(control.List, blnFirst);
+  if (currentRow() != control.ListIndex) {
+    setCurrentRow(control.ListIndex);
+  }
+  if (QListWidgetItem* selected = item(control.ListIndex); selected != nullptr) {
+    scrollToItem(selected);
+  }
+}
+
+void RowsView::prcFill(const std::vector<std::string>& rows, bool blnFirst) {
+  const std::vector<std::string>& drawn = view_->Drawn.List;
+  const bool blnGrown = !blnFirst && drawn.size() <= rows.size() &&
+                        std::equal(drawn.begin(), drawn.end(), rows.begin());
+  if (!blnGrown) {
+    clear();
+  }
+  for (std::size_t row = static_cast<std::size_t>(count()); row < rows.size(); ++row) {
+    addItem(fncText(rows[row]));
+  }
+}
+
+}  // namespace qt

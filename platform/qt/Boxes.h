@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QValidator>
+
+#include "platform/qt/Screen.h"
+
+// Boxes that are typed into, and lists.
+
+namespace qt {
+
+/// A text or masked edit box. While it has the model's focus it shows the plain text; a masked one
+/// shows its format otherwise.
+class EditView : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  EditView(ControlView& view, QWidget* parent);
+
+  void prcDetach();
+  void prcUpdate(const Control& control);
+  /// Shows the text in the form that the model's focus asks for.
+  void prcShowText();
+  /// Selects as many characters as the control's SelLength says, from the first one.
+  void prcSelect();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  bool fncRefuses(const QString& typed) const;
+
+  ControlView* view_;
+};
+
+/// A list whose rows follow the control's List; rows that are only added are appended.
+class RowsView : public QListWidget {
+  Q_OBJECT
+
+ public:
+  RowsView(ControlView& view, QWidget* parent);
+
+  void prcDetach() { view_ = nullptr; }
+  void prcUpdate(const Control& control, bool blnFirst);
+
+ private:
+  void prcFill(const std::vector<std::string>& rows, bool blnFirst);
+
+  ControlView* view_;
+};
+
+}  // namespace qt

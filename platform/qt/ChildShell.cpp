@@ -1,0 +1,201 @@
+#include "platform/qt/ChildShell.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/UserInput.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Screen.h"
+#include "platform/qt/Style.h"
+#include "platform/qt/WindowViews.h"
+
+namespace qt {
+
+namespace {
+
+constexpr int intTitleHeight = 22;
+constexpr int intBorder = 4;
+constexpr int intThinBorder = 1;
+constexpr int intLeastSize = 60;
+
+Qt::CursorShape fncEdgeCursor(Qt::Edges edges) {
+  const bool blnSide = (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0;
+  const bool blnEnd = (edges & (Qt::TopEdge | Qt::BottomEdge)) != 0;
+  if (blnSide && blnEnd) {
+    const bool blnFalling = edges == (Qt::LeftEdge | Qt::TopEdge) ||
+                            edges == (Qt::RightEdge | Qt::BottomEdge);
+    return blnFalling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
+  }
+  if (blnSide) {
+    return Qt::SizeHorCursor;
+  }
+  return blnEnd ? Qt::SizeVerCursor : Qt::ArrowCursor;
+}
+
+}  // namespace
+
+GroundView::GroundView(const Window& window, QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags), window_(window) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::NoFocus);
+}
+
+void GroundView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double ratio = devicePixelRatioF();
+  if (!window_.BackColor.Clear) {
+    painter.fillRect(event->rect(), fncColour(window_.BackColor));
+  }
+  if (window_.Picture == 0) {
+    return;
+  }
+  if (window_.PictureTiled) {
+    const QSize tile = fncPictureSize(window_.Picture);
+    painter.drawTiledPixmap(event->rect(), fncPicture(window_.Picture, tile, ratio),
+                            event->rect().topLeft());
+  } else {
+    painter.drawPixmap(0, 0, fncPicture(window_.Picture, size(), ratio));
+  }
+}
+
+ChildShell::ChildShell(WindowView& view, QWidget* field) : QWidget(field), view_(&view) {
+  setMouseTracking(true);
+}
+
+QMargins ChildShell::fncFrame() const {
+  const Window& window = *view_->Source;
+  int border = 0;
+  if (window.Sizable) {
+    border = fncScaled(intBorder);
+  } else if (window.TitleBar) {
+    border = fncScaled(intThinBorder);
+  }
+  const int title = window.TitleBar ? fncScaled(intTitleHeight) : 0;
+  return {border, border + title, border, border};
+}
+
+void ChildShell::paintEvent(QPaintEvent* /*event*/) {
+  if (view_ == nullptr || fncFrame().isNull()) {
+    return;
+  }
+  const Window& window = *view_->Source;
+  const QMargins frame = fncFrame();
+  const bool blnActive = fncActiveWindow() == &window;
+  QPainter painter(this);
+  painter.fillRect(rect(), QColor::fromRgb(rgbIvory));
+  painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), 1));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (!window.TitleBar) {
+    return;
+  }
+  const QRect bar(frame.left(), frame.bottom(), width() - frame.left() - frame.right(),
+                  fncScaled(intTitleHeight));
+  painter.fillRect(bar, blnActive ? QColor::fromRgb(rgbFelt) : QColor(0xCF, 0xC6, 0xAE));
+  QFont font = fncPlainFont();
+  font.setBold(true);
+  painter.setFont(font);
+  painter.setPen(blnActive ? QColor::fromRgb(rgbIvory) : QColor::fromRgb(rgbInk));
+  painter.drawText(bar.adjusted(fncScaled(8), 0, -fncScaled(28), 0),
+                   static_cast<int>(Qt::AlignVCenter) | static_cast<int>(Qt::AlignLeft),
+                   fncText(window.Caption));
+  if (window.CloseBox) {
+    const int inset = fncScaled(6);
+    const QRect box = fncCloseBox().adjusted(inset, inset, -inset, -inset);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(painter.pen().color(), fncScaled(1.5)));
+    painter.drawLine(box.topLeft(), box.bottomRight());
+    painter.drawLine(box.topRight(), box.bottomLeft());
+  }
+}
+
+void ChildShell::resizeEvent(QResizeEvent* /*event*/) {
+  if (view_ != nullptr && view_->Ground != nullptr) {
+    view_->Ground->setGeometry(rect().marginsRemoved(fncFrame()));
+  }
+}
+
+QRect ChildShell::fncCloseBox() const {
+  const QMargins frame = fncFrame();
+  const int side = fncScaled(intTitleHeight);
+  return {width() - frame.right() - side, frame.bottom(), side, side};
+}
+
+Qt::Edges ChildShell::fncEdges(QPoint at) const {
+  Qt::Edges edges;
+  if (view_ == nullptr || !view_->Source->Sizable) {
+    return edges;
+  }
+  const int border = fncScaled(intBorder);
+  edges.setFlag(Qt::LeftEdge, at.x() < border);
+  edges.setFlag(Qt::TopEdge, at.y() < border);
+  edges.setFlag(Qt::RightEdge, at.x() >= width() - border);
+  edges.setFlag(Qt::BottomEdge, at.y() >= height() - border);
+  return edges;
+}
+
+void ChildShell::mousePressEvent(QMouseEvent* event) {
+  if (view_ == nullptr || event->button() != Qt::LeftButton) {
+    return;
+  }
+  const QPoint at = event->position().toPoint();
+  if (view_->Source->TitleBar && view_->Source->CloseBox && fncCloseBox().contains(at)) {
+    Window* window = view_->Source;
+    prcServe([window] { prcUserClose(*window); });
+    return;
+  }
+  blnDragged_ = true;
+  edges_ = fncEdges(at);
+  from_ = event->globalPosition().toPoint();
+  start_ = geometry();
+}
+
+void ChildShell::mouseMoveEvent(QMouseEvent* event) {
+  if (blnDragged_) {
+    prcDragTo(event->globalPosition().toPoint());
+  } else {
+    setCursor(fncEdgeCursor(fncEdges(event->position().toPoint())));
+  }
+}
+
+void ChildShell::prcDragTo(QPoint global) {
+  const QPoint way = global - from_;
+  QRect place = start_;
+  const int least = fncScaled(intLeastSize);
+  if (edges_ == Qt::Edges()) {
+    place.translate(way);
+    // The title bar stays within reach.
+    place.moveTop(std::clamp(place.top(), 0, std::max(0, parentWidget()->height() - least / 2)));
+  }
+  if (edges_.testFlag(Qt::LeftEdge)) {
+    place.setLeft(std::min(place.left() + way.x(), place.right() - least));
+  }
+  if (edges_.testFlag(Qt::TopEdge)) {
+    place.setTop(std::min(place.top() + way.y(), place.bottom() - least));
+  }
+  if (edges_.testFlag(Qt::RightEdge)) {
+    place.setRight(std::max(place.right() + way.x(), place.left() + least));
+  }
+  if (edges_.testFlag(Qt::BottomEdge)) {
+    place.setBottom(std::max(place.bottom() + way.y(), place.top() + least));
+  }
+  setGeometry(place);
+  if (view_ != nullptr) {
+    prcWindowMoved(*view_);
+  }
+}
+
+void ChildShell::mouseReleaseEvent(QMouseEvent* /*event*/) {
+  blnDragged_ = false;
+}
+
+void ChildShell::leaveEvent(QEvent* /*event*/) {
+  if (!blnDragged_) {
+    unsetCursor();
+  }
+}
+
+}  // namespace qt

@@ -1,0 +1,436 @@
+#include "platform/qt/ControlViews.h"
+
+#include <QAccessible>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/UserInput.h"
+#include "platform/qt/Boxes.h"
+#include "platform/qt/Buttons.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Menus.h"
+#include "platform/qt/Painted.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+bool fncPainted(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::Label:
+    case ControlKind::Picture:
+    case ControlKind::Shape:
+    case ControlKind::Line:
+    case ControlKind::Frame:
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Whether nothing would happen at this control, so that what lies below gets the mouse.
+bool fncMouseless(const Control& control) {
+  const ControlEvents& on = *control.On;
+  return fncPainted(control.Kind) && on.Click == nullptr && on.MouseDown == nullptr &&
+         on.MouseMove == nullptr && on.MouseUp == nullptr && control.ToolTip.empty() &&
+         control.MousePointer == Pointer::Arrow;
+}
+
+// What each kind has of its own. A make function gives the widget, an update function brings it to
+// what the control says.
+
+QWidget* fncMakePainted(ControlView& view, QWidget* parent) {
+  auto* widget = new PaintedView(view, parent);
+  if (view.Drawn.Kind == ControlKind::Picture) {
+    widget->setFocusPolicy(Qt::TabFocus);
+  }
+  return widget;
+}
+
+/// Whether a control looks different but for its place and size.
+bool fncLooksChanged(const Control& drawn, const Control& next) {
+  Control moved = drawn;
+  moved.Left = next.Left;
+  moved.Top = next.Top;
+  if (fncCutsPicture(next)) {
+    moved.Width = next.Width;
+    moved.Height = next.Height;
+  }
+  return !(moved == next);
+}
+
+void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
+  if (!blnFirst && fncLooksChanged(view.Drawn, next)) {
+    view.Widget->update();
+  }
+}
+
+template <class View>
+void prcConnectClick(ControlView& view, View* widget) {
+  widget->setFocusPolicy(Qt::TabFocus);
+  QObject::connect(widget, &View::clicked, widget, [&view] { prcKeyClick(view); });
+}
+
+QWidget* fncMakeButton(ControlView& view, QWidget* parent) {
+  auto* widget = new ButtonView(view, parent);
+  prcConnectClick(view, widget);
+  return widget;
+}
+
+QFont fncButtonFont(const Control& control) {
+  const QRect place = fncPlace(control);
+  return fncFittedFont(control, place.size() - QSize(fncScaled(6), 0));
+}
+
+void prcUpdateButton(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  auto* button = static_cast<ButtonView*>(view.Widget.data());
+  button->setFont(fncButtonFont(next));
+  if (button->text() != fncText(next.Text)) {
+    button->setText(fncText(next.Text));
+  }
+  button->update();
+}
+
+template <class View>
+QWidget* fncMakeChecked(ControlView& view, QWidget* parent) {
+  auto* widget = new View(parent);
+  widget->setCheckable(true);
+  prcConnectClick(view, widget);
+  return widget;
+}
+
+void prcUpdateChecked(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  auto* button = static_cast<QAbstractButton*>(view.Widget.data());
+  QPalette palette;
+  palette.setColor(QPalette::WindowText, fncColour(next.ForeColor));
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor::fromRgb(rgbFaded));
+  if (!next.BackColor.Clear) {
+    palette.setColor(QPalette::Window, fncColour(next.BackColor));
+  }
+  button->setPalette(palette);
+  button->setAutoFillBackground(!next.BackColor.Clear);
+  button->setFont(fncFittedFont(next, fncPlace(next).size() - QSize(fncScaled(22), 0)));
+  button->setText(fncText(next.Text));
+  button->setChecked(next.Value != 0);
+}
+
+QWidget* fncMakeEdit(ControlView& view, QWidget* parent) {
+  return new EditView(view, parent);
+}
+
+void prcUpdateEdit(ControlView& view, const Control& next, bool blnFirst) {
+  auto* edit = static_cast<EditView*>(view.Widget.data());
+  edit->prcUpdate(next);
+  if (!blnFirst && view.Drawn.SelLength != next.SelLength) {
+    edit->prcSelect();
+  }
+}
+
+QWidget* fncMakeRows(ControlView& view, QWidget* parent) {
+  return new RowsView(view, parent);
+}
+
+void prcUpdateRows(ControlView& view, const Control& next, bool blnFirst) {
+  static_cast<RowsView*>(view.Widget.data())->prcUpdate(next, blnFirst);
+}
+
+int fncWhole(double value) {
+  return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9)));
+}
+
+QWidget* fncMakeProgress(ControlView& /*view*/, QWidget* parent) {
+  return new ProgressView(parent);
+}
+
+void prcUpdateProgress(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  auto* bar = static_cast<ProgressView*>(view.Widget.data());
+  bar->setRange(fncWhole(next.Min), std::max(fncWhole(next.Min), fncWhole(next.Max)));
+  bar->setValue(std::clamp(fncWhole(next.Value), bar->minimum(), bar->maximum()));
+}
+
+QWidget* fncMakeRange(ControlView& view, QWidget* parent) {
+  const bool blnSlider = view.Drawn.Kind == ControlKind::Slider;
+  const Qt::Orientation way =
+      view.Drawn.Kind == ControlKind::VScrollBar ? Qt::Vertical : Qt::Horizontal;
+  QAbstractSlider* range = nullptr;
+  if (blnSlider) {
+    range = new QSlider(way, parent);
+  } else {
+    range = new QScrollBar(way, parent);
+  }
+  range->setFocusPolicy(blnSlider ? Qt::TabFocus : Qt::NoFocus);
+  QObject::connect(range, &QAbstractSlider::valueChanged, range, [&view](int value) {
+    if (Control* control = fncLive(view); control != nullptr) {
+      prcServe([&] { prcUserValue(*control, value); });
+    }
+  });
+  return range;
+}
+
+void prcUpdateRange(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  auto* range = static_cast<QAbstractSlider*>(view.Widget.data());
+  const QSignalBlocker quiet(range);
+  range->setRange(fncWhole(next.Min), std::max(fncWhole(next.Min), fncWhole(next.Max)));
+  range->setSingleStep(std::max(1, fncWhole(next.SmallChange)));
+  range->setPageStep(std::max(1, fncWhole(next.LargeChange)));
+  range->setValue(fncWhole(next.Value));
+}
+
+QWidget* fncMakeBar(ControlView& view, QWidget* /*parent*/) {
+  prcMakeToolbar(view);
+  return view.Widget;
+}
+
+void prcUpdateBar(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  prcUpdateToolbar(view, next);
+}
+
+QWidget* fncMakeToolButton(ControlView& view, QWidget* parent) {
+  prcMakeTool(view, parent);
+  return view.Widget;
+}
+
+void prcUpdateToolButton(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  prcUpdateTool(view, next);
+}
+
+QWidget* fncMakeEntry(ControlView& view, QWidget* /*parent*/) {
+  prcMakeMenu(view);
+  return nullptr;
+}
+
+void prcUpdateEntry(ControlView& view, const Control& next, bool /*blnFirst*/) {
+  prcUpdateMenu(view, next);
+}
+
+void prcTick(ControlView& view) {
+  Control* timer = fncLive(view);
+  if (timer == nullptr || !timer->Enabled || timer->Interval <= 0 || timer->On->Timer == nullptr) {
+    return;
+  }
+  prcServe([timer] { timer->On->Timer(*timer); });
+}
+
+QWidget* fncMakeTimer(ControlView& view, QWidget* /*parent*/) {
+  auto* timer = new QTimer(view.Home.Shell);
+  timer->setTimerType(Qt::PreciseTimer);
+  QObject::connect(timer, &QTimer::timeout, timer, [&view] { prcTick(view); });
+  view.Helper = timer;
+  return nullptr;
+}
+
+void prcUpdateTimer(ControlView& view, const Control& next, bool blnFirst) {
+  auto* timer = static_cast<QTimer*>(view.Helper.data());
+  if (!next.Enabled || next.Interval <= 0) {
+    timer->stop();
+  } else if (blnFirst || !timer->isActive() || view.Drawn.Interval != next.Interval) {
+    timer->start(std::int32_t{next.Interval});
+  }
+}
+
+struct KindRow {
+  ControlKind Kind;
+  QWidget* (*Make)(ControlView&, QWidget*);
+  void (*Update)(ControlView&, const Control&, bool blnFirst);
+};
+
+constexpr KindRow kndRows[] = {
+    {ControlKind::Label, fncMakePainted, prcUpdatePainted},
+    {ControlKind::TextBox, fncMakeEdit, prcUpdateEdit},
+    {ControlKind::MaskedEdit, fncMakeEdit, prcUpdateEdit},
+    {ControlKind::Button, fncMakeButton, prcUpdateButton},
+    {ControlKind::Picture, fncMakePainted, prcUpdatePainted},
+    {ControlKind::Shape, fncMakePainted, prcUpdatePainted},
+    {ControlKind::Line, fncMakePainted, prcUpdatePainted},
+    {ControlKind::Frame, fncMakePainted, prcUpdatePainted},
+    {ControlKind::CheckBox, fncMakeChecked<CheckView>, prcUpdateChecked},
+    {ControlKind::OptionButton, fncMakeChecked<OptionView>, prcUpdateChecked},
+    {ControlKind::ListBox, fncMakeRows, prcUpdateRows},
+    {ControlKind::ProgressBar, fncMakeProgress, prcUpdateProgress},
+    {ControlKind::HScrollBar, fncMakeRange, prcUpdateRange},
+    {ControlKind::VScrollBar, fncMakeRange, prcUpdateRange},
+    {ControlKind::Slider, fncMakeRange, prcUpdateRange},
+    {ControlKind::Timer, fncMakeTimer, prcUpdateTimer},
+    {ControlKind::MenuEntry, fncMakeEntry, prcUpdateEntry},
+    {ControlKind::Toolbar, fncMakeBar, prcUpdateBar},
+    {ControlKind::ToolButton, fncMakeToolButton, prcUpdateToolButton},
+};
+
+const KindRow& fncRow(ControlKind kind) {
+  return kndRows[static_cast<std::size_t>(kind)];
+}
+
+bool fncPlacedByLayout(ControlKind kind) {
+  return kind == ControlKind::Toolbar || kind == ControlKind::ToolButton;
+}
+
+/// Has a screen reader read out a control that has come up or changed.
+void prcAnnounce(QWidget& widget) {
+  if (!QAccessible::isActive()) {
+    return;
+  }
+  QAccessibleEvent named(&widget, QAccessible::NameChanged);
+  QAccessible::updateAccessibility(&named);
+  QAccessibleEvent alert(&widget, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+/// What all widgets have in common.
+void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
+  QWidget& widget = *view.Widget;
+  const Control& drawn = view.Drawn;
+  if (blnFirst || drawn.ToolTip != next.ToolTip) {
+    widget.setToolTip(fncText(next.ToolTip).toHtmlEscaped());
+  }
+  if (blnFirst || drawn.ToolTip != next.ToolTip || drawn.Text != next.Text ||
+      drawn.Spoken != next.Spoken) {
+    widget.setAccessibleName(fncSpokenName(next));
+  }
+  if (blnFirst ? next.MousePointer != Pointer::Arrow : drawn.MousePointer != next.MousePointer) {
+    widget.setCursor(fncCursor(next.MousePointer));
+  }
+  widget.setAttribute(Qt::WA_TransparentForMouseEvents, fncMouseless(next));
+  if (fncPlacedByLayout(next.Kind)) {
+    if (next.Kind == ControlKind::Toolbar) {
+      widget.setVisible(next.Visible);
+    }
+    return;
+  }
+  if (const QRect place = fncPlace(next); widget.geometry() != place) {
+    widget.setGeometry(place);
+  }
+  widget.setEnabled(next.Enabled);
+  if (blnFirst || drawn.Visible != next.Visible) {
+    widget.setVisible(next.Visible);
+  }
+}
+
+}  // namespace
+
+void prcMakeControl(ControlView& view, QWidget* parent) {
+  const Control& control = *view.Source;
+  const KindRow& row = fncRow(control.Kind);
+  view.Widget = row.Make(view, parent);
+  if (view.Widget != nullptr) {
+    prcNoteWidget(view.Widget, &view);
+    view.Widget->setObjectName(fncObjectName(control));
+    view.Widget->setMouseTracking(true);
+  }
+  if (view.Widget != nullptr || view.Helper != nullptr) {
+    row.Update(view, control, true);
+  }
+  if (view.Widget != nullptr) {
+    prcUpdateCommon(view, control, true);
+    if (control.Announce && view.Widget->isVisible()) {
+      prcAnnounce(*view.Widget);
+    }
+  }
+}
+
+void prcUpdateControl(ControlView& view, const Control& control) {
+  if (view.Widget != nullptr || view.Helper != nullptr) {
+    fncRow(control.Kind).Update(view, control, false);
+  }
+  bool blnAnnounce = false;
+  if (view.Widget != nullptr) {
+    prcUpdateCommon(view, control, false);
+    blnAnnounce = control.Announce && view.Widget->isVisible() &&
+                  (!view.Drawn.Visible || view.Drawn.Text != control.Text ||
+                   view.Drawn.Spoken != control.Spoken);
+  }
+  view.Drawn = control;
+  if (blnAnnounce) {
+    prcAnnounce(*view.Widget);
+  }
+}
+
+void prcDropControl(ControlView& view) {
+  if (view.Helper != nullptr) {
+    view.Helper->disconnect();
+    view.Helper->deleteLater();
+    if (auto* timer = qobject_cast<QTimer*>(view.Helper); timer != nullptr) {
+      timer->stop();
+    }
+  }
+  if (view.Widget == nullptr) {
+    return;
+  }
+  prcForgetWidget(view.Widget);
+  if (auto* painted = qobject_cast<PaintedView*>(view.Widget); painted != nullptr) {
+    painted->prcDetach();
+  } else if (auto* button = qobject_cast<ButtonView*>(view.Widget); button != nullptr) {
+    button->prcDetach();
+  } else if (auto* edit = qobject_cast<EditView*>(view.Widget); edit != nullptr) {
+    edit->prcDetach();
+  } else if (auto* rows = qobject_cast<RowsView*>(view.Widget); rows != nullptr) {
+    rows->prcDetach();
+  }
+  view.Widget->disconnect();
+  view.Widget->hide();
+  view.Widget->deleteLater();
+}
+
+void prcRaiseControl(ControlView& view) {
+  if (view.Widget != nullptr && !fncPlacedByLayout(view.Drawn.Kind)) {
+    view.Widget->raise();
+  }
+}
+
+void prcShowFocusTexts(WindowView& home) {
+  for (const std::unique_ptr<ControlView>& view : home.Controls) {
+    if (auto* edit = qobject_cast<EditView*>(view->Widget); edit != nullptr) {
+      edit->prcShowText();
+      if (home.Source->ActiveControl == view->Source) {
+        edit->prcSelect();
+      }
+    }
+  }
+}
+
+QString fncText(const std::string& text) {
+  QString shown = QString::fromStdString(text);
+  shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  return shown;
+}
+
+QString fncSpokenName(const Control& control) {
+  if (!control.Spoken.empty()) {
+    return fncText(control.Spoken);
+  }
+  const bool blnTyped =
+      control.Kind == ControlKind::TextBox || control.Kind == ControlKind::MaskedEdit;
+  if (control.Text.empty() || blnTyped) {
+    return fncText(control.ToolTip);
+  }
+  QString name = fncText(control.Text);
+  if (!fncPainted(control.Kind)) {
+    name.remove(QLatin1Char('&'));
+  }
+  return name;
+}
+
+QString fncObjectName(const Control& control) {
+  const QString name = QString::fromUtf8(control.Name);
+  return control.Index < 0 ? name : QStringLiteral("%1(%2)").arg(name).arg(std::int16_t{control.Index});
+}
+
+void prcKeyClick(ControlView& view) {
+  Control* control = fncLive(view);
+  if (control == nullptr || !fncSeen(*control) || !fncUsable(*control)) {
+    return;
+  }
+  prcServe([control] {
+    if (!fncTakesFocus(*control) || fncSetFocus(*control)) {
+      prcUserClick(*control);
+    }
+  });
+}
+
+}  // namespace qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/qt/Screen.h"
+
+// The widgets that stand for controls, kind by kind.
+
+namespace qt {
+
+/// Makes the widget, timer or action of a view below parent and dresses it as its control says.
+void prcMakeControl(ControlView& view, QWidget* parent);
+
+/// Brings a view to what its control says now.
+void prcUpdateControl(ControlView& view, const Control& control);
+
+/// Takes what stands for a control off the screen.
+void prcDropControl(ControlView& view);
+
+/// Puts a control's widget above its neighbours.
+void prcRaiseControl(ControlView& view);
+
+/// The focus of a window has moved within the model: boxes with a mask change how they show their
+/// number, and the focused one selects as its SelLength says.
+void prcShowFocusTexts(WindowView& home);
+
+/// A control as it is spoken of: its Spoken, else its text without access keys, else its tool tip.
+QString fncSpokenName(const Control& control);
+
+/// The name of a widget: the control's, with "(index)" for an element.
+QString fncObjectName(const Control& control);
+
+/// The text of a control as the toolkit takes it.
+QString fncText(const std::string& text);
+
+/// A click by key, by access key or by a screen reader: the focus moves first, then the click runs.
+void prcKeyClick(ControlView& view);
+
+}  // namespace qt

@@ -1,0 +1,186 @@
+#include <QApplication>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenuBar>
+#include <algorithm>
+
+#include "platform/UserInput.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/InputRouter.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Screen.h"
+#include "platform/qt/WindowViews.h"
+
+namespace qt {
+
+namespace {
+
+struct NameRow {
+  int Key;
+  const char* Name;
+};
+
+// Keys whose name in the model is not the toolkit's own.
+constexpr NameRow nmeRows[] = {
+    {Qt::Key_Return, "Enter"},    {Qt::Key_Enter, "Enter"},       {Qt::Key_Escape, "Escape"},
+    {Qt::Key_PageUp, "PageUp"},   {Qt::Key_PageDown, "PageDown"}, {Qt::Key_Backspace, "Backspace"},
+    {Qt::Key_Delete, "Delete"},
+};
+
+bool fncPrints(const QString& text) {
+  return text.size() == 1 && text.at(0).isPrint() && text.at(0).unicode() < 128;
+}
+
+/// A key as the model calls it: the character typed, or the name of the key.
+std::string fncKeyName(const QKeyEvent& event) {
+  if (fncPrints(event.text())) {
+    return event.text().toStdString();
+  }
+  const auto* const row = std::ranges::find(nmeRows, event.key(), &NameRow::Key);
+  return row != std::end(nmeRows) ? row->Name
+                                  : QKeySequence(event.key()).toString().toStdString();
+}
+
+bool fncModifierAlone(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
+         key == Qt::Key_AltGr || key == Qt::Key_Meta || key == Qt::Key_CapsLock || key == 0 ||
+         key == Qt::Key_unknown;
+}
+
+void prcMoveFocus(Window& window, bool blnBackwards) {
+  prcServe([&] {
+    if (Control* next = fncNextStop(window, blnBackwards); next != nullptr) {
+      fncSetFocus(*next);
+    }
+  });
+}
+
+/// The option before or behind one in its group, round about; none if there is no other.
+Control* fncFellow(const Control& option, bool blnBackwards) {
+  std::vector<Control*> group;
+  for (Control* other : option.Form->Controls) {
+    if (other->Kind == ControlKind::OptionButton && other->Container == option.Container &&
+        fncTakesFocus(*other)) {
+      group.push_back(other);
+    }
+  }
+  const auto at = std::ranges::find(group, &option);
+  if (at == group.end() || group.size() < 2) {
+    return nullptr;
+  }
+  const auto place = static_cast<std::size_t>(at - group.begin());
+  return group[(place + (blnBackwards ? group.size() - 1 : 1)) % group.size()];
+}
+
+void prcClick(Control& control) {
+  if (ControlView* view = fncViewOf(control); view != nullptr) {
+    prcKeyClick(*view);
+  }
+}
+
+/// The button of a window that answers Enter or Escape.
+Control* fncAnswering(const Window& window, bool Control::*which) {
+  const auto found = std::ranges::find_if(window.Controls, [&](const Control* control) {
+    return control->Kind == ControlKind::Button && control->*which && fncSeen(*control) &&
+           fncUsable(*control);
+  });
+  return found == window.Controls.end() ? nullptr : *found;
+}
+
+bool fncClickedBySpace(ControlKind kind) {
+  return kind == ControlKind::Button || kind == ControlKind::CheckBox ||
+         kind == ControlKind::OptionButton || kind == ControlKind::Picture;
+}
+
+bool fncClickedByEnter(ControlKind kind) {
+  return kind == ControlKind::Button || kind == ControlKind::Picture;
+}
+
+/// Enter and Escape: the focused button or picture, else the window's own buttons for them.
+bool fncAnswerKey(Window& window, Control* focused, int key) {
+  Control* answering = nullptr;
+  if (key == Qt::Key_Escape) {
+    answering = fncAnswering(window, &Control::CancelButton);
+  } else {
+    answering = focused != nullptr && fncClickedByEnter(focused->Kind)
+                    ? focused
+                    : fncAnswering(window, &Control::Default);
+  }
+  if (answering == nullptr) {
+    return false;
+  }
+  prcClick(*answering);
+  return true;
+}
+
+/// The keys that mean the same in every window. Returns whether the key was one.
+bool fncCommonKey(Window& window, const QKeyEvent& event) {
+  const int key = event.key();
+  const bool blnCtrl = event.modifiers().testFlag(Qt::ControlModifier);
+  if (blnCtrl && (key == Qt::Key_Tab || key == Qt::Key_F6)) {
+    if (Window* next = fncNextChild(); next != nullptr) {
+      prcBringUp(*next);
+    }
+    return true;
+  }
+  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+    prcMoveFocus(window, key == Qt::Key_Backtab);
+    return true;
+  }
+  Control* focused = window.ActiveControl;
+  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
+    return fncAnswerKey(window, focused, key);
+  }
+  if (focused == nullptr || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
+    return false;
+  }
+  if (key == Qt::Key_Space && fncClickedBySpace(focused->Kind)) {
+    if (!event.isAutoRepeat()) {
+      prcClick(*focused);
+    }
+    return true;
+  }
+  if (focused->Kind == ControlKind::OptionButton) {
+    const bool blnBack = key == Qt::Key_Left || key == Qt::Key_Up;
+    if (blnBack || key == Qt::Key_Right || key == Qt::Key_Down) {
+      if (Control* fellow = fncFellow(*focused, blnBack); fellow != nullptr) {
+        prcClick(*fellow);
+      }
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+bool fncKeyPressed(QWidget& widget, const QKeyEvent& event) {
+  // A key that a widget leaves goes on to its parents; the model has heard of it the first time.
+  WindowView* home = &widget == QApplication::focusWidget() ? fncWindowViewOf(&widget) : nullptr;
+  Window* window = home != nullptr ? fncLive(*home) : nullptr;
+  if (window == nullptr || fncModifierAlone(event.key())) {
+    return false;
+  }
+  if (window->Kind == WindowKind::Frame) {
+    window = fncFrameInput();
+  }
+  const QPointer<QWidget> before(&widget);
+  const bool blnTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+  if (window->On->KeyDown != nullptr && !blnTab) {
+    const std::string name = fncKeyName(event);
+    prcServe([&] { window->On->KeyDown(*window, name, fncShift(event.modifiers())); });
+  }
+  const bool blnCommand = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+  if (window->On->KeyPress != nullptr && window->hWnd != 0 && !blnCommand &&
+      fncPrints(event.text())) {
+    const char typed = event.text().at(0).toLatin1();
+    prcServe([&] { window->On->KeyPress(*window, typed); });
+  }
+  if (fncEnded() || window->hWnd == 0 || before == nullptr ||
+      before != QApplication::focusWidget()) {
+    return true;
+  }
+  return fncCommonKey(*window, event);
+}
+
+}  // namespace qt

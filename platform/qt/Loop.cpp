@@ -1,0 +1,52 @@
+#include "platform/qt/Loop.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+#include "platform/Procedure.h"
+#include "platform/UserInput.h"
+#include "platform/qt/Screen.h"
+
+namespace qt {
+
+namespace {
+bool blnEnded = false;
+}
+
+bool fncEnded() {
+  return blnEnded;
+}
+
+void prcThrowIfEnded() {
+  if (blnEnded) {
+    throw EndOfProgram{};
+  }
+}
+
+void prcNoteEnd() {
+  blnEnded = true;
+  QCoreApplication::exit(0);
+}
+
+void prcForgetEnd() {
+  blnEnded = false;
+}
+
+void prcServe(const std::function<void()>& handlers) {
+  if (blnEnded) {
+    return;
+  }
+  prcDispatch(handlers);
+  if (!blnEnded) {
+    prcSyncAll();
+  }
+}
+
+void prcServeUntil(const std::function<bool()>& blnDone) {
+  while (!blnEnded && !blnDone()) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  }
+  prcThrowIfEnded();
+}
+
+}  // namespace qt

@@ -1,0 +1,169 @@
+#include "platform/qt/Menus.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <algorithm>
+
+#include "platform/UserInput.h"
+#include "platform/qt/Buttons.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+constexpr double dblLargeBar = 540;  // Twips; bars as high as this have large pictures and captions.
+
+/// The menu that an entry belongs to; none stands for the menu bar itself.
+QMenu* fncMenuOf(ControlView& view) {
+  if (view.Source->Container == nullptr) {
+    return nullptr;
+  }
+  ControlView* holder = view.Home.ByControl[view.Source->Container];
+  return holder != nullptr ? qobject_cast<QMenu*>(holder->Helper) : nullptr;
+}
+
+bool fncHasEntries(const ControlView& view) {
+  return std::ranges::any_of(view.Home.Source->Controls, [&](const Control* other) {
+    return other->Kind == ControlKind::MenuEntry && other->Container == view.Source;
+  });
+}
+
+QAction* fncAction(const ControlView& view) {
+  if (auto* menu = qobject_cast<QMenu*>(view.Helper); menu != nullptr) {
+    return menu->menuAction();
+  }
+  return qobject_cast<QAction*>(view.Helper);
+}
+
+/// Shows the check mark as the model has it, whatever the toolkit made of the click.
+void prcShowCheck(QAction& action, const Control& control) {
+  action.setCheckable(control.Max >= 1 || control.Value != 0 || action.isCheckable());
+  action.setChecked(control.Value != 0);
+}
+
+void prcTriggered(ControlView& view) {
+  Control* entry = fncLive(view);
+  if (entry == nullptr) {
+    return;
+  }
+  const QPointer<QAction> action = fncAction(view);
+  prcServe([entry] { prcUserClick(*entry); });
+  if (action != nullptr && fncLive(view) == entry) {
+    prcShowCheck(*action, *entry);
+  }
+}
+
+}  // namespace
+
+void prcMakeMenu(ControlView& view) {
+  auto* window = qobject_cast<QMainWindow*>(view.Home.Shell);
+  if (window == nullptr) {
+    return;
+  }
+  QMenu* holder = fncMenuOf(view);
+  if (fncHasEntries(view)) {
+    view.Helper = holder == nullptr ? window->menuBar()->addMenu(QString())
+                                    : holder->addMenu(QString());
+  } else {
+    auto* action = new QAction(window);
+    action->setMenuRole(QAction::NoRole);
+    view.Helper = action;
+    holder == nullptr ? window->menuBar()->addAction(action) : holder->addAction(action);
+    QObject::connect(action, &QAction::triggered, action, [&view] { prcTriggered(view); });
+  }
+  fncAction(view)->setObjectName(fncObjectName(*view.Source));
+}
+
+void prcUpdateMenu(ControlView& view, const Control& control) {
+  QAction* action = fncAction(view);
+  if (action == nullptr) {
+    return;
+  }
+  action->setSeparator(control.Text == "-");
+  action->setText(fncText(control.Text));
+  action->setVisible(control.Visible);
+  action->setEnabled(control.Enabled);
+  action->setToolTip(fncText(control.ToolTip));
+  if (qobject_cast<QMenu*>(view.Helper) == nullptr) {
+    prcShowCheck(*action, control);
+  }
+}
+
+void prcMakeToolbar(ControlView& view) {
+  auto* window = qobject_cast<QMainWindow*>(view.Home.Shell);
+  auto* bar = new QToolBar(view.Home.Shell);
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  if (window != nullptr) {
+    window->addToolBar(Qt::TopToolBarArea, bar);
+    window->insertToolBarBreak(bar);
+  }
+  view.Widget = bar;
+}
+
+void prcUpdateToolbar(ControlView& view, const Control& control) {
+  auto* bar = qobject_cast<QToolBar*>(view.Widget);
+  const bool blnLarge = control.Height >= dblLargeBar;
+  const int side = fncScaled(blnLarge ? 24 : 18);
+  bar->setIconSize(QSize(side, side));
+  bar->setToolButtonStyle(blnLarge ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  bar->setFixedHeight(fncPixels(control.Height));
+  bar->setFont(fncFont(control.Face));
+}
+
+void prcMakeTool(ControlView& view, QWidget* bar) {
+  auto* toolbar = qobject_cast<QToolBar*>(bar);
+  if (toolbar == nullptr) {
+    return;
+  }
+  if (view.Source->Style == ButtonStyle::Separator) {
+    view.Helper = toolbar->addSeparator();
+    return;
+  }
+  auto* button = new ToolView(toolbar);
+  button->setCheckable(true);
+  button->setFocusPolicy(Qt::NoFocus);
+  view.Widget = button;
+  view.Helper = toolbar->addWidget(button);
+  QObject::connect(button, &QToolButton::clicked, button, [&view] { prcKeyClick(view); });
+}
+
+void prcUpdateTool(ControlView& view, const Control& control) {
+  auto* action = qobject_cast<QAction*>(view.Helper);
+  if (action == nullptr) {
+    return;
+  }
+  action->setVisible(control.Visible);
+  auto* button = qobject_cast<QToolButton*>(view.Widget);
+  if (button == nullptr) {
+    return;
+  }
+  auto* bar = qobject_cast<QToolBar*>(button->parentWidget());
+  const int side = bar != nullptr ? bar->iconSize().width() : fncScaled(18);
+  const int height = bar != nullptr ? bar->height() - fncScaled(4) : side + fncScaled(8);
+  const bool blnCaption =
+      bar != nullptr && bar->toolButtonStyle() == Qt::ToolButtonTextBesideIcon &&
+      !control.Text.empty();
+  button->setIconSize(QSize(side, side));
+  if (button->icon().isNull()) {
+    button->setIcon(fncIcon(control.Picture, side));
+  }
+  button->setFont(fncFont(control.Face));
+  button->setText(fncText(control.Text));
+  button->setToolButtonStyle(blnCaption ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  const int caption =
+      blnCaption ? button->fontMetrics().horizontalAdvance(button->text()) + fncScaled(10) : 0;
+  button->setFixedSize(side + fncScaled(8) + caption, height);
+  button->setChecked(control.Value != 0);
+  button->setEnabled(control.Enabled);
+}
+
+}  // namespace qt

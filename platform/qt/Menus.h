@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/qt/Screen.h"
+
+// The frame's menu bar and toolbars.
+
+namespace qt {
+
+/// Makes the menu or entry of a MenuEntry control: in its container's menu, or in the menu bar.
+void prcMakeMenu(ControlView& view);
+void prcUpdateMenu(ControlView& view, const Control& control);
+
+/// Makes a toolbar below the frame's menu bar.
+void prcMakeToolbar(ControlView& view);
+void prcUpdateToolbar(ControlView& view, const Control& control);
+
+/// Makes a button or separator in its toolbar.
+void prcMakeTool(ControlView& view, QWidget* bar);
+void prcUpdateTool(ControlView& view, const Control& control);
+
+}  // namespace qt

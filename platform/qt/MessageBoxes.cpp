@@ -1,0 +1,67 @@
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QWindow>
+#include <memory>
+
+#include "platform/platform.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Screen.h"
+
+namespace {
+
+QMessageBox::Icon fncBoxIcon(platform::Icon icon) {
+  switch (icon) {
+    case platform::Icon::Stop:
+      return QMessageBox::Critical;
+    case platform::Icon::Exclamation:
+      return QMessageBox::Warning;
+    case platform::Icon::Information:
+      return QMessageBox::Information;
+    case platform::Icon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+void prcFillBox(QMessageBox& box, const std::string& text, platform::Icon icon,
+                const std::string& title, platform::Buttons buttons, platform::Answer standard) {
+  box.setObjectName(QStringLiteral("MsgBox"));
+  box.setWindowTitle(title.empty() ? QApplication::applicationName() : qt::fncText(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(qt::fncText(text));
+  box.setIcon(fncBoxIcon(icon));
+  if (buttons == platform::Buttons::Ok) {
+    box.setStandardButtons(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
+    return;
+  }
+  box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+  box.setEscapeButton(QMessageBox::Cancel);
+  box.setDefaultButton(standard == platform::Answer::Ok ? QMessageBox::Ok : QMessageBox::Cancel);
+}
+
+}  // namespace
+
+namespace platform {
+
+Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
+              Answer standard) {
+  qt::prcThrowIfEnded();
+  qt::prcSyncAll();
+  QWidget* parent = QApplication::activeWindow();
+  const auto box = std::make_unique<QMessageBox>();
+  prcFillBox(*box, text, icon, title, buttons, standard);
+  if (parent != nullptr && parent->windowHandle() != nullptr) {
+    box->winId();
+    box->windowHandle()->setTransientParent(parent->windowHandle());
+  }
+  box->setWindowModality(Qt::ApplicationModal);
+  box->show();
+  box->activateWindow();
+  qt::prcServeUntil([&] { return !box->isVisible(); });
+  return box->standardButton(box->clickedButton()) == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
+}
+
+}  // namespace platform

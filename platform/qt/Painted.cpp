@@ -1,0 +1,265 @@
+#include "platform/qt/Painted.h"
+
+#include <QFontMetrics>
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+constexpr double dblLeastFit = 0.65;  // Type is made no smaller than this part of its size.
+
+int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
+  const bool blnWraps = QFontMetrics(font).height() * 2 <= size.height();
+  const bool blnMiddle = !control.BackColor.Clear || control.Dress == Look::Plate || !blnWraps;
+  int flags = blnWraps ? static_cast<int>(Qt::TextWordWrap) : 0;
+  flags |= static_cast<int>(blnMiddle ? Qt::AlignVCenter : Qt::AlignTop);
+  switch (control.Align) {
+    case Alignment::Left:
+      return flags | static_cast<int>(Qt::AlignLeft);
+    case Alignment::Right:
+      return flags | static_cast<int>(Qt::AlignRight);
+    case Alignment::Centre:
+      return flags | static_cast<int>(Qt::AlignHCenter);
+  }
+  return flags;
+}
+
+QRect fncTextRect(const Control& control, const QRect& rect) {
+  const bool blnBoxed = !control.BackColor.Clear || control.Dress == Look::Plate;
+  const int inset = blnBoxed ? fncScaled(3) : 0;
+  return rect.adjusted(inset, 0, -inset, 0);
+}
+
+QFont fncLabelFont(const Control& control) {
+  QFont font = fncFont(control.Face);
+  if (control.Dress == Look::Link) {
+    font.setUnderline(true);
+  }
+  if (control.Dress == Look::Heading) {
+    font.setLetterSpacing(QFont::AbsoluteSpacing, fncScale());
+  }
+  return font;
+}
+
+void prcFillPlate(QPainter& painter, const Control& control, const QRect& rect) {
+  const QColor ground =
+      control.BackColor.Clear ? QColor::fromRgb(rgbDarkFelt) : fncColour(control.BackColor);
+  QLinearGradient shade(rect.topLeft(), rect.bottomLeft());
+  shade.setColorAt(0, ground.darker(125));
+  shade.setColorAt(0.25, ground);
+  shade.setColorAt(1, ground.lighter(118));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(shade);
+  painter.setPen(QPen(QColor(0xC9, 0xA2, 0x27, 150), fncScaled(1)));
+  const double half = fncScaled(1) / 2.0;
+  const double corner = std::min(5 * fncScale(), rect.height() / 2.0);
+  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), corner, corner);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void prcDrawPicture(QPainter& painter, const Control& control, const QRect& rect) {
+  const double ratio = painter.device()->devicePixelRatioF();
+  const int number = control.Picture;
+  if (number == 0) {
+    return;
+  }
+  const QSize size = fncIsCard(number) ? fncCardSize() : rect.size();
+  painter.drawPixmap(rect.topLeft(), fncPicture(number, size, ratio));
+}
+
+void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect) {
+  if (control.Dress == Look::Plate) {
+    prcFillPlate(painter, control, rect);
+  } else if (!control.BackColor.Clear) {
+    painter.fillRect(rect, fncColour(control.BackColor));
+  }
+  prcDrawPicture(painter, control, rect);
+  if (control.Dress == Look::Chip || control.Text.empty()) {
+    return;
+  }
+  QColor ink = fncColour(control.ForeColor);
+  if (!control.Enabled) {
+    ink.setAlphaF(0.55F);
+  }
+  const QRect place = fncTextRect(control, rect);
+  const QFont font = fncFittedFont(control, rect.size());
+  painter.setFont(font);
+  painter.setPen(ink);
+  painter.drawText(place, fncTextFlags(control, place.size(), font), fncText(control.Text));
+}
+
+void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& rect) {
+  if (control.Dress == Look::Patch && control.BackColor.Clear) {
+    painter.fillRect(rect, Qt::white);
+  } else if (!control.BackColor.Clear) {
+    painter.fillRect(rect, fncColour(control.BackColor));
+  }
+  prcDrawPicture(painter, control, rect);
+}
+
+void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
+  if (control.Dress == Look::Shadow) {
+    const int margin = fncShadowMargin();
+    const QSize size = rect.size() - QSize(2 * margin, 2 * margin);
+    painter.drawPixmap(rect.topLeft(),
+                       fncShadow(size, painter.device()->devicePixelRatioF()));
+    return;
+  }
+  const int width = control.BorderColor.Clear ? 0 : fncScaled(control.BorderWidth);
+  painter.setPen(width == 0 ? QPen(Qt::NoPen) : QPen(fncColour(control.BorderColor), width));
+  painter.setBrush(control.FillColor.Clear ? QBrush(Qt::NoBrush)
+                                           : QBrush(fncColour(control.FillColor)));
+  const double half = width / 2.0;
+  const QRectF inner = QRectF(rect).adjusted(half, half, -half, -half);
+  painter.setRenderHint(QPainter::Antialiasing, control.Form2D != ShapeForm::Rectangle);
+  switch (control.Form2D) {
+    case ShapeForm::Rectangle:
+      painter.drawRect(inner);
+      break;
+    case ShapeForm::Oval:
+      painter.drawEllipse(inner);
+      break;
+    case ShapeForm::Rounded: {
+      const double corner = std::min({8 * fncScale(), inner.width() / 2, inner.height() / 2});
+      painter.drawRoundedRect(inner, corner, corner);
+      break;
+    }
+  }
+  painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void prcDrawLine(QPainter& painter, const Control& control, const QRect& rect) {
+  const Colour& colour = control.BorderColor.Clear ? control.ForeColor : control.BorderColor;
+  if (control.X1 == control.X2 || control.Y1 == control.Y2) {
+    painter.fillRect(rect, fncColour(colour));
+    return;
+  }
+  const double half = fncScaled(control.BorderWidth) / 2.0;
+  const QRectF inner = QRectF(rect).adjusted(half, half, -half, -half);
+  const bool blnFalling = (control.X2 > control.X1) == (control.Y2 > control.Y1);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(fncColour(colour), fncScaled(control.BorderWidth)));
+  painter.drawLine(blnFalling ? inner.topLeft() : inner.bottomLeft(),
+                   blnFalling ? inner.bottomRight() : inner.topRight());
+}
+
+void prcDrawGroup(QPainter& painter, const Control& control, const QRect& rect) {
+  const QString title = fncText(control.Text);
+  QFont font = fncFont(control.Face);
+  font.setBold(true);
+  const QFontMetrics metrics(font);
+  const int half = title.isEmpty() ? 0 : metrics.height() / 2;
+  const QRectF box = QRectF(rect).adjusted(0.5, half + 0.5, -0.5, -0.5);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor::fromRgb(rgbOutline), fncScaled(1)));
+  painter.setBrush(control.BackColor.Clear ? QBrush(Qt::NoBrush)
+                                           : QBrush(fncColour(control.BackColor)));
+  if (!title.isEmpty()) {
+    const QRect gap(fncScaled(8), 0, metrics.horizontalAdvance(title) + fncScaled(6),
+                    metrics.height());
+    painter.setClipRegion(QRegion(rect) - QRegion(gap));
+    painter.drawRoundedRect(box, 5 * fncScale(), 5 * fncScale());
+    painter.setClipping(false);
+    painter.setFont(font);
+    painter.setPen(fncColour(control.ForeColor));
+    painter.drawText(gap, Qt::AlignCenter, title);
+  } else {
+    painter.drawRoundedRect(box, 5 * fncScale(), 5 * fncScale());
+  }
+}
+
+}  // namespace
+
+QRect fncPlace(const Control& control) {
+  if (control.Kind == ControlKind::Line) {
+    const int width = fncScaled(control.BorderWidth);
+    const int left = fncPixels(std::min(control.X1, control.X2));
+    const int top = fncPixels(std::min(control.Y1, control.Y2));
+    const int right = fncPixels(std::max(control.X1, control.X2));
+    const int bottom = fncPixels(std::max(control.Y1, control.Y2));
+    return {left - width / 2, top - width / 2, std::max(right - left, width),
+            std::max(bottom - top, width)};
+  }
+  if (fncCutsPicture(control)) {
+    return {fncPixels(control.Left), fncPixels(control.Top), fncPixels(control.Width),
+            fncPixels(control.Height)};
+  }
+  const QRect place = fncPixelRect(control.Left, control.Top, control.Width, control.Height);
+  const int margin =
+      control.Kind == ControlKind::Shape && control.Dress == Look::Shadow ? fncShadowMargin() : 0;
+  return place.adjusted(-margin, -margin, margin, margin);
+}
+
+bool fncCutsPicture(const Control& control) {
+  return control.Kind == ControlKind::Picture &&
+         (control.Dress == Look::Card || fncIsCard(control.Picture));
+}
+
+QFont fncFittedFont(const Control& control, QSize size) {
+  QFont font = fncLabelFont(control);
+  const int whole = font.pixelSize();
+  const int least = std::max(6, static_cast<int>(std::ceil(whole * dblLeastFit)));
+  const QRect rect = fncTextRect(control, QRect(QPoint(0, 0), size));
+  const QString text = fncText(control.Text);
+  for (int pixels = whole; pixels > least; --pixels) {
+    font.setPixelSize(pixels);
+    const QRect need = QFontMetrics(font).boundingRect(
+        rect, fncTextFlags(control, rect.size(), font), text);
+    if (need.width() <= rect.width() && need.height() <= rect.height() + fncScaled(1)) {
+      break;
+    }
+  }
+  return font;
+}
+
+void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect, bool blnFocus) {
+  switch (control.Kind) {
+    case ControlKind::Label:
+      prcDrawLabel(painter, control, rect);
+      break;
+    case ControlKind::Picture:
+      prcDrawPictureBox(painter, control, rect);
+      break;
+    case ControlKind::Shape:
+      prcDrawShape(painter, control, rect);
+      break;
+    case ControlKind::Line:
+      prcDrawLine(painter, control, rect);
+      break;
+    case ControlKind::Frame:
+      prcDrawGroup(painter, control, rect);
+      break;
+    default:
+      break;
+  }
+  if (blnFocus) {
+    prcDrawFocus(painter, rect);
+  }
+}
+
+PaintedView::PaintedView(ControlView& view, QWidget* parent) : QWidget(parent), view_(&view) {
+  setAttribute(Qt::WA_StaticContents, fncCutsPicture(view.Drawn));
+}
+
+void PaintedView::prcDetach() {
+  view_ = nullptr;
+}
+
+void PaintedView::paintEvent(QPaintEvent* /*event*/) {
+  if (view_ == nullptr) {
+    return;
+  }
+  QPainter painter(this);
+  prcPaintControl(painter, view_->Drawn, rect(), hasFocus());
+}
+
+}  // namespace qt

@@ -1,0 +1,346 @@
+#include "platform/qt/Screen.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QHash>
+#include <algorithm>
+#include <unordered_set>
+#include <utility>
+
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/WindowViews.h"
+
+namespace qt {
+
+namespace {
+
+constexpr int intFrameMilliseconds = 8;
+
+std::vector<std::unique_ptr<WindowView>> vwWindows;
+QHash<const QWidget*, ControlView*> vwByWidget;
+Window* wndActive = nullptr;
+Window* wndLastChild = nullptr;
+bool blnSyncing = false;
+QElapsedTimer clkSynced;
+
+bool fncLoaded(const Window* window, std::int32_t handle) {
+  return std::ranges::find(fncWindows(), window) != fncWindows().end() &&
+         std::int32_t{window->hWnd} == handle;
+}
+
+bool fncMatches(const ControlView& view, const Control* control) {
+  return view.Source == control && view.Drawn.Serial == control->Serial;
+}
+
+/// The view of a control, made if needed together with the views of all that holds it.
+ControlView* fncEnsure(WindowView& home, Control& control,
+                       std::vector<std::unique_ptr<ControlView>>& made) {
+  const auto known = home.ByControl.find(&control);
+  if (known != home.ByControl.end()) {
+    return known->second;
+  }
+  QWidget* parent = home.Ground;
+  if (control.Container != nullptr) {
+    const ControlView* holder = fncEnsure(home, *control.Container, made);
+    parent = holder->Widget != nullptr ? holder->Widget : home.Ground;
+  }
+  made.push_back(std::make_unique<ControlView>(home, control));
+  ControlView* view = made.back().get();
+  home.ByControl[&control] = view;
+  prcMakeControl(*view, parent);
+  return view;
+}
+
+using Views = std::vector<std::unique_ptr<ControlView>>;
+
+/// Drops the views from place on whose controls have left the stack.
+Views fncSurvivors(WindowView& home, std::size_t place) {
+  std::unordered_set<std::uint32_t> present;
+  for (std::size_t at = place; at < home.Source->Controls.size(); ++at) {
+    present.insert(home.Source->Controls[at]->Serial);
+  }
+  Views left;
+  for (std::size_t at = place; at < home.Controls.size(); ++at) {
+    if (present.contains(home.Controls[at]->Drawn.Serial)) {
+      left.push_back(std::move(home.Controls[at]));
+    }
+  }
+  home.Controls.resize(place);
+  return left;
+}
+
+/// Puts the view of a control at its place in the list: found among the survivors, or made.
+/// Survivors keep their place on the screen while they follow one another as before; every other
+/// one is raised, in order.
+void prcMatchStack(WindowView& home) {
+  const std::vector<Control*>& stack = home.Source->Controls;
+  std::size_t place = 0;
+  while (place < stack.size() && place < home.Controls.size() &&
+         fncMatches(*home.Controls[place], stack[place])) {
+    ++place;
+  }
+  if (place == stack.size() && place == home.Controls.size()) {
+    return;
+  }
+  Views old = fncSurvivors(home, place);
+  Views made;
+  std::size_t next = 0;
+  for (; place < stack.size(); ++place) {
+    Control& control = *stack[place];
+    std::size_t at = next;
+    while (at < old.size() && !(old[at] != nullptr && fncMatches(*old[at], &control))) {
+      ++at;
+    }
+    if (at < old.size()) {
+      home.Controls.push_back(std::move(old[at]));
+      next = at + 1;
+      continue;
+    }
+    const auto moved = std::ranges::find_if(old, [&](const std::unique_ptr<ControlView>& view) {
+      return view != nullptr && fncMatches(*view, &control);
+    });
+    if (moved != old.end()) {
+      home.Controls.push_back(std::move(*moved));
+      prcRaiseControl(*home.Controls.back());
+      continue;
+    }
+    fncEnsure(home, control, made);
+    const auto fresh = std::ranges::find_if(made, [&](const std::unique_ptr<ControlView>& view) {
+      return view != nullptr && view->Source == &control;
+    });
+    home.Controls.push_back(std::move(*fresh));
+  }
+}
+
+void prcSyncControls(WindowView& home) {
+  prcMatchStack(home);
+  const bool blnFocusMoved = home.DrawnActive != home.Source->ActiveControl;
+  home.DrawnActive = home.Source->ActiveControl;
+  for (const std::unique_ptr<ControlView>& view : home.Controls) {
+    if (!(view->Drawn == *view->Source)) {
+      prcUpdateControl(*view, *view->Source);
+    }
+  }
+  if (blnFocusMoved) {
+    prcShowFocusTexts(home);
+  }
+}
+
+void prcDropUnloaded() {
+  std::erase_if(vwWindows, [](const std::unique_ptr<WindowView>& view) {
+    return !fncLoaded(view->Source, view->Handle);
+  });
+  if (wndActive != nullptr && std::ranges::find(fncWindows(), wndActive) == fncWindows().end()) {
+    wndActive = nullptr;
+  }
+}
+
+void prcAddLoaded() {
+  // The frame first: it is the parent of its children.
+  for (const bool blnFrames : {true, false}) {
+    for (Window* window : fncWindows()) {
+      if ((window->Kind == WindowKind::Frame) == blnFrames && fncViewOf(*window) == nullptr) {
+        vwWindows.push_back(std::make_unique<WindowView>(*window));
+      }
+    }
+  }
+}
+
+void prcSyncOnce() {
+  blnSyncing = true;
+  prcDropUnloaded();
+  prcAddLoaded();
+  // Frames last, so that they come up with everything in them.
+  for (const bool blnFrames : {false, true}) {
+    for (const std::unique_ptr<WindowView>& view : vwWindows) {
+      if ((view->Source->Kind == WindowKind::Frame) == blnFrames) {
+        prcSyncControls(*view);
+        prcSyncWindow(*view);
+      }
+    }
+  }
+  prcFollowActive();
+  blnSyncing = false;
+  clkSynced.start();
+}
+
+/// Runs one resize or activate handler that is due. Returns whether there was one.
+bool fncRunDue() {
+  const auto due = std::ranges::find_if(vwWindows, [](const std::unique_ptr<WindowView>& view) {
+    return view->blnResized || view->blnShown;
+  });
+  if (due == vwWindows.end()) {
+    return false;
+  }
+  WindowView& view = **due;
+  const bool blnResize = std::exchange(view.blnResized, false);
+  const bool blnActivate = !blnResize && std::exchange(view.blnShown, false);
+  Window* window = fncLive(view);
+  if (window != nullptr && blnResize && window->On->Resize != nullptr) {
+    prcServe([window] { window->On->Resize(*window); });
+  } else if (window != nullptr && blnActivate) {
+    prcActivate(*window);
+  }
+  return true;
+}
+
+}  // namespace
+
+ControlView::ControlView(WindowView& home, Control& source)
+    : Home(home), Source(&source), Drawn(source) {}
+
+ControlView::~ControlView() {
+  const auto known = Home.ByControl.find(Source);
+  if (known != Home.ByControl.end() && known->second == this) {
+    Home.ByControl.erase(known);
+  }
+  prcDropControl(*this);
+}
+
+WindowView::WindowView(Window& source) : Source(&source), Handle(source.hWnd) {
+  prcMakeWindow(*this);
+}
+
+WindowView::~WindowView() {
+  Controls.clear();
+  prcDropWindow(*this);
+}
+
+void prcSyncAll() {
+  if (blnSyncing) {
+    return;
+  }
+  prcSyncOnce();
+  while (!fncEnded() && fncRunDue()) {
+  }
+}
+
+void prcSyncIfDue() {
+  if (!clkSynced.isValid() || clkSynced.elapsed() >= intFrameMilliseconds) {
+    prcSyncAll();
+  }
+}
+
+void prcPaintNow(Window& window) {
+  WindowView* view = fncViewOf(window);
+  if (view == nullptr || blnSyncing || !fncLoaded(view->Source, view->Handle)) {
+    return;
+  }
+  blnSyncing = true;
+  prcSyncControls(*view);
+  blnSyncing = false;
+  QEvent paint(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(view->Shell->window(), &paint);
+}
+
+void prcClearScreen() {
+  vwWindows.clear();
+  vwByWidget.clear();
+  wndActive = nullptr;
+  wndLastChild = nullptr;
+  clkSynced.invalidate();
+}
+
+WindowView* fncViewOf(const Window& window) {
+  const auto known =
+      std::ranges::find(vwWindows, &window, [](const auto& view) { return view->Source; });
+  return known == vwWindows.end() ? nullptr : known->get();
+}
+
+ControlView* fncViewOf(const Control& control) {
+  const WindowView* home = control.Form != nullptr ? fncViewOf(*control.Form) : nullptr;
+  if (home == nullptr) {
+    return nullptr;
+  }
+  const auto known = home->ByControl.find(&control);
+  return known == home->ByControl.end() ? nullptr : known->second;
+}
+
+ControlView* fncControlViewOf(const QWidget* widget) {
+  for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+    if (ControlView* view = vwByWidget.value(widget); view != nullptr) {
+      return view;
+    }
+  }
+  return nullptr;
+}
+
+WindowView* fncWindowViewOf(const QWidget* widget) {
+  for (; widget != nullptr; widget = widget->parentWidget()) {
+    for (const std::unique_ptr<WindowView>& view : vwWindows) {
+      if (view->Shell == widget || view->Ground == widget) {
+        return view.get();
+      }
+    }
+    if (widget->isWindow()) {
+      break;
+    }
+  }
+  return nullptr;
+}
+
+void prcNoteWidget(const QWidget* widget, ControlView* view) {
+  vwByWidget.insert(widget, view);
+}
+
+void prcForgetWidget(const QWidget* widget) {
+  vwByWidget.remove(widget);
+}
+
+Control* fncLive(const ControlView& view) {
+  if (fncLive(view.Home) == nullptr) {
+    return nullptr;
+  }
+  const std::vector<Control*>& stack = view.Home.Source->Controls;
+  const auto at = std::ranges::find(stack, view.Source);
+  return at != stack.end() && (*at)->Serial == view.Drawn.Serial ? *at : nullptr;
+}
+
+Window* fncLive(const WindowView& view) {
+  return fncLoaded(view.Source, view.Handle) ? view.Source : nullptr;
+}
+
+Window* fncActiveWindow() {
+  return wndActive;
+}
+
+void prcActivate(Window& window) {
+  if (wndActive == &window || std::ranges::find(fncWindows(), &window) == fncWindows().end()) {
+    return;
+  }
+  wndActive = &window;
+  if (window.Kind == WindowKind::Child) {
+    wndLastChild = &window;
+  }
+  if (window.On->Activate != nullptr) {
+    prcServe([&window] { window.On->Activate(window); });
+  } else if (!blnSyncing) {
+    prcSyncAll();
+  }
+}
+
+Window* fncFrameInput() {
+  Window* found = nullptr;
+  for (Window* window : fncWindows()) {
+    const bool blnOpen = window->Kind == WindowKind::Child && window->Visible;
+    if (blnOpen && (found == nullptr || window == wndLastChild)) {
+      found = window;
+    }
+  }
+  const WindowView* frame = fncFrameView();
+  return found != nullptr || frame == nullptr ? found : frame->Source;
+}
+
+WindowView* fncFrameView() {
+  const auto frame = std::ranges::find_if(
+      vwWindows, [](const auto& view) { return view->Source->Kind == WindowKind::Frame; });
+  return frame == vwWindows.end() ? nullptr : frame->get();
+}
+
+bool fncSyncing() {
+  return blnSyncing;
+}
+
+}  // namespace qt

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Window.h"
+
+// The screen as a cache of the model: one view for each loaded window and each of its controls,
+// with a copy of what was drawn last. Comparing the two tells what to change.
+
+namespace qt {
+
+struct WindowView;
+
+/// One control on the screen. Source may be gone from the model; only fncLive may look at it.
+struct ControlView {
+  ControlView(WindowView& home, Control& source);
+  ~ControlView();
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+
+  WindowView& Home;
+  Control* Source;
+  Control Drawn;
+  QPointer<QWidget> Widget;   ///< None for timers and menu entries.
+  QPointer<QObject> Helper;   ///< The timer, menu, or action that stands for the control.
+};
+
+/// What a window's frame showed last.
+struct DrawnWindow {
+  std::string Caption;
+  double Left = 0, Top = 0, Width = 0, Height = 0, ScaleWidth = 0, ScaleHeight = 0;
+  bool Visible = false, Topmost = false;
+  Colour BackColor = clrWhite;
+  int Picture = 0;
+  std::uint32_t Raised = 0;
+  bool operator==(const DrawnWindow&) const = default;
+};
+
+/// One loaded window on the screen. Shell is its outermost widget, Ground the one that holds its
+/// controls; they may be the same.
+struct WindowView {
+  explicit WindowView(Window& source);
+  ~WindowView();
+  WindowView(const WindowView&) = delete;
+  WindowView& operator=(const WindowView&) = delete;
+
+  Window* Source;
+  std::int32_t Handle;
+  QPointer<QWidget> Shell;
+  QPointer<QWidget> Ground;
+  DrawnWindow Drawn;
+  bool blnModal = false;
+  bool blnFirst = true;
+  bool blnResized = false;          ///< The inner size has changed; its handler is due.
+  bool blnShown = false;            ///< It has come up and is to get the input.
+  Control* DrawnActive = nullptr;   ///< Compared only.
+  std::vector<std::unique_ptr<ControlView>> Controls;  ///< In the order of the stack.
+  std::unordered_map<const Control*, ControlView*> ByControl;
+};
+
+/// Brings all loaded windows up to date and runs the resize handlers that are due.
+void prcSyncAll();
+
+/// The same, unless it was done less than a frame's time ago.
+void prcSyncIfDue();
+
+/// Brings the controls of one window up to date and paints what has changed at once.
+void prcPaintNow(Window& window);
+
+/// Takes all windows off the screen, at the end.
+void prcClearScreen();
+
+WindowView* fncViewOf(const Window& window);
+/// The view of a loaded control; none while it is not on the screen.
+ControlView* fncViewOf(const Control& control);
+/// The view that a widget or one of its parents belongs to; none for the toolkit's own.
+ControlView* fncControlViewOf(const QWidget* widget);
+WindowView* fncWindowViewOf(const QWidget* widget);
+
+/// Notes a widget as belonging to a view, for the two look-ups above.
+void prcNoteWidget(const QWidget* widget, ControlView* view);
+void prcForgetWidget(const QWidget* widget);
+
+/// The control of a view, or none if the model has given it up meanwhile.
+Control* fncLive(const ControlView& view);
+/// The window of a view, or none if it has been unloaded meanwhile.
+Window* fncLive(const WindowView& view);
+
+/// The window that has the input.
+Window* fncActiveWindow();
+/// The child that the frame's input belongs to: the one used last, else any that is visible, else
+/// the frame itself.
+Window* fncFrameInput();
+/// Gives a window the input and runs its activate handler if it is another than before.
+void prcActivate(Window& window);
+
+/// The frame's view, if the frame is loaded.
+WindowView* fncFrameView();
+
+/// Whether the views are being brought up to date: what the toolkit reports then is no action of
+/// the user.
+bool fncSyncing();
+
+}  // namespace qt

@@ -1,0 +1,216 @@
+#include "platform/qt/Style.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/Scale.h"
+
+namespace qt {
+
+namespace {
+
+constexpr float sngPlainSize = 8.25F;
+
+struct MetricRow {
+  QStyle::PixelMetric Metric;
+  int Pixels;  ///< At scale 1.
+};
+
+constexpr MetricRow mtrRows[] = {
+    {QStyle::PM_IndicatorWidth, 14},
+    {QStyle::PM_IndicatorHeight, 14},
+    {QStyle::PM_ExclusiveIndicatorWidth, 14},
+    {QStyle::PM_ExclusiveIndicatorHeight, 14},
+    {QStyle::PM_CheckBoxLabelSpacing, 5},
+    {QStyle::PM_RadioButtonLabelSpacing, 5},
+    {QStyle::PM_ScrollBarExtent, 15},
+    {QStyle::PM_ScrollBarSliderMin, 26},
+    {QStyle::PM_SmallIconSize, 16},
+    {QStyle::PM_ButtonIconSize, 16},
+    {QStyle::PM_MessageBoxIconSize, 34},
+    {QStyle::PM_MenuBarItemSpacing, 3},
+    {QStyle::PM_MenuBarHMargin, 4},
+    {QStyle::PM_MenuBarVMargin, 1},
+    {QStyle::PM_MenuVMargin, 3},
+    {QStyle::PM_SliderThickness, 18},
+    {QStyle::PM_SliderLength, 13},
+    {QStyle::PM_ToolTipLabelFrameWidth, 4},
+    {QStyle::PM_LayoutLeftMargin, 10},
+    {QStyle::PM_LayoutTopMargin, 10},
+    {QStyle::PM_LayoutRightMargin, 10},
+    {QStyle::PM_LayoutBottomMargin, 10},
+};
+
+class Dress : public QProxyStyle {
+ public:
+  Dress() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const auto* const row = std::ranges::find(mtrRows, metric, &MetricRow::Metric);
+    return row != std::end(mtrRows) ? fncScaled(row->Pixels)
+                                    : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    switch (hint) {
+      case SH_ToolTipLabel_Opacity:
+        return 255;
+      case SH_UnderlineShortcut:
+        return 1;
+      case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+      case SH_ToolTip_WakeUpDelay:
+        return 500;
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    if (element == CE_PushButtonBevel) {
+      const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
+      ButtonState state;
+      state.blnEnabled = (option->state & State_Enabled) != 0;
+      state.blnDown = (option->state & (State_Sunken | State_On)) != 0;
+      state.blnHover = (option->state & State_MouseOver) != 0;
+      state.blnFocus = (option->state & State_HasFocus) != 0;
+      state.blnDefault =
+          button != nullptr && (button->features & QStyleOptionButton::DefaultButton) != 0;
+      prcDrawButton(*painter, option->rect, state);
+      return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+  }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element == PE_FrameFocusRect && widget != nullptr) {
+      if (!widget->inherits("QPushButton")) {
+        prcDrawFocus(*painter, option->rect);
+      }
+      return;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+};
+
+QPalette fncPalette() {
+  QPalette palette;
+  const QColor ink = QColor::fromRgb(rgbInk);
+  const QColor faded = QColor::fromRgb(rgbFaded);
+  palette.setColor(QPalette::Window, QColor::fromRgb(rgbIvory));
+  palette.setColor(QPalette::WindowText, ink);
+  palette.setColor(QPalette::Base, QColor::fromRgb(rgbPaper));
+  palette.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF2, 0xE2));
+  palette.setColor(QPalette::Text, ink);
+  palette.setColor(QPalette::PlaceholderText, faded);
+  palette.setColor(QPalette::Button, QColor(0xEC, 0xE5, 0xD3));
+  palette.setColor(QPalette::ButtonText, ink);
+  palette.setColor(QPalette::BrightText, Qt::white);
+  palette.setColor(QPalette::Highlight, QColor(0x1B, 0x6B, 0x4B));
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xF8, 0xDC));
+  palette.setColor(QPalette::ToolTipText, ink);
+  palette.setColor(QPalette::Link, QColor(0x0B, 0x4F, 0x8A));
+  palette.setColor(QPalette::LinkVisited, QColor(0x5A, 0x3A, 0x7A));
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, faded);
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xEA, 0xE5, 0xD8));
+  return palette;
+}
+
+}  // namespace
+
+QColor fncColour(const Colour& colour) {
+  return colour.Clear ? QColor(0, 0, 0, 0) : QColor(colour.Red, colour.Green, colour.Blue);
+}
+
+QFont fncFont(const Type& face) {
+  QFont font;
+  if (face.Fixed) {
+    font.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
+                      QStringLiteral("Courier New")});
+    font.setStyleHint(QFont::Monospace);
+  } else {
+    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
+                      QStringLiteral("DejaVu Sans")});
+    font.setStyleHint(QFont::SansSerif);
+  }
+  font.setPixelSize(
+      std::max(1, static_cast<int>(std::lround(double{face.Size} * 96 / 72 * fncScale()))));
+  font.setBold(face.Bold);
+  font.setUnderline(face.Underline);
+  return font;
+}
+
+QFont fncPlainFont() {
+  return fncFont({sngPlainSize});
+}
+
+void prcDressApplication() {
+  QApplication::setStyle(new Dress);
+  QApplication::setPalette(fncPalette());
+  QApplication::setFont(fncPlainFont());
+  QToolTip::setFont(fncPlainFont());
+  QToolTip::setPalette(fncPalette());
+}
+
+void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& state) {
+  QColor top(0xFD, 0xFA, 0xF1);
+  QColor bottom(0xE2, 0xD9, 0xC1);
+  QColor edge = QColor::fromRgb(rgbOutline);
+  if (state.blnPrimary) {
+    top = QColor(0xF4, 0xD9, 0x72);
+    bottom = QColor(0xD0, 0xA5, 0x2B);
+  }
+  if (!state.blnEnabled) {
+    top = bottom = QColor(0xE6, 0xE1, 0xD4);
+  } else if (state.blnDown) {
+    std::swap(top, bottom);
+  } else if (state.blnHover) {
+    top = top.lighter(104);
+    bottom = bottom.lighter(106);
+  }
+  if (state.blnEnabled && (state.blnPrimary || state.blnDefault || state.blnFocus)) {
+    edge = QColor::fromRgb(rgbDarkGold);
+  }
+  QLinearGradient face(rect.topLeft(), rect.bottomLeft());
+  face.setColorAt(0, top);
+  face.setColorAt(1, bottom);
+  const double corner = 4 * fncScale();
+  const double half = fncScaled(1) / 2.0;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(edge, fncScaled(1)));
+  painter.setBrush(face);
+  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), corner, corner);
+  painter.restore();
+  if (state.blnFocus) {
+    const int inset = fncScaled(2);
+    prcDrawFocus(painter, rect.adjusted(inset, inset, -inset, -inset));
+  }
+}
+
+void prcDrawFocus(QPainter& painter, const QRect& rect) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double half = fncScaled(1.5) / 2.0;
+  painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), fncScaled(1.5)));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), 3 * fncScale(),
+                          3 * fncScale());
+  painter.restore();
+}
+
+}  // namespace qt

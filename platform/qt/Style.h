@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+#include "platform/Control.h"
+
+// How the program looks: its colours, its type and the drawing of the toolkit's standard parts.
+
+namespace qt {
+
+inline constexpr QRgb rgbIvory = 0xFFF3EFE4;       ///< Bars and dialogs.
+inline constexpr QRgb rgbPaper = 0xFFFFFDF5;       ///< Boxes that take input.
+inline constexpr QRgb rgbInk = 0xFF26221A;         ///< Text on ivory.
+inline constexpr QRgb rgbFaded = 0xFF77705F;       ///< Disabled text on ivory.
+inline constexpr QRgb rgbGold = 0xFFC9A227;        ///< Accents and the focus.
+inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;    ///< Outlines of the accents.
+inline constexpr QRgb rgbFelt = 0xFF0E4A33;        ///< The ground of the night.
+inline constexpr QRgb rgbDarkFelt = 0xFF08301F;
+inline constexpr QRgb rgbOutline = 0xFFB5AA8E;
+
+/// A colour of the model; Clear becomes transparent.
+QColor fncColour(const Colour& colour);
+
+/// A face of the model at the scale in use.
+QFont fncFont(const Type& face);
+
+/// The face in which the toolkit's own texts (menus, tool tips, message boxes) are set.
+QFont fncPlainFont();
+
+/// Gives the application its style, palette and faces. Called once, when the scale is known.
+void prcDressApplication();
+
+/// Draws the face of a push button into rect. Used by the style and by buttons of their own look.
+struct ButtonState {
+  bool blnEnabled = true, blnDown = false, blnHover = false, blnFocus = false, blnDefault = false;
+  bool blnPrimary = false;
+};
+void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& state);
+
+/// Draws the mark of keyboard focus around rect.
+void prcDrawFocus(QPainter& painter, const QRect& rect);
+
+}  // namespace qt

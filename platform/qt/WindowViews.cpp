@@ -1,0 +1,391 @@
+#include "platform/qt/WindowViews.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/UserInput.h"
+#include "platform/qt/Boxes.h"
+#include "platform/qt/ChildShell.h"
+#include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+ChildShell* fncChild(const WindowView& view) {
+  return qobject_cast<ChildShell*>(view.Shell);
+}
+
+QRect fncDesk() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 700);
+}
+
+Qt::WindowFlags fncFlags(const Window& window) {
+  Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  flags |= window.Kind == WindowKind::Dialog ? Qt::Dialog : Qt::Tool;
+  flags.setFlag(Qt::WindowCloseButtonHint, window.CloseBox);
+  flags.setFlag(Qt::WindowStaysOnTopHint, window.Topmost);
+  return flags;
+}
+
+void prcMakeFrame(WindowView& view) {
+  auto* frame = new QMainWindow;
+  auto* field = new GroundView(*view.Source, nullptr);
+  field->setAttribute(Qt::WA_OpaquePaintEvent);
+  frame->setCentralWidget(field);
+  frame->setContextMenuPolicy(Qt::NoContextMenu);
+  frame->menuBar()->setNativeMenuBar(false);
+  view.Shell = frame;
+  view.Ground = field;
+}
+
+void prcMakeChild(WindowView& view, WindowView& frame) {
+  auto* shell = new ChildShell(view, frame.Ground);
+  view.Shell = shell;
+  view.Ground = new GroundView(*view.Source, shell);
+}
+
+void prcMakeTop(WindowView& view) {
+  view.Shell = new GroundView(*view.Source, nullptr, fncFlags(*view.Source));
+  view.Shell->setAttribute(Qt::WA_ShowWithoutActivating, view.Source->Kind == WindowKind::Float);
+  view.Ground = view.Shell;
+}
+
+/// What the frame around a window takes of its size, in pixels; nothing is known of a top-level
+/// window's before it is shown.
+QMargins fncFrameOf(const WindowView& view) {
+  if (const ChildShell* child = fncChild(view); child != nullptr) {
+    return child->fncFrame();
+  }
+  const QRect outer = view.Shell->frameGeometry();
+  const QRect inner = view.Shell->geometry();
+  return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+          outer.bottom() - inner.bottom()};
+}
+
+/// The window's outer size as the model has it, worked out of the inner one for a window that keeps
+/// that.
+void prcFollowInner(const WindowView& view) {
+  Window& window = *view.Source;
+  if (window.FixedInner) {
+    const QMargins frame = fncFrameOf(view);
+    window.Width = window.ScaleWidth + fncTwips(frame.left() + frame.right());
+    window.Height = window.ScaleHeight + fncTwips(frame.top() + frame.bottom());
+  }
+}
+
+/// Keeps the inner size in the model, and notes that the resize handler is due if it has changed.
+void prcKeepInner(WindowView& view) {
+  Window& window = *view.Source;
+  const QMargins frame = fncFrameOf(view);
+  double width = std::max(0.0, window.Width - fncTwips(frame.left() + frame.right()));
+  double height = std::max(0.0, window.Height - fncTwips(frame.top() + frame.bottom()));
+  if (window.Kind == WindowKind::Frame) {
+    width = fncTwips(view.Ground->width());
+    height = fncTwips(view.Ground->height());
+  }
+  if (window.FixedInner) {
+    width = window.ScaleWidth;
+    height = window.ScaleHeight;
+  }
+  window.ScaleWidth = width;
+  window.ScaleHeight = height;
+  if (view.Drawn.ScaleWidth != width || view.Drawn.ScaleHeight != height) {
+    view.Drawn.ScaleWidth = width;
+    view.Drawn.ScaleHeight = height;
+    view.blnResized = view.blnResized || window.Visible;
+  }
+}
+
+void prcPlaceChild(WindowView& view) {
+  const Window& window = *view.Source;
+  const QMargins frame = fncFrameOf(view);
+  QRect place = fncPixelRect(window.Left, window.Top, window.Width, window.Height);
+  place.setWidth(std::max(place.width(), frame.left() + frame.right()));
+  place.setHeight(std::max(place.height(), frame.top() + frame.bottom()));
+  view.Shell->setGeometry(place);
+}
+
+/// Moves a place into the desk, so that a window stored on a larger screen can be reached.
+QPoint fncReachable(QPoint at, QSize size) {
+  const QRect desk = fncDesk();
+  return {std::clamp(at.x(), desk.left(), std::max(desk.left(), desk.right() + 1 - size.width())),
+          std::clamp(at.y(), desk.top(), std::max(desk.top(), desk.bottom() + 1 - size.height()))};
+}
+
+void prcPlaceTop(WindowView& view) {
+  Window& window = *view.Source;
+  const QMargins frame = fncFrameOf(view);
+  const QSize inner =
+      window.FixedInner
+          ? QSize(fncPixels(window.ScaleWidth), fncPixels(window.ScaleHeight))
+          : QSize(fncPixels(window.Width) - frame.left() - frame.right(),
+                  fncPixels(window.Height) - frame.top() - frame.bottom());
+  if (window.Sizable || window.Kind == WindowKind::Frame) {
+    view.Shell->resize(inner.expandedTo(QSize(1, 1)));
+  } else {
+    view.Shell->setFixedSize(inner.expandedTo(QSize(1, 1)));
+  }
+  QPoint at(fncPixels(window.Left), fncPixels(window.Top));
+  if (window.Centred || window.Kind == WindowKind::Start) {
+    at = fncDesk().center() - QPoint(inner.width() / 2, inner.height() / 2);
+    window.Left = fncTwips(at.x());
+    window.Top = fncTwips(at.y());
+  } else if (window.Kind != WindowKind::Frame) {
+    at = fncReachable(at, inner);
+  }
+  view.Shell->move(at);
+}
+
+/// The largest place for the frame; where a window manager maximises it this is only the place it
+/// comes up at.
+void prcMaximise(WindowView& view) {
+  const QRect desk = fncDesk();
+  view.Shell->move(desk.topLeft());
+  view.Shell->resize(desk.size());
+}
+
+void prcPlaceWindow(WindowView& view) {
+  const Window& window = *view.Source;
+  const DrawnWindow& drawn = view.Drawn;
+  prcFollowInner(view);
+  const bool blnMoved = view.blnFirst || drawn.Left != window.Left || drawn.Top != window.Top ||
+                        drawn.Width != window.Width || drawn.Height != window.Height;
+  if (fncChild(view) != nullptr) {
+    if (blnMoved) {
+      prcPlaceChild(view);
+    }
+  } else if (window.Kind == WindowKind::Frame && window.Maximised) {
+    if (view.blnFirst) {
+      prcMaximise(view);
+    }
+  } else if (blnMoved) {
+    prcPlaceTop(view);
+  }
+}
+
+void prcShowTop(WindowView& view) {
+  const Window& window = *view.Source;
+  view.Shell->setWindowModality(view.blnModal ? Qt::ApplicationModal : Qt::NonModal);
+  const WindowView* frame = fncFrameView();
+  if (window.Kind == WindowKind::Dialog && frame != nullptr && frame->Shell->isVisible()) {
+    view.Shell->winId();
+    view.Shell->windowHandle()->setTransientParent(frame->Shell->windowHandle());
+  }
+  if (window.Kind == WindowKind::Frame && window.Maximised) {
+    view.Shell->showMaximized();
+  } else {
+    view.Shell->show();
+  }
+}
+
+void prcShowWindow(WindowView& view) {
+  const Window& window = *view.Source;
+  if (view.Drawn.Visible == window.Visible && !view.blnFirst) {
+    return;
+  }
+  if (!window.Visible) {
+    view.Shell->hide();
+    return;
+  }
+  if (fncChild(view) != nullptr) {
+    view.Shell->show();
+    view.Shell->raise();
+  } else {
+    prcShowTop(view);
+    if (window.Topmost) {
+      view.Shell->raise();
+    }
+  }
+  view.blnResized = true;
+  view.blnShown = window.Kind != WindowKind::Float;
+}
+
+/// Sets whether a window stays above others where it stands: nothing is hidden or moved for it.
+void prcKeepOnTop(WindowView& view) {
+  if (fncChild(view) != nullptr || view.Drawn.Topmost == view.Source->Topmost) {
+    return;
+  }
+  Qt::WindowFlags flags = view.Shell->windowFlags();
+  flags.setFlag(Qt::WindowStaysOnTopHint, view.Source->Topmost);
+  view.Shell->overrideWindowFlags(flags);
+  if (QWindow* handle = view.Shell->windowHandle(); handle != nullptr) {
+    handle->setFlags(flags);
+  }
+}
+
+void prcRaiseWindow(WindowView& view) {
+  if (view.Drawn.Raised == view.Source->Raised || view.blnFirst || !view.Source->Visible) {
+    return;
+  }
+  view.Shell->raise();
+}
+
+DrawnWindow fncDrawn(const Window& window) {
+  return {window.Caption,    window.Left,        window.Top,     window.Width,
+          window.Height,     window.ScaleWidth,  window.ScaleHeight, window.Visible,
+          window.Topmost,    window.BackColor,   window.Picture, window.Raised};
+}
+
+/// Writes the place that a window has on the screen into the model; what rounds to the same pixels
+/// stays as it is.
+void prcTakePlace(WindowView& view) {
+  Window& window = *view.Source;
+  const QRect outer =
+      fncChild(view) != nullptr ? view.Shell->geometry() : view.Shell->frameGeometry();
+  if (fncPixels(window.Left) != outer.left() || fncPixels(window.Top) != outer.top()) {
+    window.Left = fncTwips(outer.left());
+    window.Top = fncTwips(outer.top());
+  }
+  const QRect known = fncPixelRect(window.Left, window.Top, window.Width, window.Height);
+  if (!window.FixedInner && known.size() != outer.size()) {
+    window.Width = fncTwips(outer.width());
+    window.Height = fncTwips(outer.height());
+  }
+  prcFollowInner(view);
+  prcKeepInner(view);
+}
+
+}  // namespace
+
+void prcMakeWindow(WindowView& view) {
+  WindowView* frame = fncFrameView();
+  if (view.Source->Kind == WindowKind::Frame) {
+    prcMakeFrame(view);
+  } else if (view.Source->Kind == WindowKind::Child && frame != nullptr) {
+    prcMakeChild(view, *frame);
+  } else {
+    prcMakeTop(view);
+  }
+  view.Shell->setObjectName(QString::fromUtf8(view.Source->Name));
+  view.Ground->setAccessibleName(fncText(view.Source->Caption));
+}
+
+void prcDropWindow(WindowView& view) {
+  if (view.Shell == nullptr) {
+    return;
+  }
+  if (ChildShell* child = fncChild(view); child != nullptr) {
+    child->prcDetach();
+  }
+  view.Shell->hide();
+  view.Shell->deleteLater();
+}
+
+void prcSyncWindow(WindowView& view) {
+  Window& window = *view.Source;
+  if (view.blnFirst || view.Drawn.Caption != window.Caption) {
+    view.Shell->setWindowTitle(fncText(window.Caption));
+    view.Ground->setAccessibleName(fncText(window.Caption));
+    view.Shell->update();
+  }
+  prcPlaceWindow(view);
+  prcKeepInner(view);
+  if (view.Drawn.BackColor != window.BackColor || view.Drawn.Picture != window.Picture) {
+    view.Ground->update();
+  }
+  prcKeepOnTop(view);
+  prcShowWindow(view);
+  prcRaiseWindow(view);
+  if (window.Kind == WindowKind::Frame && window.Visible && window.Maximised) {
+    prcTakePlace(view);
+  }
+  prcKeepInner(view);
+  view.Drawn = fncDrawn(window);
+  view.blnFirst = false;
+}
+
+void prcWindowMoved(WindowView& view) {
+  Window* window = fncLive(view);
+  if (window == nullptr || fncSyncing() || !window->Visible) {
+    return;
+  }
+  if (fncChild(view) == nullptr) {
+    window->Maximised = view.Shell->isMaximized();
+  }
+  prcTakePlace(view);
+  view.Drawn = fncDrawn(*window);
+  if (view.blnResized) {
+    prcSyncAll();
+  }
+}
+
+void prcSetModal(WindowView& view, bool blnModal) {
+  if (view.blnModal == blnModal) {
+    return;
+  }
+  view.blnModal = blnModal;
+  if (view.Shell->isVisible()) {
+    view.Shell->hide();
+    prcShowTop(view);
+  }
+}
+
+void prcFollowActive() {
+  const Window* window = fncActiveWindow();
+  const WindowView* view = window != nullptr ? fncViewOf(*window) : nullptr;
+  if (view == nullptr || !view->Shell->isVisible()) {
+    return;
+  }
+  QWidget* target = view->Ground;
+  if (window->ActiveControl != nullptr && fncTakesFocus(*window->ActiveControl)) {
+    const ControlView* control = fncViewOf(*window->ActiveControl);
+    if (control != nullptr && control->Widget != nullptr && control->Widget->isVisible()) {
+      target = control->Widget;
+    }
+  }
+  if (target->window()->focusWidget() != target) {
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* edit = qobject_cast<EditView*>(target); edit != nullptr) {
+      edit->prcSelect();
+    }
+  }
+}
+
+void prcBringUp(Window& window) {
+  WindowView* view = fncViewOf(window);
+  if (view == nullptr || !view->Shell->isVisible()) {
+    return;
+  }
+  prcToFront(window);
+  if (fncChild(*view) != nullptr) {
+    view->Shell->raise();
+    view->Drawn.Raised = window.Raised;
+  } else {
+    view->Shell->raise();
+    view->Shell->activateWindow();
+  }
+  if (const Window* before = fncActiveWindow(); before != nullptr) {
+    if (const WindowView* other = fncViewOf(*before); other != nullptr) {
+      other->Shell->update();
+    }
+  }
+  view->Shell->update();
+  prcActivate(window);
+}
+
+Window* fncNextChild() {
+  std::vector<Window*> children;
+  for (Window* window : fncWindows()) {
+    if (window->Kind == WindowKind::Child && window->Visible) {
+      children.push_back(window);
+    }
+  }
+  if (children.empty()) {
+    return nullptr;
+  }
+  const auto at = std::ranges::find(children, fncActiveWindow());
+  const auto place = at == children.end() ? 0 : static_cast<std::size_t>(at - children.begin()) + 1;
+  Window* next = children[place % children.size()];
+  return next == fncActiveWindow() ? nullptr : next;
+}
+
+}  // namespace qt

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/qt/Screen.h"
+
+// The widgets that stand for windows, and where windows lie.
+
+namespace qt {
+
+void prcMakeWindow(WindowView& view);
+void prcDropWindow(WindowView& view);
+
+/// Brings a window's place, looks and visibility to what the model says, and its inner size into
+/// the model.
+void prcSyncWindow(WindowView& view);
+
+/// The user or the window manager has moved or sized a window: its place goes into the model, and
+/// its resize handler runs if it is due.
+void prcWindowMoved(WindowView& view);
+
+/// Makes a window modal, or not, from the next time it comes up.
+void prcSetModal(WindowView& view, bool blnModal);
+
+/// Lets the keyboard focus follow the model: the active control of the active window.
+void prcFollowActive();
+
+/// Makes the window the one that has the input, on the screen and in the model.
+void prcBringUp(Window& window);
+
+/// The next visible child of the frame behind the active one, in the order of their loading; none
+/// if there is no other.
+Window* fncNextChild();
+
+}  // namespace qt

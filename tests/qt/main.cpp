@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "platform/qt/Session.h"
+
+// The window tests bring up one application object for all of them; each test resets what it shows.
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Velmora"));
+  QApplication application(argc, argv);
+  qt::prcBringUpPlatform();
+  const int result = RUN_ALL_TESTS();
+  qt::prcTakeDownPlatform();
+  return result;
+}
