@@ -142,7 +142,8 @@ RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), vi
 
 void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   const QSignalBlocker quiet(this);
-  if (blnFirst || view_->Drawn.Face != control.Face || view_->Drawn.BackColor != control.BackColor) {
+  if (blnFirst || view_->Drawn.Face != control.Face ||
+      view_->Drawn.BackColor != control.BackColor) {
     setFont(fncFont(control.Face));
     prcColour(*this, control);
   }

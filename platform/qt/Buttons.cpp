@@ -89,8 +89,7 @@ void ToolView::paintEvent(QPaintEvent* /*event*/) {
   const bool blnCaption = toolButtonStyle() == Qt::ToolButtonTextBesideIcon && !text().isEmpty();
   const int left = blnCaption ? face.left() + gap : face.center().x() + 1 - picture.width() / 2;
   const QRect place(QPoint(left, face.center().y() + 1 - picture.height() / 2), picture);
-  icon().paint(&painter, place, Qt::AlignCenter,
-               isEnabled() ? QIcon::Normal : QIcon::Disabled);
+  icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
   if (blnCaption) {
     painter.setPen(QColor::fromRgb(isEnabled() ? rgbInk : rgbFaded));
     painter.drawText(face.adjusted(2 * gap + picture.width() - 1, 0, 0, 0),

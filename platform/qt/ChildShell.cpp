@@ -26,8 +26,8 @@ Qt::CursorShape fncEdgeCursor(Qt::Edges edges) {
   const bool blnSide = (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0;
   const bool blnEnd = (edges & (Qt::TopEdge | Qt::BottomEdge)) != 0;
   if (blnSide && blnEnd) {
-    const bool blnFalling = edges == (Qt::LeftEdge | Qt::TopEdge) ||
-                            edges == (Qt::RightEdge | Qt::BottomEdge);
+    const bool blnFalling =
+        edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
     return blnFalling ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
   }
   if (blnSide) {
@@ -188,9 +188,7 @@ void ChildShell::prcDragTo(QPoint global) {
   }
 }
 
-void ChildShell::mouseReleaseEvent(QMouseEvent* /*event*/) {
-  blnDragged_ = false;
-}
+void ChildShell::mouseReleaseEvent(QMouseEvent* /*event*/) { blnDragged_ = false; }
 
 void ChildShell::leaveEvent(QEvent* /*event*/) {
   if (!blnDragged_) {

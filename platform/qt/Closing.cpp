@@ -8,10 +8,11 @@
 #include "platform/qt/Loop.h"
 
 #if defined(Q_OS_UNIX)
-#include <QSocketNotifier>
-#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
+
+#include <QSocketNotifier>
+#include <csignal>
 #endif
 
 namespace qt {

@@ -121,9 +121,7 @@ void prcUpdateChecked(ControlView& view, const Control& next, bool /*blnFirst*/)
   button->setChecked(next.Value != 0);
 }
 
-QWidget* fncMakeEdit(ControlView& view, QWidget* parent) {
-  return new EditView(view, parent);
-}
+QWidget* fncMakeEdit(ControlView& view, QWidget* parent) { return new EditView(view, parent); }
 
 void prcUpdateEdit(ControlView& view, const Control& next, bool blnFirst) {
   auto* edit = static_cast<EditView*>(view.Widget.data());
@@ -133,17 +131,13 @@ void prcUpdateEdit(ControlView& view, const Control& next, bool blnFirst) {
   }
 }
 
-QWidget* fncMakeRows(ControlView& view, QWidget* parent) {
-  return new RowsView(view, parent);
-}
+QWidget* fncMakeRows(ControlView& view, QWidget* parent) { return new RowsView(view, parent); }
 
 void prcUpdateRows(ControlView& view, const Control& next, bool blnFirst) {
   static_cast<RowsView*>(view.Widget.data())->prcUpdate(next, blnFirst);
 }
 
-int fncWhole(double value) {
-  return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9)));
-}
+int fncWhole(double value) { return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9))); }
 
 QWidget* fncMakeProgress(ControlView& /*view*/, QWidget* parent) {
   return new ProgressView(parent);
@@ -263,9 +257,7 @@ constexpr KindRow kndRows[] = {
     {ControlKind::ToolButton, fncMakeToolButton, prcUpdateToolButton},
 };
 
-const KindRow& fncRow(ControlKind kind) {
-  return kndRows[static_cast<std::size_t>(kind)];
-}
+const KindRow& fncRow(ControlKind kind) { return kndRows[static_cast<std::size_t>(kind)]; }
 
 bool fncPlacedByLayout(ControlKind kind) {
   return kind == ControlKind::Toolbar || kind == ControlKind::ToolButton;
@@ -418,7 +410,8 @@ QString fncSpokenName(const Control& control) {
 
 QString fncObjectName(const Control& control) {
   const QString name = QString::fromUtf8(control.Name);
-  return control.Index < 0 ? name : QStringLiteral("%1(%2)").arg(name).arg(std::int16_t{control.Index});
+  return control.Index < 0 ? name
+                           : QStringLiteral("%1(%2)").arg(name).arg(std::int16_t{control.Index});
 }
 
 void prcKeyClick(ControlView& view) {

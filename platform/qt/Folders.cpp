@@ -44,8 +44,8 @@ std::string DataFolder() {
 std::string HelpFolder() {
   const QString own = QCoreApplication::applicationDirPath();
   const QString shared = QDir::cleanPath(own + QStringLiteral("/../share/velmora"));
-  const bool blnInstalled = !QFileInfo::exists(own + QStringLiteral("/VELMORA.HLP")) &&
-                            QFileInfo(shared).isDir();
+  const bool blnInstalled =
+      !QFileInfo::exists(own + QStringLiteral("/VELMORA.HLP")) && QFileInfo(shared).isDir();
   return QDir::toNativeSeparators(blnInstalled ? shared : own).toStdString();
 }
 

@@ -106,7 +106,6 @@ bool fncKeepsSelection(const Control& control, bool blnHadFocus) {
   return !blnHadFocus && control.SelLength > 0;
 }
 
-
 }  // namespace
 
 int fncShift(Qt::KeyboardModifiers modifiers) {
@@ -115,9 +114,7 @@ int fncShift(Qt::KeyboardModifiers modifiers) {
          (modifiers.testFlag(Qt::AltModifier) ? intAltMask : 0);
 }
 
-InputRouter::InputRouter(QObject* parent) : QObject(parent) {
-  qApp->installEventFilter(this);
-}
+InputRouter::InputRouter(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
 
 bool InputRouter::eventFilter(QObject* object, QEvent* event) {
   if (object->isWidgetType()) {
@@ -172,8 +169,7 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
     case QEvent::WindowActivate:
       if (WindowView* view = fncWindowViewOf(&widget);
           view != nullptr && view->Shell == &widget && !fncSyncing()) {
-        Window* window =
-            view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
+        Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
         if (window != nullptr) {
           prcActivate(*window);
         }
@@ -249,8 +245,8 @@ bool InputRouter::fncHeldIsHidden() const {
 
 bool InputRouter::fncMovedOnWindow(const QMouseEvent& event) {
   if (Control* control = fncHeldControl(); control != nullptr) {
-    const Mouse mouse = fncMouse(*held_.Widget, event.globalPosition(),
-                                 fncButtons(event.buttons()), fncShift(event.modifiers()));
+    const Mouse mouse = fncMouse(*held_.Widget, event.globalPosition(), fncButtons(event.buttons()),
+                                 fncShift(event.modifiers()));
     prcServe([&] { prcUserMove(*control, mouse); });
   }
   return true;
@@ -267,9 +263,8 @@ bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
   const bool blnNative = held_.blnNative;
   fncMovedOnWindow(event);
   if (held_.Widget != nullptr && held_.Button == Qt::LeftButton && !blnNative) {
-    prcShowDown(held_.Widget,
-                held_.Widget->rect().contains(
-                    held_.Widget->mapFromGlobal(event.globalPosition()).toPoint()));
+    prcShowDown(held_.Widget, held_.Widget->rect().contains(
+                                  held_.Widget->mapFromGlobal(event.globalPosition()).toPoint()));
   }
   return !blnNative;
 }

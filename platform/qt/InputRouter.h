@@ -54,8 +54,8 @@ class InputRouter : public QObject {
   Qt::MouseButton swallowed_ = Qt::NoButton;  ///< A void click: nothing of it passes.
 };
 
-/// A key goes down in the widget that has the focus. Returns whether that was all of it, so that the
-/// widget gets nothing.
+/// A key goes down in the widget that has the focus. Returns whether that was all of it, so that
+/// the widget gets nothing.
 bool fncKeyPressed(QWidget& widget, const QKeyEvent& event);
 
 /// The bits of the Shift argument.

@@ -22,8 +22,8 @@ struct NameRow {
 
 // Keys whose name in the model is not the toolkit's own.
 constexpr NameRow nmeRows[] = {
-    {Qt::Key_Return, "Enter"},    {Qt::Key_Enter, "Enter"},       {Qt::Key_Escape, "Escape"},
-    {Qt::Key_PageUp, "PageUp"},   {Qt::Key_PageDown, "PageDown"}, {Qt::Key_Backspace, "Backspace"},
+    {Qt::Key_Return, "Enter"},  {Qt::Key_Enter, "Enter"},       {Qt::Key_Escape, "Escape"},
+    {Qt::Key_PageUp, "PageUp"}, {Qt::Key_PageDown, "PageDown"}, {Qt::Key_Backspace, "Backspace"},
     {Qt::Key_Delete, "Delete"},
 };
 
@@ -37,8 +37,7 @@ std::string fncKeyName(const QKeyEvent& event) {
     return event.text().toStdString();
   }
   const auto* const row = std::ranges::find(nmeRows, event.key(), &NameRow::Key);
-  return row != std::end(nmeRows) ? row->Name
-                                  : QKeySequence(event.key()).toString().toStdString();
+  return row != std::end(nmeRows) ? row->Name : QKeySequence(event.key()).toString().toStdString();
 }
 
 bool fncModifierAlone(int key) {

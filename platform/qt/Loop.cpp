@@ -13,9 +13,7 @@ namespace {
 bool blnEnded = false;
 }
 
-bool fncEnded() {
-  return blnEnded;
-}
+bool fncEnded() { return blnEnded; }
 
 void prcThrowIfEnded() {
   if (blnEnded) {
@@ -28,9 +26,7 @@ void prcNoteEnd() {
   QCoreApplication::exit(0);
 }
 
-void prcForgetEnd() {
-  blnEnded = false;
-}
+void prcForgetEnd() { blnEnded = false; }
 
 void prcServe(const std::function<void()>& handlers) {
   if (blnEnded) {

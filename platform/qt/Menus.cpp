@@ -19,7 +19,8 @@ namespace qt {
 
 namespace {
 
-constexpr double dblLargeBar = 540;  // Twips; bars as high as this have large pictures and captions.
+constexpr double dblLargeBar =
+    540;  // Twips; bars as high as this have large pictures and captions.
 
 /// The menu that an entry belongs to; none stands for the menu bar itself.
 QMenu* fncMenuOf(ControlView& view) {
@@ -70,8 +71,8 @@ void prcMakeMenu(ControlView& view) {
   }
   QMenu* holder = fncMenuOf(view);
   if (fncHasEntries(view)) {
-    view.Helper = holder == nullptr ? window->menuBar()->addMenu(QString())
-                                    : holder->addMenu(QString());
+    view.Helper =
+        holder == nullptr ? window->menuBar()->addMenu(QString()) : holder->addMenu(QString());
   } else {
     auto* action = new QAction(window);
     action->setMenuRole(QAction::NoRole);
@@ -149,9 +150,9 @@ void prcUpdateTool(ControlView& view, const Control& control) {
   auto* bar = qobject_cast<QToolBar*>(button->parentWidget());
   const int side = bar != nullptr ? bar->iconSize().width() : fncScaled(18);
   const int height = bar != nullptr ? bar->height() - fncScaled(4) : side + fncScaled(8);
-  const bool blnCaption =
-      bar != nullptr && bar->toolButtonStyle() == Qt::ToolButtonTextBesideIcon &&
-      !control.Text.empty();
+  const bool blnCaption = bar != nullptr &&
+                          bar->toolButtonStyle() == Qt::ToolButtonTextBesideIcon &&
+                          !control.Text.empty();
   button->setIconSize(QSize(side, side));
   if (button->icon().isNull()) {
     button->setIcon(fncIcon(control.Picture, side));

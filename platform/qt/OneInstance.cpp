@@ -22,20 +22,17 @@ constexpr int intPatience = 2000;  // Milliseconds for the other process to answ
 std::unique_ptr<QLockFile> lckOwn;
 std::unique_ptr<QLocalServer> srvOwn;
 
-/// The user's own folder for things that live no longer than the session.
+/// The user's own folder; the lock in it belongs to whoever runs the program there first.
 QString fncRunFolder() {
-  QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-  if (folder.isEmpty()) {
-    folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  }
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
   QDir().mkpath(folder);
   return folder;
 }
 
 /// A name that two users never share, whatever folder the system keeps such names in.
 QString fncServerName() {
-  const QByteArray home = QCryptographicHash::hash(
-      (QDir::homePath() + fncRunFolder()).toUtf8(), QCryptographicHash::Sha1);
+  const QByteArray home = QCryptographicHash::hash((QDir::homePath() + fncRunFolder()).toUtf8(),
+                                                   QCryptographicHash::Sha1);
   return QStringLiteral("velmora-") + QString::fromLatin1(home.toHex().left(16));
 }
 

@@ -110,8 +110,7 @@ void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) 
   if (control.Dress == Look::Shadow) {
     const int margin = fncShadowMargin();
     const QSize size = rect.size() - QSize(2 * margin, 2 * margin);
-    painter.drawPixmap(rect.topLeft(),
-                       fncShadow(size, painter.device()->devicePixelRatioF()));
+    painter.drawPixmap(rect.topLeft(), fncShadow(size, painter.device()->devicePixelRatioF()));
     return;
   }
   const int width = control.BorderColor.Clear ? 0 : fncScaled(control.BorderWidth);
@@ -212,8 +211,8 @@ QFont fncFittedFont(const Control& control, QSize size) {
   const QString text = fncText(control.Text);
   for (int pixels = whole; pixels > least; --pixels) {
     font.setPixelSize(pixels);
-    const QRect need = QFontMetrics(font).boundingRect(
-        rect, fncTextFlags(control, rect.size(), font), text);
+    const QRect need =
+        QFontMetrics(font).boundingRect(rect, fncTextFlags(control, rect.size(), font), text);
     if (need.width() <= rect.width() && need.height() <= rect.height() + fncScaled(1)) {
       break;
     }
@@ -250,9 +249,7 @@ PaintedView::PaintedView(ControlView& view, QWidget* parent) : QWidget(parent), 
   setAttribute(Qt::WA_StaticContents, fncCutsPicture(view.Drawn));
 }
 
-void PaintedView::prcDetach() {
-  view_ = nullptr;
-}
+void PaintedView::prcDetach() { view_ = nullptr; }
 
 void PaintedView::paintEvent(QPaintEvent* /*event*/) {
   if (view_ == nullptr) {

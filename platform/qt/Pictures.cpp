@@ -30,8 +30,9 @@ QString fncFile(int number) {
     return QStringLiteral(":/cards/%1.svg").arg(number, 2, 10, QLatin1Char('0'));
   }
   const auto* const row = std::ranges::find(picFiles, number, &PictureFile::Number);
-  return row == std::end(picFiles) ? QString()
-                                   : QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(row->File));
+  return row == std::end(picFiles)
+             ? QString()
+             : QStringLiteral(":/pictures/%1.svg").arg(QLatin1String(row->File));
 }
 
 QPixmap fncDraw(int number, QSize size, double ratio) {
@@ -91,13 +92,9 @@ QCursor fncHand(int number, int hotX, int hotY) {
 
 }  // namespace
 
-bool fncIsCard(int number) {
-  return number >= 1 && number <= picCardBack;
-}
+bool fncIsCard(int number) { return number >= 1 && number <= picCardBack; }
 
-QSize fncCardSize() {
-  return {fncPixels(intCardWidthTwips), fncPixels(intCardHeightTwips)};
-}
+QSize fncCardSize() { return {fncPixels(intCardWidthTwips), fncPixels(intCardHeightTwips)}; }
 
 const QPixmap& fncPicture(int number, QSize size, double ratio) {
   return fncKept(fncKey(number, size, ratio), fncDraw, size, ratio);
@@ -120,9 +117,7 @@ const QPixmap& fncShadow(QSize size, double ratio) {
   return fncKept(fncKey(intShadowNumber, size, ratio), draw, size, ratio);
 }
 
-int fncShadowMargin() {
-  return fncScaled(5);
-}
+int fncShadowMargin() { return fncScaled(5); }
 
 QIcon fncIcon(int number, int pixels) {
   return {fncPicture(number, QSize(pixels, pixels), qGuiApp->devicePixelRatio())};
@@ -146,8 +141,6 @@ QCursor fncCursor(Pointer pointer) {
   return Qt::ArrowCursor;
 }
 
-void prcForgetPictures() {
-  pixKept.clear();
-}
+void prcForgetPictures() { pixKept.clear(); }
 
 }  // namespace qt

@@ -133,8 +133,7 @@ void RunModal(Window& window) {
     qt::prcSetModal(*view, true);
     qt::prcBringUp(window);
   }
-  qt::prcServeUntil(
-      [&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
+  qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
   qt::prcSyncAll();
   if (qt::WindowView* view = qt::fncViewOf(window); view != nullptr) {
     qt::prcSetModal(*view, false);

@@ -14,22 +14,16 @@ double fncFittingScale(QSizeF physical, double ratio) {
   return std::max(1.0, std::floor(fits * 4) / 4) / ratio;
 }
 
-double fncScale() {
-  return dblScale;
-}
+double fncScale() { return dblScale; }
 
-void prcSetScale(double scale) {
-  dblScale = scale;
-}
+void prcSetScale(double scale) { dblScale = scale; }
 
 int fncPixels(double twips) {
   // Far places, such as a drawing area of many thousand twips, stay within what the toolkit takes.
   return static_cast<int>(std::lround(std::clamp(twips / 15 * dblScale, -1e6, 1e6)));
 }
 
-double fncTwips(double pixels) {
-  return pixels * 15 / dblScale;
-}
+double fncTwips(double pixels) { return pixels * 15 / dblScale; }
 
 QRect fncPixelRect(double left, double top, double width, double height) {
   const int x = fncPixels(left);

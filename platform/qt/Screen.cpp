@@ -281,13 +281,9 @@ WindowView* fncWindowViewOf(const QWidget* widget) {
   return nullptr;
 }
 
-void prcNoteWidget(const QWidget* widget, ControlView* view) {
-  vwByWidget.insert(widget, view);
-}
+void prcNoteWidget(const QWidget* widget, ControlView* view) { vwByWidget.insert(widget, view); }
 
-void prcForgetWidget(const QWidget* widget) {
-  vwByWidget.remove(widget);
-}
+void prcForgetWidget(const QWidget* widget) { vwByWidget.remove(widget); }
 
 Control* fncLive(const ControlView& view) {
   if (fncLive(view.Home) == nullptr) {
@@ -302,9 +298,7 @@ Window* fncLive(const WindowView& view) {
   return fncLoaded(view.Source, view.Handle) ? view.Source : nullptr;
 }
 
-Window* fncActiveWindow() {
-  return wndActive;
-}
+Window* fncActiveWindow() { return wndActive; }
 
 void prcActivate(Window& window) {
   if (wndActive == &window || std::ranges::find(fncWindows(), &window) == fncWindows().end()) {
@@ -339,8 +333,6 @@ WindowView* fncFrameView() {
   return frame == vwWindows.end() ? nullptr : frame->get();
 }
 
-bool fncSyncing() {
-  return blnSyncing;
-}
+bool fncSyncing() { return blnSyncing; }
 
 }  // namespace qt

@@ -27,8 +27,8 @@ struct ControlView {
   WindowView& Home;
   Control* Source;
   Control Drawn;
-  QPointer<QWidget> Widget;   ///< None for timers and menu entries.
-  QPointer<QObject> Helper;   ///< The timer, menu, or action that stands for the control.
+  QPointer<QWidget> Widget;  ///< None for timers and menu entries.
+  QPointer<QObject> Helper;  ///< The timer, menu, or action that stands for the control.
 };
 
 /// What a window's frame showed last.
@@ -57,9 +57,9 @@ struct WindowView {
   DrawnWindow Drawn;
   bool blnModal = false;
   bool blnFirst = true;
-  bool blnResized = false;          ///< The inner size has changed; its handler is due.
-  bool blnShown = false;            ///< It has come up and is to get the input.
-  Control* DrawnActive = nullptr;   ///< Compared only.
+  bool blnResized = false;         ///< The inner size has changed; its handler is due.
+  bool blnShown = false;           ///< It has come up and is to get the input.
+  Control* DrawnActive = nullptr;  ///< Compared only.
   std::vector<std::unique_ptr<ControlView>> Controls;  ///< In the order of the stack.
   std::unordered_map<const Control*, ControlView*> ByControl;
 };

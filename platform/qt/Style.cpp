@@ -154,9 +154,7 @@ QFont fncFont(const Type& face) {
   return font;
 }
 
-QFont fncPlainFont() {
-  return fncFont({sngPlainSize});
-}
+QFont fncPlainFont() { return fncFont({sngPlainSize}); }
 
 void prcDressApplication() {
   QApplication::setStyle(new Dress);

@@ -19,9 +19,7 @@ namespace qt {
 
 namespace {
 
-ChildShell* fncChild(const WindowView& view) {
-  return qobject_cast<ChildShell*>(view.Shell);
-}
+ChildShell* fncChild(const WindowView& view) { return qobject_cast<ChildShell*>(view.Shell); }
 
 QRect fncDesk() {
   const QScreen* screen = QGuiApplication::primaryScreen();
@@ -124,11 +122,10 @@ QPoint fncReachable(QPoint at, QSize size) {
 void prcPlaceTop(WindowView& view) {
   Window& window = *view.Source;
   const QMargins frame = fncFrameOf(view);
-  const QSize inner =
-      window.FixedInner
-          ? QSize(fncPixels(window.ScaleWidth), fncPixels(window.ScaleHeight))
-          : QSize(fncPixels(window.Width) - frame.left() - frame.right(),
-                  fncPixels(window.Height) - frame.top() - frame.bottom());
+  const QSize inner = window.FixedInner
+                          ? QSize(fncPixels(window.ScaleWidth), fncPixels(window.ScaleHeight))
+                          : QSize(fncPixels(window.Width) - frame.left() - frame.right(),
+                                  fncPixels(window.Height) - frame.top() - frame.bottom());
   if (window.Sizable || window.Kind == WindowKind::Frame) {
     view.Shell->resize(inner.expandedTo(QSize(1, 1)));
   } else {
@@ -230,9 +227,9 @@ void prcRaiseWindow(WindowView& view) {
 }
 
 DrawnWindow fncDrawn(const Window& window) {
-  return {window.Caption,    window.Left,        window.Top,     window.Width,
-          window.Height,     window.ScaleWidth,  window.ScaleHeight, window.Visible,
-          window.Topmost,    window.BackColor,   window.Picture, window.Raised};
+  return {window.Caption, window.Left,       window.Top,         window.Width,
+          window.Height,  window.ScaleWidth, window.ScaleHeight, window.Visible,
+          window.Topmost, window.BackColor,  window.Picture,     window.Raised};
 }
 
 /// Writes the place that a window has on the screen into the model; what rounds to the same pixels

@@ -1,5 +1,5 @@
-#include "platform/headless/Headless.h"
 #include "platform/UserInput.h"
+#include "platform/headless/Headless.h"
 #include "tests/conformance/Adapter.h"
 
 namespace user {
@@ -31,8 +31,7 @@ void Answer(platform::Answer answer) { headless::Answer(answer); }
 const std::vector<Box>& Boxes() {
   boxes.clear();
   for (const headless::Box& box : headless::Boxes()) {
-    boxes.push_back(
-        {box.Text, box.Title, box.Icon, box.Buttons == platform::Buttons::OkCancel});
+    boxes.push_back({box.Text, box.Title, box.Icon, box.Buttons == platform::Buttons::OkCancel});
   }
   return boxes;
 }

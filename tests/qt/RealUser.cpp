@@ -132,7 +132,7 @@ namespace user {
 
 void Reset() {
   qt::prcForgetEnd();
-  for (const std::vector<Window*> loaded = fncWindows(); Window* window : loaded) {
+  for (const std::vector<Window*> loaded = fncWindows(); Window * window : loaded) {
     prcForgetWindow(*window);
   }
   qt::prcSyncAll();
@@ -221,22 +221,14 @@ void Close(Window& window) {
   }
 }
 
-void WhileModal(std::function<void()> act) {
-  actModal.push_back(std::move(act));
-}
-void Answer(platform::Answer answer) {
-  ansNext.push_back(answer);
-}
-const std::vector<Box>& Boxes() {
-  return boxShown;
-}
+void WhileModal(std::function<void()> act) { actModal.push_back(std::move(act)); }
+void Answer(platform::Answer answer) { ansNext.push_back(answer); }
+const std::vector<Box>& Boxes() { return boxShown; }
 
 void AtNextTurn(std::function<void()> handler) {
   QTimer::singleShot(0, [handler = std::move(handler)] { qt::prcServe(handler); });
 }
 
-bool Ended() {
-  return qt::fncEnded();
-}
+bool Ended() { return qt::fncEnded(); }
 
 }  // namespace user
