@@ -156,6 +156,21 @@ TEST_F(MarkCard, SecondShoeMakesItsTotalsAnew) {
   }
 }
 
+TEST_F(MarkCard, CardClosedAndOpenedWithinAShoeGoesOnInItsColumn) {
+  fncOpen();
+  for (const char result : {'B', 'P', 'B'}) {
+    prcHand(result, Integer(1));
+    SetCardView(0);
+  }
+  fncUnload(MarkCards[0].Form);
+  MarkCardWindow& form = fncOpen();
+  prcHand('T', Integer(1));
+  SetCardView(0);
+  EXPECT_EQ(form.lblTotal.at(2).Text, "4");
+  EXPECT_EQ(form.shpTBP.at(3).Left, 60 + 2 * 345);
+  EXPECT_TRUE(headless::Boxes().empty());
+}
+
 TEST_F(MarkCard, ViewFollowsTheNewestMarkSideways) {
   MarkCardWindow& form = fncOpen(3000);
   prcDeal("BPBPBPB");  // The edge of column 6 is at 2415, inside of 3000 - 225.

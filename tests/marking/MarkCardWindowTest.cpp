@@ -242,6 +242,8 @@ TEST_F(AutomaticDeal, MarksEveryCardThatShowsTheShoe) {
   EXPECT_EQ(intHandsDealt[0], 1);
   EXPECT_EQ(intRun[4], intRun[0]);
   EXPECT_EQ(intTieRun[4], intTieRun[0]);
+  EXPECT_TRUE(blnShuffled[0]);
+  EXPECT_FALSE(blnShuffled[4]) << "a card that shows another's shoe has none of its own to deal";
 }
 
 TEST_F(AutomaticDeal, CardClosedInThePauseDealsNothing) {

@@ -87,6 +87,7 @@ TEST_F(Placement, ScoreShowsOnceItHasLeftZeroAndThenAlways) {
       {'B', std::nullopt, Integer(-2), true}, {'B', Integer(2), Integer(0), false},
       {'T', std::nullopt, Integer(0), false}, {'P', Integer(0), Integer(0), true},
   };
+  intLastTotalColumn[0] = 1;  // From the shoe before, whose labels are gone.
   for (std::size_t i = 0; i < hands.size(); ++i) {
     prcHand(hands[i].Result, hands[i].Units);
     const Mark mark = fncPlaceMark(0);
