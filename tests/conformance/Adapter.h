@@ -27,7 +27,8 @@ void Wait(std::uint32_t milliseconds);
 /// Brings the screen up to date with the model.
 void Settle();
 
-bool Press(Control& control, float x, float y, int button = intLeftButton);
+/// The press may be refused; what the control's handlers saw tells.
+void Press(Control& control, float x, float y, int button = intLeftButton);
 void Drag(Control& control, float x, float y);
 void Release(Control& control, float x, float y, int button = intLeftButton);
 void Click(Control& control, int button = intLeftButton);

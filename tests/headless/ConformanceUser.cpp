@@ -1,4 +1,3 @@
-#include "platform/UserInput.h"
 #include "platform/headless/Headless.h"
 #include "tests/conformance/Adapter.h"
 
@@ -12,8 +11,8 @@ void Reset() { headless::Reset({}); }
 void Wait(std::uint32_t milliseconds) { headless::Wait(milliseconds); }
 void Settle() {}
 
-bool Press(Control& control, float x, float y, int button) {
-  return headless::Press(control, x, y, button);
+void Press(Control& control, float x, float y, int button) {
+  headless::Press(control, x, y, button);
 }
 void Drag(Control& control, float x, float y) { headless::Drag(control, x, y); }
 void Release(Control& control, float x, float y, int /*button*/) {

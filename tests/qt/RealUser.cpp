@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -161,11 +162,9 @@ void Settle() {
   Wait(2);
 }
 
-bool Press(Control& control, float x, float y, int button) {
+void Press(Control& control, float x, float y, int button) {
   Settle();
-  const Control* before = control.Form->ActiveControl;
   QTest::mousePress(&fncWindow(control), fncButton(button), {}, fncInWindow(control, x, y));
-  return before != control.Form->ActiveControl;
 }
 
 void Drag(Control& control, float x, float y) {
