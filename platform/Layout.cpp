@@ -17,8 +17,7 @@ void prcPlace(Window& window, const Place& row) {
 }
 
 void prcLayOut(Window& window, std::span<const Place> rows) {
-  window.Controls.clear();
-  window.ActiveControl = nullptr;
+  prcClearControls(window);
   for (const Place& row : rows) {
     prcPlace(window, row);
   }

@@ -43,6 +43,15 @@ void prcAddControl(Window& window, Control& control) {
   control.Form = &window;
   control.Serial = ++lngLastSerial;
   window.Controls.push_back(&control);
+  if (control.Kind == ControlKind::Timer) {
+    window.Timers.push_back(&control);
+  }
+}
+
+void prcClearControls(Window& window) {
+  window.Controls.clear();
+  window.Timers.clear();
+  window.ActiveControl = nullptr;
 }
 
 void prcRemoveControl(Control& control) {
@@ -51,6 +60,7 @@ void prcRemoveControl(Control& control) {
     window.ActiveControl = nullptr;
   }
   std::erase(window.Controls, &control);
+  std::erase(window.Timers, &control);
 }
 
 void prcControlToFront(Control& control) {

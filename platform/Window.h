@@ -59,6 +59,8 @@ struct Window {
   Long hWnd = 0;             ///< 0 while the window is not loaded; every load gives a new one.
   std::uint32_t Raised = 0;  ///< Order in the stack: the highest is in front.
   std::vector<Control*> Controls;  ///< The stack, lowest first.
+  std::vector<Control*>
+      Timers;  ///< Those of them that are timers, so that a turn need not look at all.
   Control* ActiveControl = nullptr;
 };
 
@@ -68,6 +70,9 @@ const std::vector<Window*>& fncWindows();
 /// Gives a control its place on top of a window's stack and its serial. The window must outlive the
 /// control's stay.
 void prcAddControl(Window& window, Control& control);
+
+/// Empties a window's stack; the focus goes without an event.
+void prcClearControls(Window& window);
 
 /// Takes a control out of its window; the focus leaves it without an event.
 void prcRemoveControl(Control& control);

@@ -424,8 +424,7 @@ void prcLayFlightAndTimer() {
 }  // namespace
 
 void prcLayOutBaccTable() {
-  BaccTable.Form.Controls.clear();
-  BaccTable.Form.ActiveControl = nullptr;
+  prcClearControls(BaccTable.Form);
   prcLayGround();
   prcLayShoe();
   prcLaySeat(0);

@@ -49,36 +49,26 @@ void prcRun(const std::function<void()>& event) {
   prcThrowIfEnded();
 }
 
-std::vector<Control*> fncRunningTimers() {
-  std::vector<Control*> timers;
-  for (Window* window : fncWindows()) {
-    for (Control* control : window->Controls) {
-      if (control->Kind == ControlKind::Timer && control->Enabled && control->Interval > 0) {
-        timers.push_back(control);
-      }
-    }
-  }
-  return timers;
-}
-
 /// Gives each running timer its next tick and forgets those that have stopped. Returns the first
 /// one due.
 Control* fncFirstTimer() {
-  const std::vector<Control*> timers = fncRunningTimers();
-  std::map<std::uint32_t, std::uint64_t> due;
   Control* first = nullptr;
-  for (Control* timer : timers) {
-    const auto known = state.TimerDue.find(timer->Serial);
-    const std::uint64_t tick =
-        known != state.TimerDue.end()
-            ? known->second
-            : state.Clock + static_cast<std::uint64_t>(std::int32_t{timer->Interval});
-    due[timer->Serial] = tick;
-    if (first == nullptr || tick < due[first->Serial]) {
-      first = timer;
+  std::uint64_t firstDue = 0;
+  for (const Window* window : fncWindows()) {
+    for (Control* timer : window->Timers) {
+      if (!timer->Enabled || timer->Interval <= 0) {
+        state.TimerDue.erase(timer->Serial);
+        continue;
+      }
+      const auto interval = static_cast<std::uint64_t>(std::int32_t{timer->Interval});
+      const std::uint64_t due =
+          state.TimerDue.try_emplace(timer->Serial, state.Clock + interval).first->second;
+      if (first == nullptr || due < firstDue) {
+        first = timer;
+        firstDue = due;
+      }
     }
   }
-  state.TimerDue = due;
   return first;
 }
 

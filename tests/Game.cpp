@@ -1,0 +1,128 @@
+#include "tests/Game.h"
+
+#include <filesystem>
+#include <stdexcept>
+
+#include "marking/MarkState.h"
+#include "platform/Procedure.h"
+#include "platform/ProfileFile.h"
+#include "platform/Texts.h"
+#include "platform/UserInput.h"
+#include "shell/Program.h"
+
+namespace {
+
+/// Lets time pass until the shuffle or hand is over, at most this long on the virtual clock.
+constexpr std::uint32_t lngLongestHand = 120'000;
+
+void prcWaitUntilIdle() {
+  const std::uint32_t start = headless::Now();
+  while (blnBusy && !headless::Ended() && headless::Now() - start < lngLongestHand) {
+    headless::Wait(100);
+  }
+}
+
+void prcSwapIn(int position, int value) {
+  SlotRow& order = intShoeCards[intShoeNumber];
+  for (int behind = position; behind <= intLastCard[intShoeNumber]; ++behind) {
+    if (intCardValue[intShoeNumber][order[behind]] == value) {
+      std::swap(order[position], order[behind]);
+      return;
+    }
+  }
+  throw std::logic_error("the shoe holds no more cards of that value");
+}
+
+}  // namespace
+
+TestFolder::TestFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "velmora-test-XXXXXX").string();
+  path_ = mkdtemp(name.data());
+}
+
+TestFolder::~TestFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+void prcFreshGame(const std::string& folder) {
+  headless::Reset(folder);
+  prcResetTableState();
+  prcResetMarkState();
+  strIniFile = folder + "/VELMORA.INI";
+  strHelpFile = folder + "/VELMORA.HLP";
+}
+
+void Game::SetUp() {
+  prcFreshGame(Folder());
+  for (const char* seat : {"Player1Stats", "Player2Stats"}) {
+    Setting(seat, "Stake", " 1000");
+  }
+  Setting("Misc", "UnitValue", "10");
+  Setting("Misc", "Nerodik", "1");
+  Setting("frmBaccTable", "Height", " 5400");
+  Setting("frmBaccTable", "Width", " 10770");
+}
+
+void Game::Setting(const std::string& section, const std::string& key, const std::string& value) {
+  ASSERT_TRUE(fncWriteProfile(strIniFile, section, key, value));
+}
+
+std::string Game::Stored(const std::string& section, const std::string& key) {
+  return fncReadProfile(strIniFile, section, key, "No");
+}
+
+void Game::Start() {
+  platform::Run(0, nullptr, fncStartProgram);
+  headless::Wait(10);
+  ShowNoCardsSlowly();
+}
+
+void Game::ShowNoCardsSlowly() {
+  blnCardFaceUp = true;
+  blnDealDelay = blnDealAnimation = false;
+}
+
+void Game::Shuffle(std::uint64_t seed) {
+  headless::Seed(seed);
+  if (!blnEndOfShoe[intShoeNumber]) {
+    headless::Answer(platform::Answer::Ok);
+  }
+  ASSERT_TRUE(headless::Click(BaccTable.maisyk));
+  prcWaitUntilIdle();
+  headless::ForgetBoxes();
+}
+
+void Game::NextCards(std::initializer_list<int> values) {
+  int position = intNextCard[intShoeNumber];
+  for (const int value : values) {
+    prcSwapIn(position++, value);
+  }
+}
+
+void Game::NextResult(const std::string& result) {
+  // Player, Banker, Player, Banker: 9 against 7, 7 against 9, or both 7 on two cards.
+  NextCards({13, 13, result == "P" ? 9 : 7, result == "B" ? 9 : 7});
+}
+
+bool Game::Bet(BetSide side, int seat, const std::string& chips) {
+  Control& box = fncBet(side, seat).Box;
+  return headless::Type(box, chips) && headless::Tab(BaccTable.Form);
+}
+
+void Game::Deal(int hands) {
+  if (hands != 1) {
+    ASSERT_TRUE(headless::Type(BaccTable.mskHandsAtaTime, std::to_string(hands)));
+  }
+  ASSERT_TRUE(headless::Click(BaccTable.duokkortos[0]));
+  prcWaitUntilIdle();
+}
+
+void Game::DealResult(const std::string& result) {
+  NextResult(result);
+  Deal();
+}
+
+std::string Game::LastBox() {
+  return headless::Boxes().empty() ? "" : headless::Boxes().back().Text;
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+
+#include "betting/BetEntry.h"
+#include "platform/headless/Headless.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+#include "table/TableState.h"
+
+// The whole game on the headless platform: a fresh folder, the program started as its user starts
+// it, and a shoe whose next cards a test can choose.
+
+/// A folder of its own for a test's settings file, gone with the test.
+class TestFolder {
+ public:
+  TestFolder();
+  ~TestFolder();
+  TestFolder(const TestFolder&) = delete;
+  TestFolder& operator=(const TestFolder&) = delete;
+  const std::string& Path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+/// Puts every table of the game and the headless platform back to the start of the program, before
+/// any window.
+void prcFreshGame(const std::string& folder);
+
+class Game : public testing::Test {
+ protected:
+  void SetUp() override;
+
+  /// Writes a key before or during the run, as an earlier run would have left it.
+  static void Setting(const std::string& section, const std::string& key, const std::string& value);
+  static std::string Stored(const std::string& section, const std::string& key);
+
+  /// Starts the program without its start screen, up to the table that waits for the first shuffle.
+  /// Cards come face up, at once, unless a test turns the switches.
+  void Start();
+
+  /// Clicks Shuffle and waits until the shoe stands, with the seed that orders it.
+  void Shuffle(std::uint64_t seed = 1);
+
+  /// Makes these face values (1..13) the next out of the shoe, by swapping cards that lie behind.
+  /// The shoe keeps each of its cards.
+  static void NextCards(std::initializer_list<int> values);
+
+  /// The next hand is won by this side on four cards, or tied: "P", "B" or "T".
+  static void NextResult(const std::string& result);
+
+  /// Types chips into a bet box and leaves it by the Tab key. Returns whether the check let go.
+  static bool Bet(BetSide side, int seat, const std::string& chips);
+
+  /// Deals a run of hands by the first Deal button, and waits until it is over.
+  static void Deal(int hands = 1);
+
+  /// One hand that is won by a side, in a single-hand run until the table is open again.
+  static void DealResult(const std::string& result);
+
+  static void ShowNoCardsSlowly();
+
+  /// The text of the last message box, empty where none was shown since ForgetBoxes.
+  static std::string LastBox();
+
+  const std::string& Folder() const { return folder_.Path(); }
+
+ private:
+  TestFolder folder_;
+};

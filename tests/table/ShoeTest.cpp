@@ -1,0 +1,220 @@
+#include <algorithm>
+#include <set>
+
+#include "platform/Texts.h"
+#include "shell/CardsDealt.h"
+#include "table/Cards.h"
+#include "table/Random.h"
+#include "table/Shoe.h"
+#include "tests/Game.h"
+
+namespace {
+
+using ShoeTest = Game;
+
+std::vector<int> fncOrder(int shoe) {
+  std::vector<int> order;
+  for (int p = 0; p <= intLastCard[shoe]; ++p) {
+    order.push_back(intShoeCards[shoe][p]);
+  }
+  return order;
+}
+
+/// A short sum over a whole order, so that a pinned shoe fits a line.
+std::uint64_t fncSum(const std::vector<int>& order) {
+  std::uint64_t sum = 14695981039346656037ULL;
+  for (const int slot : order) {
+    sum = (sum ^ static_cast<std::uint64_t>(slot)) * std::uint64_t{1099511628211U};
+  }
+  return sum;
+}
+
+TEST_F(ShoeTest, EverySizeHoldsEachSlotOnce) {
+  Start();
+  for (const int decks : intShoeSizes) {
+    intDecks[0] = decks;
+    Shuffle(static_cast<std::uint64_t>(decks));
+    std::vector<int> order = fncOrder(0);
+    EXPECT_EQ(BaccTable.prgShoe.Max, decks * 52 - 1);
+    std::ranges::sort(order);
+    for (int slot = 0; slot < decks * 52; ++slot) {
+      ASSERT_EQ(order[static_cast<std::size_t>(slot)], slot) << decks;
+      ASSERT_EQ(intCardValue[0][slot], slot % 13 + 1);
+    }
+    EXPECT_THROW(intShoeCards[0][decks * 52], Fault) << "the row must be bounded anew";
+  }
+}
+
+TEST_F(ShoeTest, SeedsGiveTheirPinnedShoes) {
+  struct Pinned {
+    std::uint64_t Seed;
+    int Decks;
+    std::vector<int> First;
+    std::uint64_t Sum;
+  };
+  // Recorded once from this generator: a change of any value means that shoes are no longer what
+  // they were.
+  const std::vector<Pinned> pinned{
+      {1, 8, {5, 283, 87, 163, 258, 412}, 4621865579534362795U},
+      {2, 1, {18, 39, 42, 6, 43, 40}, 4275011679170138159U},
+      {2026, 6, {75, 196, 286, 230, 202, 107}, 5745003934647049669U},
+      {77, 2, {60, 16, 35, 80, 57, 76}, 16557265933775454773U},
+      {123456789, 4, {135, 75, 137, 170, 15, 26}, 14855565949685659317U}};
+  Start();
+  for (const Pinned& want : pinned) {
+    intDecks[0] = want.Decks;
+    Shuffle(want.Seed);
+    const std::vector<int> order = fncOrder(0);
+    EXPECT_EQ(std::vector<int>(order.begin(), order.begin() + 6), want.First) << want.Seed;
+    EXPECT_EQ(fncSum(order), want.Sum) << want.Seed;
+  }
+}
+
+TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
+  Start();
+  intDecks[0] = 1;
+  std::set<int> seen;
+  for (std::uint64_t seed = 1; seen.size() < 13 && seed < 400; ++seed) {
+    Shuffle(seed);
+    const int first = intCardValue[0][intShoeCards[0][0]];
+    const int burnt = first > 9 ? 11 : first + 1;
+    seen.insert(first);
+    const auto& rows = frmCardsDealt.lstCardsDealt.List;
+    ASSERT_EQ(rows.size(), static_cast<std::size_t>(burnt)) << first;
+    ASSERT_EQ(intNextCard[0], burnt);
+    ASSERT_EQ(BaccTable.prgShoe.Value, burnt);
+    ASSERT_EQ(fncTrim(rows.front().substr(0, 13)),
+              fncCardValueName(first) + " " + CardSuite(intShoeCards[0][0]));
+    for (const std::string& row : rows) {
+      ASSERT_EQ(row.size(), 21U);
+      ASSERT_EQ(row.substr(14), "<-Burnt");
+    }
+    Integer counted = 0;
+    for (const CardsDealtRow& row : varCardsDealtCount) {
+      counted += row.Suit[1] + row.Suit[2] + row.Suit[3] + row.Suit[4];
+    }
+    ASSERT_EQ(counted, burnt);
+    ASSERT_EQ(frmCardsDealt.lstCardsDealt.ListIndex, burnt - 1);
+  }
+  EXPECT_EQ(seen.size(), 13U);
+}
+
+TEST_F(ShoeTest, CardsAreNamedBySlot) {
+  struct Case {
+    int Slot, Number;
+    const char *Value, *Suit;
+    int Row;
+  };
+  for (const Case& card : {Case{0, 1, "1", "Spade", 1},
+                           {52, 1, "1", "Spade", 1},
+                           {12, 13, "King", "Spade", 1},
+                           {13, 14, "1", "Club", 2},
+                           {36, 37, "Jack", "Diamond", 3},
+                           {51, 52, "King", "Heart", 4},
+                           {104 + 50, 51, "Queen", "Heart", 4}}) {
+    EXPECT_EQ(CardNumber1To52(card.Slot), card.Number);
+    EXPECT_EQ(fncCardValueName(card.Slot % 13 + 1), card.Value);
+    EXPECT_EQ(CardSuite(card.Slot), card.Suit);
+    EXPECT_EQ(intSuitRow, card.Row);
+  }
+  EXPECT_EQ(fncCardValueName(0), "");
+  EXPECT_EQ(fncCardValueName(14), "");
+}
+
+TEST_F(ShoeTest, AShoeInPlayIsGivenUpOnlyWhenAsked) {
+  Start();
+  Shuffle(5);
+  const std::vector<int> before = fncOrder(0);
+  Deal(3);
+  headless::ForgetBoxes();
+  headless::Answer(platform::Answer::Cancel);
+  const Integer next = intNextCard[0];
+  ASSERT_TRUE(headless::Click(BaccTable.maisyk));
+  ASSERT_EQ(LastBox(), "Not at end of shoe");
+  EXPECT_EQ(headless::Boxes().back().Standard, platform::Answer::Cancel);
+  EXPECT_EQ(fncOrder(0), before);
+  EXPECT_EQ(intNextCard[0], next);
+  EXPECT_FALSE(blnBusy);
+
+  intDecks[0] = 2;
+  Shuffle(6);
+  EXPECT_EQ(intLastCard[0], 103);
+  EXPECT_EQ(intHandsDealt[0], 0);
+  EXPECT_EQ(Stored("ShoesHandsPlayed", "Decks 8"), "No") << "a shoe given up is not counted";
+}
+
+TEST_F(ShoeTest, TheTableIsLockedWhileTheShoeIsShuffled) {
+  Start();
+  headless::After(1000, [] {
+    EXPECT_TRUE(blnBusy);
+    EXPECT_FALSE(BaccTable.maisyk.Visible);
+    EXPECT_TRUE(BaccTable.lblShuffleInProgress[0].Visible);
+    EXPECT_TRUE(BaccTable.txtUnitValue.Enabled);
+    EXPECT_THROW(headless::Click(BaccTable.maisyk), std::logic_error);
+  });
+  const std::uint32_t start = headless::Now();
+  const std::uint64_t turns = headless::Turns();
+  headless::Click(BaccTable.maisyk);
+  EXPECT_EQ(headless::Now() - start, 2001U) << "two seconds, and no more on the clock";
+  EXPECT_GE(headless::Turns() - turns, 832U)
+      << "the shuffle serves events after each card of both its loops";
+  EXPECT_FALSE(blnBusy);
+  EXPECT_TRUE(BaccTable.duokkortos[0].Visible);
+  EXPECT_EQ(BaccTable.Form.ActiveControl, &BaccTable.duokkortos[0]);
+}
+
+TEST_F(ShoeTest, ALoweredBoundEndsARunningShuffle) {
+  Start();
+  std::uint64_t turnsAtClose = 0;
+  headless::After(2001, [&] {
+    headless::AtNextTurn([&] {
+      intLastCard[0] = 0;
+      turnsAtClose = headless::Turns();
+    });
+  });
+  headless::Click(BaccTable.maisyk);
+  EXPECT_FALSE(blnBusy);
+  EXPECT_LT(headless::Turns() - turnsAtClose, 10U);
+}
+
+TEST_F(ShoeTest, NothingRunsBehindTheEndOfTheProgram) {
+  for (const bool blnInLoop : {false, true}) {
+    prcFreshGame(Folder());
+    Start();
+    headless::After(2001, [blnInLoop] {
+      if (blnInLoop) {
+        headless::AtNextTurn([] { prcCloseFrame(); });
+      } else {
+        prcCloseFrame();
+      }
+    });
+    headless::Click(BaccTable.maisyk);
+    EXPECT_TRUE(headless::Ended());
+    EXPECT_FALSE(BaccTable.duokkortos[0].Visible)
+        << "the table must not be reopened by a dead shuffle";
+  }
+}
+
+TEST(Random, IsUniformOverTheUnitIntervalAndRepeats) {
+  prcSeedRandom(42);
+  std::array<int, 16> buckets{};
+  float most = 0;
+  for (int i = 0; i < 160'000; ++i) {
+    const float value = fncRandom();
+    ASSERT_GE(value, 0.0F);
+    most = std::max(most, value);
+    ++buckets.at(static_cast<std::size_t>(value * 16));
+  }
+  EXPECT_LT(most, 1.0F);
+  for (const int count : buckets) {
+    EXPECT_NEAR(count, 10'000, 500);
+  }
+  prcSeedRandom(42);
+  const float first = fncRandom();
+  prcSeedRandom(43);
+  EXPECT_NE(first, fncRandom());
+  prcSeedRandom(42);
+  EXPECT_EQ(first, fncRandom());
+}
+
+}  // namespace
