@@ -156,9 +156,7 @@ void prcReadSwitches(Turn turn) {
 
 }  // namespace
 
-void prcInvert(Control& entry) {
-  entry.Value = entry.Value == 1 ? 0 : 1;
-}
+void prcInvert(Control& entry) { entry.Value = entry.Value == 1 ? 0 : 1; }
 
 void prcSwitchButton(Control& button) {
   const auto* const row = std::ranges::find(switches, std::string(button.Name), &Switch::Button);
