@@ -1,5 +1,8 @@
 #include "shell/FrameMenus.h"
 
+#include <algorithm>
+#include <string>
+
 #include "betting/frmStatistics.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
@@ -18,92 +21,105 @@ namespace {
 constexpr int intContentsAndIndex = 0;
 
 void prcLargeButtonsClick(Control& entry) {
-  Guarded("MDIForm1_mnuLargeButtons_Click", [&] {
-    At(10);
-    prcInvert(entry);
-    const bool blnLarge = entry.Value == 1;
-    At(20);
-    prcWriteSwitch("Options", "Large Buttons", blnLarge);
-    At(30);
-    prcUseToolbar(blnLarge);
-    At(40);
-    prcSetMenusAndButtons();
-  });
+  At(10);
+  prcInvert(entry);
+  const bool blnLarge = entry.Value == 1;
+  At(20);
+  prcWriteSwitch("Options", "Large Buttons", blnLarge);
+  At(30);
+  prcUseToolbar(blnLarge);
+  At(40);
+  prcSetMenusAndButtons();
 }
 
 void prcStatisticsClick(Control&) {
-  Guarded("MDIForm1_mnuStatistics_Click", [] {
-    At(10);
-    // The routine comes back only when the dialog has closed, and the closing sets the button up.
-    prcMoveButton("Statistics");
-    At(20);
-    prcStatistics();
-  });
+  At(10);
+  // The routine comes back only when the dialog has closed, and the closing sets the button up.
+  prcMoveButton("Statistics");
+  At(20);
+  prcStatistics();
 }
 
-constexpr ControlEvents evtSwitch{.Click = prcSwitchEntry};
-constexpr ControlEvents evtSize{.Click = prcSizeEntry};
-constexpr ControlEvents evtReveal{.Click = [](Control&) { prcSetRevealIcons(); }};
-constexpr ControlEvents evtLarge{.Click = prcLargeButtonsClick};
-constexpr ControlEvents evtStatistics{.Click = prcStatisticsClick};
-constexpr ControlEvents evtOptions{.Click = [](Control&) { prcOptions(); }};
-constexpr ControlEvents evtExit{.Click = [](Control&) { prcCloseFrame(); }};
-constexpr ControlEvents evtWeb{
-    .Click = [](Control&) { DisplayURL(std::string(strWebSite) + "download.htm", "Velmora"); }};
-constexpr ControlEvents evtContents{
-    .Click = [](Control&) { platform::ShowHelp(strHelpFile, intContentsAndIndex); }};
-constexpr ControlEvents evtAbout{.Click = [](Control&) { prcShowModal(KasSitas.Form); }};
+void prcWebClick(Control&) { DisplayURL(std::string(strWebSite) + "download.htm", "Velmora"); }
 
-constexpr const ControlEvents* evtTitle = nullptr;
+void prcContentsClick(Control&) { platform::ShowHelp(strHelpFile, intContentsAndIndex); }
 
-/// An entry of the menu whose title stands above it; a title has no handlers.
+void prcAboutClick(Control&) { prcShowModal(KasSitas.Form); }
+
+void prcExitClick(Control&) { prcCloseFrame(); }
+
+void prcRevealClick(Control&) { prcSetRevealIcons(); }
+
+void prcOptionsClick(Control&) { prcOptions(); }
+
+enum class Rank : std::uint8_t { Title, Entry };
+
+/// A menu's title, or an entry of the menu whose title stands above it. Separators have no click.
 struct MenuRow {
   Control& Entry;
   const char* Name;
   const char* Caption;
-  const ControlEvents* On;
+  Rank Stands;
+  void (*Click)(Control& entry) = nullptr;
 };
 
 constexpr MenuRow menuRows[] = {
-    {MDIForm1.mnuFile, "mnuFile", "&File", evtTitle},
-    {MDIForm1.mnuLearn, "mnuLearn", "&Learn", &evtSwitch},
-    {MDIForm1.mnuSep5, "mnuSep5", "-", &evtNone},
-    {MDIForm1.mnuExit, "mnuExit", "E&xit", &evtExit},
-    {MDIForm1.mnuCardOptions, "mnuCardOptions", "&Card Options", evtTitle},
-    {MDIForm1.mnuCardFaceUpDown, "mnuCardFaceUpDown", "Cards Face &Up", &evtSwitch},
-    {MDIForm1.mnuShowCardValues, "mnuShowCardValues", "Show Card &Values", &evtSwitch},
-    {MDIForm1.mnuShowCardsDealt, "mnuShowCardsDealt", "Show Cards &Dealt", &evtSwitch},
+    {MDIForm1.mnuFile, "mnuFile", "&File", Rank::Title},
+    {MDIForm1.mnuLearn, "mnuLearn", "&Learn", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuSep5, "mnuSep5", "-", Rank::Entry},
+    {MDIForm1.mnuExit, "mnuExit", "E&xit", Rank::Entry, prcExitClick},
+    {MDIForm1.mnuCardOptions, "mnuCardOptions", "&Card Options", Rank::Title},
+    {MDIForm1.mnuCardFaceUpDown, "mnuCardFaceUpDown", "Cards Face &Up", Rank::Entry,
+     prcSwitchEntry},
+    {MDIForm1.mnuShowCardValues, "mnuShowCardValues", "Show Card &Values", Rank::Entry,
+     prcSwitchEntry},
+    {MDIForm1.mnuShowCardsDealt, "mnuShowCardsDealt", "Show Cards &Dealt", Rank::Entry,
+     prcSwitchEntry},
     {MDIForm1.mnuShowCardsDealtCount, "mnuShowCardsDealtCount", "Show Cards Dealt &Count",
-     &evtSwitch},
-    {MDIForm1.mnuMarkingOptions, "mnuMarkingOptions", "&Marking Options", evtTitle},
-    {MDIForm1.mnuShowScore, "mnuShowScore", "Show &Score", &evtSwitch},
-    {MDIForm1.mnuShowNaturals, "mnuShowNaturals", "Show &Naturals", &evtSwitch},
-    {MDIForm1.mnuPlayerBlue, "mnuPlayerBlue", "&Player Blue", &evtSwitch},
-    {MDIForm1.mnuShoeSize, "mnuShoeSize", "&Shoe Size", evtTitle},
-    {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", &evtSize},
-    {MDIForm1.mnuShoeSizeDecks[1], "mnuShoeSizeDecks", "&2 Decks", &evtSize},
-    {MDIForm1.mnuShoeSizeDecks[2], "mnuShoeSizeDecks", "&4 Decks", &evtSize},
-    {MDIForm1.mnuShoeSizeDecks[3], "mnuShoeSizeDecks", "&6 Decks", &evtSize},
-    {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", &evtSize},
-    {MDIForm1.mnuDealing, "mnuDealing", "&Dealing", evtTitle},
-    {MDIForm1.mnuDealDelay, "mnuDealDelay", "&Delay When Face Up", &evtSwitch},
-    {MDIForm1.mnuDealAnimation, "mnuDealAnimation", "&Animation", &evtSwitch},
-    {MDIForm1.mOptions, "mOptions", "&Options", evtTitle},
-    {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", &evtLarge},
-    {MDIForm1.mnuSep1, "mnuSep1", "-", &evtNone},
-    {MDIForm1.mnuArrows, "mnuArrows", "&Arrows to reveal cards", &evtReveal},
-    {MDIForm1.mnuHands, "mnuHands", "&Hands to reveal cards", &evtReveal},
-    {MDIForm1.mnuSep3, "mnuSep3", "-", &evtNone},
-    {MDIForm1.mnuStatistics, "mnuStatistics", "&Statistics...", &evtStatistics},
-    {MDIForm1.mnuSep6, "mnuSep6", "-", &evtNone},
-    {MDIForm1.mnuOptions, "mnuOptions", "&Options...", &evtOptions},
-    {MDIForm1.mnuWeb, "mnuWeb", "&Web", evtTitle},
-    {MDIForm1.mnuTarnlea, "mnuTarnlea", "&Get the latest version of Velmora...", &evtWeb},
-    {MDIForm1.mnuHelp, "mnuHelp", "&Help", evtTitle},
-    {MDIForm1.mnuContents, "mnuContents", "&Contents and Index", &evtContents},
-    {MDIForm1.mnuSep2, "mnuSep2", "-", &evtNone},
-    {MDIForm1.mnuAbout, "mnuAbout", "&About Velmora", &evtAbout},
+     Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuMarkingOptions, "mnuMarkingOptions", "&Marking Options", Rank::Title},
+    {MDIForm1.mnuShowScore, "mnuShowScore", "Show &Score", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuShowNaturals, "mnuShowNaturals", "Show &Naturals", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuPlayerBlue, "mnuPlayerBlue", "&Player Blue", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuShoeSize, "mnuShoeSize", "&Shoe Size", Rank::Title},
+    {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuShoeSizeDecks[1], "mnuShoeSizeDecks", "&2 Decks", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuShoeSizeDecks[2], "mnuShoeSizeDecks", "&4 Decks", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuShoeSizeDecks[3], "mnuShoeSizeDecks", "&6 Decks", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuDealing, "mnuDealing", "&Dealing", Rank::Title},
+    {MDIForm1.mnuDealDelay, "mnuDealDelay", "&Delay When Face Up", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuDealAnimation, "mnuDealAnimation", "&Animation", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mOptions, "mOptions", "&Options", Rank::Title},
+    {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", Rank::Entry,
+     prcLargeButtonsClick},
+    {MDIForm1.mnuSep1, "mnuSep1", "-", Rank::Entry},
+    {MDIForm1.mnuArrows, "mnuArrows", "&Arrows to reveal cards", Rank::Entry, prcRevealClick},
+    {MDIForm1.mnuHands, "mnuHands", "&Hands to reveal cards", Rank::Entry, prcRevealClick},
+    {MDIForm1.mnuSep3, "mnuSep3", "-", Rank::Entry},
+    {MDIForm1.mnuStatistics, "mnuStatistics", "&Statistics...", Rank::Entry, prcStatisticsClick},
+    {MDIForm1.mnuSep6, "mnuSep6", "-", Rank::Entry},
+    {MDIForm1.mnuOptions, "mnuOptions", "&Options...", Rank::Entry, prcOptionsClick},
+    {MDIForm1.mnuWeb, "mnuWeb", "&Web", Rank::Title},
+    {MDIForm1.mnuTarnlea, "mnuTarnlea", "&Get the latest version of Velmora...", Rank::Entry,
+     prcWebClick},
+    {MDIForm1.mnuHelp, "mnuHelp", "&Help", Rank::Title},
+    {MDIForm1.mnuContents, "mnuContents", "&Contents and Index", Rank::Entry, prcContentsClick},
+    {MDIForm1.mnuSep2, "mnuSep2", "-", Rank::Entry},
+    {MDIForm1.mnuAbout, "mnuAbout", "&About Velmora", Rank::Entry, prcAboutClick},
 };
+
+void prcEntryClick(Control& entry) {
+  const auto* const row =
+      std::ranges::find_if(menuRows, [&](const MenuRow& other) { return &other.Entry == &entry; });
+  const std::string label = std::string("MDIForm1_") + entry.Name + "_Click";
+  Guarded(label.c_str(), [&] {
+    At(10);
+    row->Click(entry);
+  });
+}
+
+constexpr ControlEvents evtEntry{.Click = prcEntryClick};
 
 }  // namespace
 
@@ -146,12 +162,12 @@ void prcLayOutMenus() {
   for (const MenuRow& row : menuRows) {
     prcPlace(MDIForm1.Form,
              {&row.Entry, row.Name, -1, ControlKind::MenuEntry, 0, 0, 0, 0, row.Caption});
-    if (row.On == evtTitle) {
+    if (row.Stands == Rank::Title) {
       menu = &row.Entry;
-    } else {
-      row.Entry.Container = menu;
-      row.Entry.On = row.On;
+      continue;
     }
+    row.Entry.Container = menu;
+    row.Entry.On = row.Click != nullptr ? &evtEntry : &evtNone;
   }
   for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
     MDIForm1.mnuShoeSizeDecks[i].Index = i;

@@ -70,14 +70,11 @@ void prcSizeButton(Control& button) {
 }
 
 void prcSizeEntry(Control& entry) {
-  Guarded("MDIForm1_mnuShoeSizeDecks_Click", [&] {
-    At(10);
-    if (fncChangeWanted()) {
-      At(20);
-      const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));
-      prcDecks(decks, fncSizeButton(decks));
-    }
-  });
+  if (fncChangeWanted()) {
+    At(20);
+    const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));
+    prcDecks(decks, fncSizeButton(decks));
+  }
 }
 
 void prcReadShoeSize() {

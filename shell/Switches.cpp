@@ -168,14 +168,10 @@ void prcSwitchButton(Control& button) {
 void prcSwitchEntry(Control& entry) {
   const auto* const row =
       std::ranges::find_if(switches, [&](const Switch& other) { return &other.Entry == &entry; });
-  const std::string label = std::string("MDIForm1_") + entry.Name + "_Click";
-  Guarded(label.c_str(), [&] {
-    At(10);
-    if (fncTurn(*row)) {
-      At(20);
-      prcMoveButton(row->Button);
-    }
-  });
+  if (fncTurn(*row)) {
+    At(20);
+    prcMoveButton(row->Button);
+  }
 }
 
 bool fncChangeWanted() {
