@@ -257,8 +257,7 @@ bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
     return true;
   }
   if (held_.Target == nullptr) {
-    prcHover(widget, event);
-    return false;
+    return fncHovered(widget, event);
   }
   const bool blnNative = held_.blnNative;
   fncMovedOnWindow(event);
@@ -269,11 +268,11 @@ bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
   return !blnNative;
 }
 
-void InputRouter::prcHover(QWidget& widget, const QMouseEvent& event) {
+bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   WindowView* home = fncWindowViewOf(&widget);
   Window* window = home != nullptr ? fncLive(*home) : nullptr;
   if (window == nullptr || (home->Shell == &widget && home->Ground != &widget)) {
-    return;
+    return false;
   }
   const int shift = fncShift(event.modifiers());
   if (Control* control = fncMeant(widget); control != nullptr) {
@@ -282,12 +281,13 @@ void InputRouter::prcHover(QWidget& widget, const QMouseEvent& event) {
       const Mouse mouse = fncMouse(*own, event.globalPosition(), 0, shift);
       prcServe([&] { prcUserMove(*control, mouse); });
     }
-    return;
+    return !fncNative(control->Kind);
   }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);
     prcServe([&] { window->On->MouseMove(*window, mouse); });
   }
+  return true;
 }
 
 bool InputRouter::fncReleased(const QMouseEvent& event) {

@@ -44,7 +44,7 @@ class InputRouter : public QObject {
   bool fncMoved(QWidget& widget, const QMouseEvent& event);
   bool fncMovedOnWindow(const QMouseEvent& event);
   bool fncReleased(const QMouseEvent& event);
-  void prcHover(QWidget& widget, const QMouseEvent& event);
+  bool fncHovered(QWidget& widget, const QMouseEvent& event);
   void prcRelease(const Held& held, QPointF global, int shift);
   Control* fncHeldControl() const;
   bool fncHeldIsHidden() const;
