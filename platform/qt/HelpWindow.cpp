@@ -1,5 +1,220 @@
+#include "platform/qt/HelpWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QHelpContentWidget>
+#include <QHelpIndexWidget>
+#include <QHelpLink>
+#include <QPointer>
+#include <QScreen>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QToolBar>
+#include <QVBoxLayout>
+
 #include "platform/platform.h"
+#include "platform/qt/Scale.h"
+#include "platform/qt/Style.h"
+
+namespace qt {
+
+namespace {
+
+constexpr int intWidth = 900;
+constexpr int intHeight = 640;
+constexpr int intSideWidth = 260;
+
+QPointer<HelpWindow> wndHelp;
+
+/// The first page that the contents lead to.
+QUrl fncFirstPage(const QHelpContentModel& contents) {
+  const QHelpContentItem* first =
+      contents.rowCount() > 0 ? contents.contentItemAt(contents.index(0, 0)) : nullptr;
+  return first != nullptr ? first->url() : QUrl();
+}
+
+void prcTellNoHelp(const std::string& file) {
+  platform::MsgBox("The help file is missing or cannot be read:\r\n" + file,
+                   platform::Icon::Exclamation);
+}
+
+}  // namespace
+
+QVariant HelpPages::loadResource(int /*type*/, const QUrl& name) {
+  const QUrl whole = name.isRelative() ? source().resolved(name) : name;
+  return whole.scheme() == QLatin1String("qthelp") ? engine_.fileData(whole) : QVariant();
+}
+
+HelpWindow::HelpWindow()
+    : engine_(folder_.filePath(QStringLiteral("help.qhc"))), pages_(new HelpPages(engine_, this)) {
+  setObjectName(QStringLiteral("Help"));
+  setWindowTitle(QStringLiteral("Velmora Help"));
+  setContextMenuPolicy(Qt::NoContextMenu);
+  resize(fncScaled(intWidth), fncScaled(intHeight));
+  QFont face = fncPlainFont();
+  face.setPixelSize(fncScaled(14));
+  pages_->setFont(face);
+  pages_->setAccessibleName(tr("Help page"));
+  pages_->document()->setDocumentMargin(14 * fncScale());
+  pages_->setOpenLinks(false);
+  connect(pages_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+    if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https")) {
+      QDesktopServices::openUrl(link);
+    } else {
+      pages_->setSource(link);
+    }
+  });
+}
+
+bool HelpWindow::fncOpen(const QString& file) {
+  const QString name = QHelpEngineCore::namespaceName(file);
+  engine_.setReadOnly(false);
+  if (name.isEmpty() || !folder_.isValid() || !engine_.setupData() ||
+      !engine_.registerDocumentation(file)) {
+    return false;
+  }
+  engine_.setUsesFilterEngine(true);
+  engine_.setupData();
+  const QUrl first(QStringLiteral("qthelp://%1/doc/index.html").arg(name));
+  if (engine_.fileData(first).isEmpty()) {
+    return false;
+  }
+  file_ = file;
+  prcMakeBars();
+  prcMakeSides();
+  pages_->setSource(first);
+  return true;
+}
+
+void HelpWindow::prcShowFirst() {
+  const QUrl first = fncFirstPage(*engine_.contentModel());
+  if (first.isValid()) {
+    pages_->setSource(first);
+  }
+}
+
+void HelpWindow::prcMakeBars() {
+  auto* bar = addToolBar(tr("Pages"));
+  bar->setMovable(false);
+  const auto step = [&](const QString& text, const QKeySequence& key, auto act) {
+    QAction* action = bar->addAction(text, pages_, act);
+    action->setShortcut(key);
+    return action;
+  };
+  QAction* back = step(tr("Back"), QKeySequence::Back, &QTextBrowser::backward);
+  QAction* forward = step(tr("Forward"), QKeySequence::Forward, &QTextBrowser::forward);
+  step(tr("Home"), QKeySequence(Qt::ALT | Qt::Key_Home), &QTextBrowser::home);
+  back->setEnabled(false);
+  forward->setEnabled(false);
+  connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+  bar->addSeparator();
+  find_ = new QLineEdit(bar);
+  find_->setPlaceholderText(tr("Find on this page"));
+  find_->setAccessibleName(tr("Find on this page"));
+  find_->setMaximumWidth(fncScaled(220));
+  bar->addWidget(find_);
+  connect(find_, &QLineEdit::returnPressed, this, [this] { prcFind(false); });
+  bar->addAction(tr("Previous"), this, [this] { prcFind(true); });
+  bar->addAction(tr("Next"), this, [this] { prcFind(false); });
+  auto* start = new QAction(this);
+  start->setShortcut(QKeySequence::Find);
+  connect(start, &QAction::triggered, find_, [this] {
+    find_->setFocus();
+    find_->selectAll();
+  });
+  addAction(start);
+  auto* leave = new QAction(this);
+  leave->setShortcut(QKeySequence(Qt::Key_Escape));
+  connect(leave, &QAction::triggered, this, &QWidget::close);
+  addAction(leave);
+}
+
+void HelpWindow::prcMakeSides() {
+  auto* sides = new QTabWidget(this);
+  QHelpContentWidget* contents = engine_.contentWidget();
+  contents->setAccessibleName(tr("Contents"));
+  connect(contents, &QHelpContentWidget::linkActivated, pages_,
+          [this](const QUrl& link) { pages_->setSource(link); });
+  connect(contents, &QHelpContentWidget::clicked, pages_, [this](const QModelIndex& at) {
+    if (const QHelpContentItem* item = engine_.contentModel()->contentItemAt(at)) {
+      pages_->setSource(item->url());
+    }
+  });
+  connect(engine_.contentModel(), &QHelpContentModel::contentsCreated, contents,
+          [contents] { contents->expandToDepth(1); });
+  sides->addTab(contents, tr("Contents"));
+  sides->addTab(fncMakeIndex(), tr("Index"));
+  auto* split = new QSplitter(this);
+  split->addWidget(sides);
+  split->addWidget(pages_);
+  split->setStretchFactor(1, 1);
+  split->setSizes({fncScaled(intSideWidth), fncScaled(intWidth - intSideWidth)});
+  setCentralWidget(split);
+}
+
+QWidget* HelpWindow::fncMakeIndex() {
+  auto* side = new QWidget(this);
+  auto* filter = new QLineEdit(side);
+  filter->setPlaceholderText(tr("Look for"));
+  filter->setAccessibleName(tr("Look for"));
+  filter->setClearButtonEnabled(true);
+  QHelpIndexWidget* index = engine_.indexWidget();
+  index->setAccessibleName(tr("Index"));
+  auto* rows = new QVBoxLayout(side);
+  rows->addWidget(filter);
+  rows->addWidget(index);
+  connect(filter, &QLineEdit::textChanged, index,
+          [index](const QString& text) { index->filterIndices(text); });
+  connect(filter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
+  connect(index, &QHelpIndexWidget::documentActivated, pages_,
+          [this](const QHelpLink& link) { pages_->setSource(link.url); });
+  connect(index, &QHelpIndexWidget::documentsActivated, pages_,
+          [this](const QList<QHelpLink>& links) { pages_->setSource(links.first().url); });
+  return side;
+}
+
+void HelpWindow::prcFind(bool blnBackwards) {
+  const QTextDocument::FindFlags flags =
+      blnBackwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+  if (find_->text().isEmpty() || pages_->find(find_->text(), flags)) {
+    return;
+  }
+  // Once round the page.
+  pages_->moveCursor(blnBackwards ? QTextCursor::End : QTextCursor::Start);
+  pages_->find(find_->text(), flags);
+}
+
+}  // namespace qt
 
 namespace platform {
-void ShowHelp(const std::string& file, int /*context*/) { MsgBox("no help yet " + file); }
+
+void ShowHelp(const std::string& file, int context) {
+  const QString path = QString::fromStdString(file);
+  if (qt::wndHelp != nullptr && !qt::wndHelp->fncShows(path)) {
+    delete qt::wndHelp;
+  }
+  if (!QFileInfo(path).isFile()) {
+    qt::prcTellNoHelp(file);
+    return;
+  }
+  if (qt::wndHelp == nullptr) {
+    auto window = std::make_unique<qt::HelpWindow>();
+    if (!window->fncOpen(path)) {
+      window.reset();
+      qt::prcTellNoHelp(file);
+      return;
+    }
+    qt::wndHelp = window.release();
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qt::wndHelp, [] { delete qt::wndHelp; });
+  }
+  if (context != 0) {
+    qt::wndHelp->prcShowFirst();
+  }
+  qt::wndHelp->show();
+  qt::wndHelp->raise();
+  qt::wndHelp->activateWindow();
+}
+
 }  // namespace platform

@@ -90,6 +90,13 @@ Qt::MouseButton fncButton(int button) {
   }
 }
 
+/// A pointer that comes to where it is already moves nothing: every second hover is a little aside.
+float fncAside() {
+  static bool blnAside = false;
+  blnAside = !blnAside;
+  return blnAside ? 15 : 0;
+}
+
 QWindow& fncWindow(const Control& control) {
   return *real::Ground(*control.Form).window()->windowHandle();
 }
@@ -184,14 +191,16 @@ void Click(Control& control, int button) {
 
 void Hover(Control& control) {
   Settle();
-  Drag(control, static_cast<float>(control.Width / 2), static_cast<float>(control.Height / 2));
+  Drag(control, static_cast<float>(control.Width / 2) + fncAside(),
+       static_cast<float>(control.Height / 2));
 }
 
 void Hover(Window& window) {
   Settle();
   QWidget& ground = real::Ground(window);
   QWindow* handle = ground.window()->windowHandle();
-  const QPoint corner = ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2));
+  const QPoint corner = ground.mapToGlobal(
+      QPoint(ground.width() - 2, ground.height() - 2 - static_cast<int>(fncAside())));
   QTest::mouseMove(handle, handle->mapFromGlobal(corner));
 }
 
