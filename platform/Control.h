@@ -72,7 +72,7 @@ enum class ButtonStyle : std::uint8_t { Check, Group, Separator };
 
 /// How a control is dressed beyond its plain properties; each view knows what a look means on its
 /// screen.
-enum class Look : std::uint8_t { Plain, Plate, Primary, Chip, Shadow, Card, Patch, Link, Heading };
+enum class Look : std::uint8_t { Plain, Plate, Primary, Chip, Shadow, Card, Patch, Link, Heading, Mat };
 
 /// Mouse buttons as handlers get them.
 inline constexpr int intLeftButton = 1;

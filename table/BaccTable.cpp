@@ -172,4 +172,6 @@ void prcPrepareBaccTable() {
   form.On = &evtBaccTable;
   form.Caption = "Velmora";
   form.TitleBar = false;
+  form.Picture = picFelt;
+  form.BackColor = {16, 40, 37};  // The frame's ground, seen behind the felt's round corners.
 }

@@ -9,7 +9,7 @@
 struct BaccTableWindow {
   Window Form;
 
-  Control picTable;  ///< The felt below everything.
+  Control picShoeBox;  ///< The dealing shoe, for the eye alone.
   Table<Control, 2> shpSeat, shpCardZone;
   Table<Control, 2> lblSeat;
   Table<Control, 3> lblRow;

@@ -49,11 +49,11 @@ void prcPlateShape(Control& shape, Colour fill, Colour edge) {
 constexpr std::array<double, 2> dblAreaLeft{810, 7350};
 constexpr double dblAreaWidth = 2640;
 
+constexpr std::array<double, 2> dblSeatLeft{3870, 5295};
+constexpr double dblSeatWidth = 1425;
+
 void prcLayGround() {
   BaccTableWindow& t = BaccTable;
-  prcAdd({&t.picTable, "picTable", -1, Picture, 0, 0, 10770, 5400});
-  t.picTable.Picture = picFelt;
-  t.picTable.Enabled = false;
   for (int side = 0; side < 2; ++side) {
     const double left = dblAreaLeft.at(static_cast<std::size_t>(side));
     prcAdd({&t.shpCardZone[side], "shpCardZone", side, Shape, left - 60, 105, dblAreaWidth + 120,
@@ -61,15 +61,18 @@ void prcLayGround() {
     prcPlateShape(t.shpCardZone[side], clrPlate, clrPlateEdge);
     prcAdd({&t.shpCardDealBG[side], "shpCardDealBG", side, Shape, left, 1020, dblAreaWidth, 3165});
     prcPlateShape(t.shpCardDealBG[side], clrClear, clrClear);
+    t.shpCardDealBG[side].Dress = Look::Mat;
     t.shpCardDealBG[side].Visible = false;
-    prcAdd(
-        {&t.shpSeat[side], "shpSeat", side, Shape, side == 0 ? 3840.0 : 5302.0, 1680, 1462, 3015});
+    prcAdd({&t.shpSeat[side], "shpSeat", side, Shape,
+            dblSeatLeft.at(static_cast<std::size_t>(side)), 1680, dblSeatWidth, 3015});
     prcPlateShape(t.shpSeat[side], clrPlate, clrPlateEdge);
   }
 }
 
 void prcLayShoe() {
   BaccTableWindow& t = BaccTable;
+  prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4665, 75, 1440, 960});
+  t.picShoeBox.Picture = picShoe;
   prcAdd({&t.prgShoe, "prgShoe", -1, ProgressBar, 4050, 1125, 2655, 120, "",
           "Cards that have left the shoe"});
   t.prgShoe.Visible = false;
@@ -207,8 +210,8 @@ void prcLayBet(const BetRow& row, int seat) {
 void prcLaySeat(int seat) {
   BaccTableWindow& t = BaccTable;
   const SeatColumns& at = colSeats.at(static_cast<std::size_t>(seat));
-  prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, at.Value, 1740, 1290, 270,
-          seat == 0 ? "Player 1" : "Player 2"});
+  prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, dblSeatLeft.at(static_cast<std::size_t>(seat)),
+          1740, dblSeatWidth, 270, seat == 0 ? "Player 1" : "Player 2"});
   prcDress(t.lblSeat[seat], tpeStrong, clrGold);
   for (const BetRow& row : rowBets) {
     prcLayBet(row, seat);
@@ -224,16 +227,19 @@ void prcLaySeat(int seat) {
 void prcLayRowHeads() {
   BaccTableWindow& t = BaccTable;
   const auto head = [](Control& label, const char* name, int index, double top, const char* text) {
-    prcAdd({&label, name, index, Label, 6795, top, 495, 225, text});
+    prcAdd({&label, name, index, Label, 6735, top, 555, 225, text});
     prcDress(label, {.Size = 6.75F, .Bold = true}, clrGold);
   };
   head(t.lblRow[0], "lblRow", 0, 2055, "TIE");
-  prcAdd({&t.Label8, "Label8", -1, Label, 6795, 2265, 495, 420, "Pays 8 To 1"});
+  prcAdd({&t.Label8, "Label8", -1, Label, 6735, 2265, 555, 420, "Pays 8 To 1"});
   prcDress(t.Label8, {.Size = 6.75F}, clrQuiet);
   head(t.Label5, "Label5", -1, 2760, "BANKER");
   head(t.Label4, "Label4", -1, 3390, "PLAYER");
   head(t.lblRow[1], "lblRow", 1, 4035, "MONEY");
   head(t.lblRow[2], "lblRow", 2, 4365, "WON");
+  // The Banker's advice panel begins close by.
+  t.lblRow[2].Width = 360;
+  t.lblRow[2].Face.Size = 6;
 }
 
 struct CardPlace {
@@ -321,7 +327,7 @@ void prcLayResults(bool blnPlayer) {
         blnTie ? (blnPlayer ? t.TieResultP : t.TieResultB) : (blnPlayer ? t.WinP : t.WinB);
     const char* name =
         blnTie ? (blnPlayer ? "TieResultP" : "TieResultB") : (blnPlayer ? "WinP" : "WinB");
-    add(mark, name, left + 1245, 180, 690, 345, blnTie ? "TIE" : "WIN", {.Size = 12, .Bold = true},
+    add(mark, name, left + 1290, 195, 630, 315, blnTie ? "TIE" : "WIN", {.Size = 12, .Bold = true},
         clrWhite);
     mark.BackColor = clrWon;
     mark.Dress = Look::Plate;
@@ -379,7 +385,7 @@ void prcLayButtons() {
   prcAdd(
       {&t.lblUnitValue, "lblUnitValue", -1, Label, 600, dblButtonTop + 75, 960, 255, "Chip Value"});
   prcDress(t.lblUnitValue, tpeText, clrIvory, Alignment::Left);
-  prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1530, dblButtonTop + 30, 780, 330, "0",
+  prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1620, dblButtonTop + 30, 780, 330, "0",
           "Enter between $10 and $9990"});
   prcMasked(t.txtUnitValue, "$9999", "$0", evtUnit);
   prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 75, 1200, 255,

@@ -35,10 +35,12 @@ bool fncPainted(ControlKind kind) {
   }
 }
 
-/// Whether nothing would happen at this control, so that what lies below gets the mouse.
+/// Whether nothing would happen at this control, so that what lies below gets the mouse. Labels and
+/// pictures keep it all the same: over them the mouse is not on bare ground.
 bool fncMouseless(const Control& control) {
   const ControlEvents& on = *control.On;
-  return fncPainted(control.Kind) && on.Click == nullptr && on.MouseDown == nullptr &&
+  return fncPainted(control.Kind) && control.Kind != ControlKind::Label &&
+         control.Kind != ControlKind::Picture && on.Click == nullptr && on.MouseDown == nullptr &&
          on.MouseMove == nullptr && on.MouseUp == nullptr && control.ToolTip.empty() &&
          control.MousePointer == Pointer::Arrow;
 }

@@ -52,6 +52,15 @@ bool fncAnswersMouse(const Control& control) {
   }
 }
 
+/// Whether a widget shows a label or picture, over which the mouse is not on bare ground though
+/// nothing answers it.
+bool fncCovers(const QWidget& widget) {
+  const ControlView* view = fncControlViewOf(&widget);
+  const Control* control = view != nullptr ? fncLive(*view) : nullptr;
+  return control != nullptr &&
+         (control->Kind == ControlKind::Label || control->Kind == ControlKind::Picture);
+}
+
 /// The control that the mouse means at a widget; none on bare ground.
 Control* fncMeant(const QWidget& widget) {
   const ControlView* view = fncControlViewOf(&widget);
@@ -282,6 +291,9 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
       prcServe([&] { prcUserMove(*control, mouse); });
     }
     return !fncNative(control->Kind);
+  }
+  if (fncCovers(widget)) {
+    return true;
   }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);

@@ -3,6 +3,7 @@
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRadialGradient>
 #include <algorithm>
 #include <cmath>
 
@@ -106,6 +107,23 @@ void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& r
   prcDrawPicture(painter, control, rect);
 }
 
+/// The fill of a shape. A mat is its colour as cloth under a lamp: full in the middle, deep towards
+/// the edge.
+QBrush fncFill(const Control& control, const QRect& rect) {
+  if (control.FillColor.Clear) {
+    return Qt::NoBrush;
+  }
+  const QColor colour = fncColour(control.FillColor);
+  if (control.Dress != Look::Mat) {
+    return colour;
+  }
+  QRadialGradient cloth(QRectF(rect).center(), std::max(rect.width(), rect.height()) * 0.72);
+  cloth.setColorAt(0, colour.darker(135));
+  cloth.setColorAt(0.55, colour.darker(200));
+  cloth.setColorAt(1, colour.darker(330));
+  return cloth;
+}
+
 void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
   if (control.Dress == Look::Shadow) {
     const int margin = fncShadowMargin();
@@ -115,8 +133,7 @@ void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) 
   }
   const int width = control.BorderColor.Clear ? 0 : fncScaled(control.BorderWidth);
   painter.setPen(width == 0 ? QPen(Qt::NoPen) : QPen(fncColour(control.BorderColor), width));
-  painter.setBrush(control.FillColor.Clear ? QBrush(Qt::NoBrush)
-                                           : QBrush(fncColour(control.FillColor)));
+  painter.setBrush(fncFill(control, rect));
   const double half = width / 2.0;
   const QRectF inner = QRectF(rect).adjusted(half, half, -half, -half);
   painter.setRenderHint(QPainter::Antialiasing, control.Form2D != ShapeForm::Rectangle);
