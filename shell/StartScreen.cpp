@@ -20,7 +20,7 @@ constexpr Colour clrTitle{0, 0, 192};
 constexpr Colour clrTitleShadow{128, 128, 128};
 constexpr Colour clrLink{0, 0, 192};
 constexpr Type typTitle{.Size = 27.75F, .Bold = true};
-constexpr Type typPoint{.Size = 12};
+constexpr Type typPoint{.Size = 11};
 
 constexpr int intFirstTopic = 1;
 
@@ -65,11 +65,11 @@ void prcLayOutPlauk() {
       {&w.Image2[0], "Image2", 0, ControlKind::Picture, 0, 0, 300, 300},
       {&w.Image2[1], "Image2", 1, ControlKind::Picture, 0, 0, 300, 300},
       {&w.Image2[2], "Image2", 2, ControlKind::Picture, 0, 0, 300, 300},
-      {&w.Label1[0], "Label1", 0, ControlKind::Label, 0, 0, 4500, 600,
+      {&w.Label1[0], "Label1", 0, ControlKind::Label, 0, 0, 4700, 600,
        "Learn how Baccarat is played"},
-      {&w.Label1[1], "Label1", 1, ControlKind::Label, 0, 0, 4500, 600,
+      {&w.Label1[1], "Label1", 1, ControlKind::Label, 0, 0, 4700, 600,
        "Try BETTING STRATEGIES and MONEY MANAGEMENT without risking money"},
-      {&w.Label1[2], "Label1", 2, ControlKind::Label, 0, 0, 4500, 600,
+      {&w.Label1[2], "Label1", 2, ControlKind::Label, 0, 0, 4700, 600,
        "Many other features to make you a pro"},
       {&w.lblVersion, "lblVersion", -1, ControlKind::Label, 5520, 3915, 1695, 240},
       {&w.cmdHelp, "cmdHelp", -1, ControlKind::Button, 5430, 4230, 1605, 525, "&HELP"},
