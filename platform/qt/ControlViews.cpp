@@ -193,8 +193,8 @@ QWidget* fncMakeToolButton(ControlView& view, QWidget* parent) {
   return view.Widget;
 }
 
-void prcUpdateToolButton(ControlView& view, const Control& next, bool /*blnFirst*/) {
-  prcUpdateTool(view, next);
+void prcUpdateToolButton(ControlView& view, const Control& next, bool blnFirst) {
+  prcUpdateTool(view, next, blnFirst);
 }
 
 QWidget* fncMakeEntry(ControlView& view, QWidget* /*parent*/) {
@@ -281,7 +281,7 @@ void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
   QWidget& widget = *view.Widget;
   const Control& drawn = view.Drawn;
   if (blnFirst || drawn.ToolTip != next.ToolTip) {
-    widget.setToolTip(fncText(next.ToolTip).toHtmlEscaped());
+    widget.setToolTip(fncText(next.ToolTip));
   }
   if (blnFirst || drawn.ToolTip != next.ToolTip || drawn.Text != next.Text ||
       drawn.Spoken != next.Spoken) {

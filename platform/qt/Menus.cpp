@@ -62,6 +62,24 @@ void prcTriggered(ControlView& view) {
   }
 }
 
+/// Separators stand only between buttons that are seen.
+void prcTidySeparators(const QToolBar& bar) {
+  QAction* separator = nullptr;
+  bool blnBefore = false;
+  for (QAction* action : bar.actions()) {
+    if (action->isSeparator()) {
+      action->setVisible(false);
+      separator = blnBefore ? action : separator;
+    } else if (action->isVisible()) {
+      if (separator != nullptr) {
+        separator->setVisible(true);
+        separator = nullptr;
+      }
+      blnBefore = true;
+    }
+  }
+}
+
 }  // namespace
 
 void prcMakeMenu(ControlView& view) {
@@ -89,7 +107,7 @@ void prcUpdateMenu(ControlView& view, const Control& control) {
     return;
   }
   action->setSeparator(control.Text == "-");
-  action->setText(fncText(control.Text));
+  action->setText(control.Text == "-" ? QString() : fncText(control.Text));
   action->setVisible(control.Visible);
   action->setEnabled(control.Enabled);
   action->setToolTip(fncText(control.ToolTip));
@@ -137,17 +155,21 @@ void prcMakeTool(ControlView& view, QWidget* bar) {
   QObject::connect(button, &QToolButton::clicked, button, [&view] { prcKeyClick(view); });
 }
 
-void prcUpdateTool(ControlView& view, const Control& control) {
+void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst) {
   auto* action = qobject_cast<QAction*>(view.Helper);
   if (action == nullptr) {
     return;
   }
-  action->setVisible(control.Visible);
+  const bool blnTurned = action->isVisible() != control.Visible;
   auto* button = qobject_cast<QToolButton*>(view.Widget);
   if (button == nullptr) {
     return;
   }
+  action->setVisible(control.Visible);
   auto* bar = qobject_cast<QToolBar*>(button->parentWidget());
+  if (bar != nullptr && (blnTurned || blnFirst)) {
+    prcTidySeparators(*bar);
+  }
   const int side = bar != nullptr ? bar->iconSize().width() : fncScaled(18);
   const int height = bar != nullptr ? bar->height() - fncScaled(4) : side + fncScaled(8);
   const bool blnCaption = bar != nullptr &&

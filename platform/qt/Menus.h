@@ -16,6 +16,6 @@ void prcUpdateToolbar(ControlView& view, const Control& control);
 
 /// Makes a button or separator in its toolbar.
 void prcMakeTool(ControlView& view, QWidget* bar);
-void prcUpdateTool(ControlView& view, const Control& control);
+void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst);
 
 }  // namespace qt

@@ -73,8 +73,17 @@ void prcDrawPicture(QPainter& painter, const Control& control, const QRect& rect
   if (number == 0) {
     return;
   }
-  const QSize size = fncIsCard(number) ? fncCardSize() : rect.size();
-  painter.drawPixmap(rect.topLeft(), fncPicture(number, size, ratio));
+  if (fncIsCard(number)) {
+    painter.drawPixmap(rect.topLeft(), fncPicture(number, fncCardSize(), ratio));
+    return;
+  }
+  // A chip keeps its form; other pictures fill their control.
+  const QSize size = control.Dress == Look::Chip
+                         ? fncPictureSize(number).scaled(rect.size(), Qt::KeepAspectRatio)
+                         : rect.size();
+  const QPoint at(rect.left() + (rect.width() - size.width()) / 2,
+                  rect.top() + (rect.height() - size.height()) / 2);
+  painter.drawPixmap(at, fncPicture(number, size, ratio));
 }
 
 void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect) {

@@ -21,13 +21,13 @@ class PaintedView : public QWidget {
   void prcDetach();
 
   /// The control as drawn; none after prcDetach.
-  const ControlView* fncView() const { return view_; }
+  ControlView* fncView() const { return view_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  const ControlView* view_;
+  ControlView* view_;
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as

@@ -10,6 +10,7 @@
 #include "platform/Procedure.h"
 #include "platform/UserInput.h"
 #include "platform/platform.h"
+#include "platform/qt/Accessible.h"
 #include "platform/qt/Closing.h"
 #include "platform/qt/InputRouter.h"
 #include "platform/qt/Loop.h"
@@ -50,6 +51,7 @@ void prcBringUpPlatform() {
   prcDressApplication();
   QGuiApplication::setWindowIcon(fncIcon(picIcon, 64));
   new InputRouter(qApp);
+  prcInstallRoles();
 }
 
 void prcTakeDownPlatform() {
