@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "table/TableState.h"
+
+// Counts over many shuffles of the game's own Shuffle, and how far they lie from what they should
+// be.
+
+/// A sum of squared differences from expected counts, each divided by the expected count.
+struct ChiSquare {
+  double Sum = 0;
+  int Degrees = 0;
+  void prcAdd(double counted, double expected);
+  /// How far the sum lies from its mean, in standard deviations of a normal value; beyond 4 either
+  /// way is no chance.
+  double fncDeviation() const;
+};
+
+struct ShuffleStatistics {
+  int Decks = 0;
+  std::int64_t Shoes = 0;
+  std::int64_t Positions = 0;
+  std::int64_t BrokenShoes = 0;  ///< In which a slot was missing or stood twice.
+  /// The first slot out, the two end slots expected half as often as the others.
+  ChiSquare FirstSlot;
+  std::int64_t LowEndFirst = 0, HighEndFirst = 0;
+  double InnerFirst = 0;  ///< The mean of all other slots.
+  /// Face values 2 to 12 at each position, each as often as the others. An Ace lies in slot 0 and a
+  /// King in the last one: those two do not quite keep to it.
+  ChiSquare ValueByPosition;
+  /// Cards burnt, 2 to 11, by the first card's exact chances.
+  ChiSquare Burnt;
+  /// Steps from a card's face value to the next card's, 0 to 12, up and round.
+  std::array<std::int64_t, 13> Steps{};
+  /// Up and down are alike to the method: an Ace comes at each position as often as a King, a 2 as
+  /// a Queen, and so on, and a step as often as the same step down.
+  ChiSquare MirroredValues, MirroredSteps;
+};
+
+/// Shuffles shoe 1 this many times with the seeds that follow one another from firstSeed.
+ShuffleStatistics fncShuffleStatistics(int decks, std::int64_t shoes, std::uint64_t firstSeed);
+
+/// How often a step would come if every order of the cards were as likely as any other.
+double fncStepExpected(const ShuffleStatistics& statistics, int step);

@@ -1,0 +1,49 @@
+#include <cinttypes>
+#include <cstdio>
+#include <cstdlib>
+
+#include "bench/ShuffleStatistics.h"
+
+// Prints what many shuffles of each shoe size give: velmora_shuffle [POSITIONS [SEED]], by default
+// ten million positions of each size.
+
+namespace {
+
+void prcPrint(const ShuffleStatistics& s) {
+  std::printf("%d deck(s): %" PRId64 " shoes, %" PRId64 " positions, %" PRId64
+              " shoes with a slot missing\n",
+              s.Decks, s.Shoes, s.Positions, s.BrokenShoes);
+  std::printf("  first slot out: low end %" PRId64 ", high end %" PRId64
+              ", mean of the others %.1f\n",
+              s.LowEndFirst, s.HighEndFirst, s.InnerFirst);
+  const struct {
+    const char* Name;
+    const ChiSquare& Sum;
+  } sums[] = {{"first slot, ends at half", s.FirstSlot},
+              {"values 2 to 12 by position", s.ValueByPosition},
+              {"cards burnt", s.Burnt},
+              {"values and their mirror images", s.MirroredValues},
+              {"steps and their mirror images", s.MirroredSteps}};
+  for (const auto& [name, sum] : sums) {
+    std::printf("  %-31s chi-square %9.1f of %4d degrees, deviation %+5.2f\n", name, sum.Sum,
+                sum.Degrees, sum.fncDeviation());
+  }
+  std::printf("  steps from value to value, counted over expected:");
+  for (int step = 0; step < 13; ++step) {
+    std::printf(
+        " %d: %.4f", step,
+        static_cast<double>(s.Steps[static_cast<std::size_t>(step)]) / fncStepExpected(s, step));
+  }
+  std::printf("\n");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::int64_t positions = argc > 1 ? std::atoll(argv[1]) : 10'000'000;
+  const std::uint64_t seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
+  for (const int decks : intShoeSizes) {
+    const std::int64_t slots = std::int64_t{decks} * intSlotsOfDeck;
+    prcPrint(fncShuffleStatistics(decks, (positions + slots - 1) / slots, seed));
+  }
+}

@@ -1,0 +1,25 @@
+#include <gtest/gtest.h>
+
+#include "bench/ExactOdds.h"
+
+namespace {
+
+TEST(OddsTest, EveryOrderOfSixCardsGivesThePublishedCounts) {
+  const auto odds = fncExactOdds();
+  std::int64_t all = 0;
+  for (std::size_t size = 0; size < odds.size(); ++size) {
+    const std::int64_t cards = std::int64_t{intSlotsOfDeck} * intShoeSizes[size];
+    all = cards * (cards - 1) * (cards - 2) * (cards - 3) * (cards - 4) * (cards - 5);
+    EXPECT_EQ(odds[size].fncAll(), all) << intShoeSizes[size];
+  }
+  const OddsRow& eight = odds.back();
+  EXPECT_EQ(eight.Banker, 2'292'252'566'437'888);
+  EXPECT_EQ(eight.Player, 2'230'518'282'592'256);
+  EXPECT_EQ(eight.Tie, 475'627'426'473'216);
+  EXPECT_EQ(all, 4'998'398'275'503'360);
+  EXPECT_NEAR(fncBankerEdge(eight), 0.010579, 5e-7);
+  EXPECT_NEAR(fncPlayerEdge(eight), 0.012351, 5e-7);
+  EXPECT_NEAR(fncTieEdge(eight), 0.143596, 5e-7);
+}
+
+}  // namespace
