@@ -192,8 +192,11 @@ void prcBookTypedBet(BetSide side, Integer Index) {
 void prcValidate(BetSide side, Integer Index, bool& Cancel) {
   Guarded(fncRules(side).ValidateLabel, [&] {
     if (!fncUnitValueStands()) {
-      // The box is closed: what was typed all the same must not stand unpaid.
-      fncBet(side, Index).Box.Text = "0";
+      // The box is closed: what was typed all the same must not stand unpaid, and what has been
+      // paid stays.
+      if (fncBet(side, Index).Money == 0) {
+        fncBet(side, Index).Box.Text = "0";
+      }
       return;
     }
     if (fncTypedBetGood(side, Index, Cancel)) {

@@ -189,7 +189,8 @@ void prcStatisticsRefresh() {
     At(30);
     for (int i = 0; i < intSeats; ++i) {
       const std::string section = fncSeatSection(i);
-      prcSetMasked(w.mskSteak[i], fncPlainNumberText(std::round(fncGetSetting(section, "Stake"))));
+      prcSetMasked(w.mskSteak[i],
+                   fncPlainNumberText(std::nearbyint(fncGetSetting(section, "Stake"))));
       prcShowMoney(w.lblWinningsStat[i], fncGetSetting(section, "Win"));
       prcShowMoney(w.lblCurrentMoney[i], fncCurrentMoney(i));
       prcShowMoney(w.lblTurnover[i], fncGetSetting(section, "Turnover"));

@@ -72,7 +72,18 @@ enum class ButtonStyle : std::uint8_t { Check, Group, Separator };
 
 /// How a control is dressed beyond its plain properties; each view knows what a look means on its
 /// screen.
-enum class Look : std::uint8_t { Plain, Plate, Primary, Chip, Shadow, Card, Patch, Link, Heading, Mat };
+enum class Look : std::uint8_t {
+  Plain,
+  Plate,
+  Primary,
+  Chip,
+  Shadow,
+  Card,
+  Patch,
+  Link,
+  Heading,
+  Mat
+};
 
 /// Mouse buttons as handlers get them.
 inline constexpr int intLeftButton = 1;
@@ -104,7 +115,7 @@ struct ControlEvents {
   /// Runs before the focus leaves; setting blnCancel keeps it.
   void (*Validate)(Control&, bool& blnCancel) = nullptr;
   /// The value of a scroll bar or slider, or the text of a box, has changed, by the user or by
-  /// fncSetValue.
+  /// prcSetValue.
   void (*Change)(Control&) = nullptr;
   void (*Resize)(Control&) = nullptr;
   void (*Timer)(Control&) = nullptr;

@@ -28,13 +28,15 @@ class Checked {
 
   constexpr operator Bits() const { return held_; }
 
+  /// Adds or takes off a whole number; throws faultOverflow, and keeps its value, where the result
+  /// does not fit.
   template <class Whole>
-  constexpr Checked& operator+=(Whole whole) {
+  requires(!std::floating_point<Whole>) constexpr Checked& operator+=(Whole whole) {
     held_ = fncFit(std::int64_t{held_} + static_cast<std::int64_t>(whole));
     return *this;
   }
   template <class Whole>
-  constexpr Checked& operator-=(Whole whole) {
+  requires(!std::floating_point<Whole>) constexpr Checked& operator-=(Whole whole) {
     held_ = fncFit(std::int64_t{held_} - static_cast<std::int64_t>(whole));
     return *this;
   }
@@ -131,6 +133,10 @@ constexpr std::int64_t fncDivide(std::int64_t numerator, std::int64_t denominato
 template <class T, int Rows>
 class Table {
  public:
+  constexpr Table() = default;
+  constexpr explicit Table(const std::array<T, static_cast<std::size_t>(Rows)>& rows)
+      : rows_(rows) {}
+
   constexpr T& operator[](std::int64_t index) { return rows_[fncBound(index)]; }
   constexpr const T& operator[](std::int64_t index) const { return rows_[fncBound(index)]; }
 

@@ -9,7 +9,7 @@ namespace {
 Procedure* prcInnermost = nullptr;
 }
 
-Procedure::Procedure(const char* label) : Label(label), Outer(prcInnermost) { prcInnermost = this; }
+Procedure::Procedure() : Outer(prcInnermost) { prcInnermost = this; }
 
 Procedure::~Procedure() { prcInnermost = Outer; }
 
@@ -18,8 +18,6 @@ void At(int line) {
     prcInnermost->Line = line;
   }
 }
-
-int fncLine() { return prcInnermost != nullptr ? prcInnermost->Line : 0; }
 
 void prcTellFault(const char* label, int line, const Fault& fault) {
   platform::MsgBox("Serious Error Occurred - Line " + std::to_string(line) + " Error - " +

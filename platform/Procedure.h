@@ -14,12 +14,11 @@ struct EndOfProgram {};
 
 /// A labelled procedure that is running; they nest as calls do.
 struct Procedure {
-  explicit Procedure(const char* label);
+  Procedure();
   ~Procedure();
   Procedure(const Procedure&) = delete;
   Procedure& operator=(const Procedure&) = delete;
 
-  const char* Label;
   int Line = 0;
   Procedure* Outer;
 };
@@ -27,9 +26,6 @@ struct Procedure {
 /// Notes that the innermost labelled procedure has reached this line: 10 for its first step, 20 for
 /// the next.
 void At(int line);
-
-/// The line that the innermost labelled procedure has reached, 0 outside of any.
-int fncLine();
 
 /// Shows the failure box for a fault at a line of the procedure called label, and ends the program.
 [[noreturn]] void prcTellFault(const char* label, int line, const Fault& fault);
@@ -41,7 +37,7 @@ auto Guarded(const char* label, Body&& body) {
   int line = 0;
   Fault fault = faultInternal;
   try {
-    const Procedure running(label);
+    const Procedure running;
     try {
       return std::forward<Body>(body)();
     } catch (...) {

@@ -93,8 +93,6 @@ std::string fncNumberText(double number) {
   return text.starts_with('-') ? text : " " + text;
 }
 
-std::string fncTrim(std::string_view text) { return std::string(fncTrimmed(text)); }
-
 bool fncEqualNoCase(std::string_view one, std::string_view other) {
   return std::ranges::equal(one, other, {}, fncLower, fncLower);
 }

@@ -22,9 +22,6 @@ std::string fncNumberText(double number);
 /// The same without the leading blank.
 std::string fncPlainNumberText(double number);
 
-/// text without the blanks at both of its ends.
-std::string fncTrim(std::string_view text);
-
 /// Whether two texts are equal without regard to the case of A to Z.
 bool fncEqualNoCase(std::string_view one, std::string_view other);
 

@@ -76,6 +76,12 @@ bool fncCheckFocused(Window& window, const Control& clicked) {
   return !blnCancel;
 }
 
+/// Whether the box that has the focus lets a control be clicked; the focus moves there if the
+/// control takes it.
+bool fncFocusAllows(Control& control) {
+  return fncTakesFocus(control) ? fncSetFocus(control) : fncCheckFocused(*control.Form, control);
+}
+
 }  // namespace
 
 void prcDispatch(const std::function<void()>& handlers) {
@@ -109,9 +115,7 @@ bool fncUserPress(Control& control, const Mouse& mouse) {
   if (!fncSeen(control) || !fncUsable(control)) {
     return false;
   }
-  const bool blnStands =
-      fncTakesFocus(control) ? fncSetFocus(control) : fncCheckFocused(*control.Form, control);
-  if (!blnStands || !fncSeen(control) || !fncUsable(control)) {
+  if (!fncFocusAllows(control) || !fncSeen(control) || !fncUsable(control)) {
     return false;
   }
   if (control.On->MouseDown != nullptr) {
@@ -130,7 +134,9 @@ void prcUserRelease(Control& control, const Mouse& mouse, bool blnInside) {
   if (control.On->MouseUp != nullptr) {
     control.On->MouseUp(control, mouse);
   }
-  if (blnInside && fncClicksWith(control, mouse.Button)) {
+  // Keys may have gone to a box while the button was held: what they typed is checked before the
+  // click acts on it.
+  if (blnInside && fncClicksWith(control, mouse.Button) && fncFocusAllows(control)) {
     prcUserClick(control);
   }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "platform/Texts.h"
 #include "platform/platform.h"
@@ -17,8 +18,7 @@ bool fncHasCheckedValue(ControlKind kind) {
   return kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
 }
 
-/// Takes the focus off the window's active control: its check may refuse, its lost-focus handler
-/// may take it back.
+/// Whether the window's active control lets the focus go: its check may refuse.
 bool fncReleaseFocus(Window& window) {
   Control* active = window.ActiveControl;
   if (active == nullptr || !fncTakesFocus(*active)) {
@@ -146,12 +146,17 @@ bool fncSetFocus(Control& control) {
   if (!fncReleaseFocus(window)) {
     return false;
   }
-  Control* left = window.ActiveControl;
-  window.ActiveControl = &control;
+  // Between the two nobody has the focus: a lost-focus handler that takes it back must not run the
+  // check of a box that never got it.
+  Control* left = std::exchange(window.ActiveControl, nullptr);
   if (left != nullptr && left->On->LostFocus != nullptr) {
     left->On->LostFocus(*left);
   }
-  if (window.ActiveControl == &control && control.On->GotFocus != nullptr) {
+  if (window.ActiveControl != nullptr || !fncTakesFocus(control)) {
+    return false;
+  }
+  window.ActiveControl = &control;
+  if (control.On->GotFocus != nullptr) {
     control.On->GotFocus(control);
   }
   return window.ActiveControl == &control;

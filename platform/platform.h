@@ -9,7 +9,7 @@
 // is decided when the program is linked: platform/qt for a real screen, platform/headless for tests
 // on a virtual clock.
 //
-// The end is final. After prcEnd no handler runs and no wait returns: each call here that serves
+// The end is final. After End no handler runs and no wait returns: each call here that serves
 // events throws EndOfProgram from then on, so that what stood behind the wait never runs.
 
 namespace platform {
@@ -28,7 +28,7 @@ void WaitEvents(std::uint32_t milliseconds);
 /// Milliseconds on a counter that only goes forward, wraps after 32 bits, and has no fixed start.
 std::uint32_t TickCount();
 
-/// A number that differs from call to call, from a fine clock.
+/// A number that differs from call to call, from a fine clock where there is one.
 std::uint64_t RandomSeed();
 
 enum class Icon : std::uint8_t { None, Stop, Exclamation, Information };
@@ -62,9 +62,6 @@ std::string DataFolder();
 
 /// The folder that holds the program's help file; no separator at the end.
 std::string HelpFolder();
-
-/// Whether the file may be read.
-bool FileExists(const std::string& path);
 
 /// Opens an address with the desktop's own opener. Above 32 is success; 0 no memory, 2 no such
 /// address, 31 no browser, any other failure its own number up to 32.

@@ -43,8 +43,8 @@ constexpr std::array<const char*, 4> strDealCaptions{"Deal", "5 hands", "10 hand
 
 void Form_Load(Window&) {
   Guarded("Baccarat table Form_Load", [] {
-    prcLayOutBaccTable();
     At(10);
+    prcLayOutBaccTable();
     prcApplyPlace();
     At(20);
     BaccTable.intCardHeight = fncInteger(BaccTable.pctCardBack[0].Height);
@@ -100,7 +100,7 @@ void Form_Unload(Window& form, bool& /*blnCancel*/) {
     prcWriteSetting(strSection, "Height", form.Height);
     prcWriteSetting(strSection, "Width", form.Width);
     At(20);
-    // A running shuffle tests this bound on every pass: this is what ends it.
+    // A shuffle that outlives the window tests this bound on every pass, and ends.
     intLastCard[intShoeNumber] = 0;
     At(30);
     prcReturnBets();
@@ -172,6 +172,8 @@ void prcPrepareBaccTable() {
   form.On = &evtBaccTable;
   form.Caption = "Velmora";
   form.TitleBar = false;
+  form.MinWidth = 10770;
+  form.MinHeight = 5400;
   form.Picture = picFelt;
   form.BackColor = {16, 40, 37};  // The frame's ground, seen behind the felt's round corners.
 }

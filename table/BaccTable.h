@@ -58,7 +58,8 @@ struct BaccTableWindow {
 
 extern BaccTableWindow BaccTable;
 
-/// A row of the bets of a seat: what the Tie, the Banker and the Player bet have in common.
+/// The bets of a seat. betSides goes in the order in which the game treats them: Tie, Banker,
+/// Player.
 enum BetSide : int { betTie, betBanker, betPlayer };
 inline constexpr std::array<BetSide, 3> betSides{betTie, betBanker, betPlayer};
 
@@ -84,7 +85,8 @@ inline bool fncBetStands(BetSide side, Integer intSeat) { return fncBetChips(sid
 /// one.
 double fncUnitValue();
 
-/// Whether strResult wins, loses or leaves a bet of this side.
+/// Whether a result "P", "B" or "T" wins, or loses, a bet of this side; a Banker or Player bet does
+/// neither on a tie.
 bool fncWins(BetSide side, const std::string& result);
 bool fncLoses(BetSide side, const std::string& result);
 

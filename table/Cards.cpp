@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr std::array<const char*, 4> strSuits{"Spade", "Club", "Diamond", "Heart"};
+constexpr Table<const char*, 4> strSuits({"Spade", "Club", "Diamond", "Heart"});
 constexpr std::array<const char*, 14> strValues{"",  "1", "2", "3",  "4",    "5",     "6",
                                                 "7", "8", "9", "10", "Jack", "Queen", "King"};
 
@@ -22,7 +22,7 @@ Integer CardNumber1To52(Integer card) { return card % intSlotsOfDeck + 1; }
 std::string CardSuite(Integer card) {
   const int suit = card % intSlotsOfDeck / 13;
   intSuitRow = suit + 1;
-  return strSuits[static_cast<std::size_t>(suit)];
+  return strSuits[suit];
 }
 
 std::string fncCardValueName(Integer value) {

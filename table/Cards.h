@@ -7,7 +7,7 @@
 // Cards by slot, face value and name. A slot says everything of a card: face value (slot mod 13) +
 // 1, suit (slot mod 52) div 13.
 
-/// Card number 1..52 of a slot.
+/// Card number 1..52 of a slot 0..415.
 Integer CardNumber1To52(Integer card);
 
 /// "Spade", "Club", "Diamond" or "Heart" for a slot; also sets intSuitRow to 1..4 for the count of

@@ -1,5 +1,7 @@
 #include "table/DealCommand.h"
 
+#include <algorithm>
+
 #include "betting/Funds.h"
 #include "betting/frmStatistics.h"
 #include "learn/CardNeed.h"
@@ -20,6 +22,9 @@ namespace {
 
 /// The checks before a run; each refusal is told and changes nothing.
 bool fncMayDeal() {
+  if (blnEndOfShoe[intShoeNumber] && blnShuffled[intShoeNumber]) {
+    return false;  // An ended shoe deals nothing, and its last hand must not be settled again.
+  }
   At(10);
   if (!blnShuffled[intShoeNumber]) {
     platform::MsgBox("Shoe is not yet shuffled", platform::Icon::Stop, "Velmora");
@@ -40,7 +45,7 @@ bool fncMayDeal() {
 Integer fncHandsAsked(Integer Index) {
   const std::string& text =
       Index == 0 ? BaccTable.mskHandsAtaTime.Text : BaccTable.duokkortos[Index].Text;
-  return fncInteger(fncVal(text));
+  return fncInteger(std::max(fncVal(text), 1.0));
 }
 
 void prcShowCardAreas() {

@@ -17,8 +17,8 @@ constexpr int intCardsBehindMark = 13;
 struct DrawSpan {
   int Low, High;
 };
-constexpr std::array<DrawSpan, 8> spnBankerDraws{
-    {{0, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 7}, {4, 7}, {6, 7}, {10, 10}}};
+constexpr Table<DrawSpan, 8> spnBankerDraws(
+    {{{0, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 7}, {4, 7}, {6, 7}, {10, 10}}});
 constexpr int intBankerStandsFrom = 6;  ///< When the Player has stood.
 
 Integer fncTotal(Integer one, Integer other) {
@@ -120,7 +120,7 @@ bool fncBankerDraws(Integer intBanker, bool blnPlayerStood, Integer intCard3Poin
   if (blnPlayerStood) {
     return intBanker < intBankerStandsFrom;
   }
-  const DrawSpan span = spnBankerDraws.at(static_cast<std::size_t>(int{intBanker}));
+  const DrawSpan span = spnBankerDraws[intBanker];
   return intCard3Point >= span.Low && intCard3Point <= span.High &&
          (intBanker != 3 || intCard3Point != 8);
 }

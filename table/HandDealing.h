@@ -3,7 +3,8 @@
 #include "platform/Numbers.h"
 
 /// Whether the Banker draws on a two-card total 0..7, by the Player's third card as a point value,
-/// or the Player's standing. The tableau is that of punto banco as casinos publish it.
+/// or the Player's standing. The tableau is that of punto banco as casinos publish it. Another
+/// total is faultSubscript.
 bool fncBankerDraws(Integer intBanker, bool blnPlayerStood, Integer intCard3Point);
 
 /// Deals one whole hand from shoe 0..8: cards, draws, totals, result and the watch for the end of

@@ -1,13 +1,15 @@
 #include "table/Shoe.h"
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "marking/MarkCard.h"
 #include "marking/MarkState.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 #include "shell/CardsDealt.h"
+#include "shell/MDIForm1.h"
+#include "shell/ShoeSize.h"
 #include "table/BaccTable.h"
 #include "table/Cards.h"
 #include "table/Random.h"
@@ -19,7 +21,7 @@ namespace {
 
 using UsedSlots = std::array<bool, intMostSlots>;
 
-/// A shoe is given up or ended: its marking cards are cleared and its hands start anew.
+/// A new shoe begins: its marking cards are cleared and its hands start anew.
 void prcResetShoe(const Integer& intShoe) {
   for (int i = 0; i < intShoes; ++i) {
     if (intMarkCardShoe[i] != intShoe) {
@@ -32,6 +34,18 @@ void prcResetShoe(const Integer& intShoe) {
     intHandsDealt[i] = 0;
     intScoreUnits[i] = intRun[i] = intColumn[i] = intTieRun[i] = 0;
     blnScoreStarted[i] = false;
+  }
+}
+
+/// A size from the settings that is none of the five never becomes a shoe: eight decks are taken
+/// instead, and marked as chosen where it is the shoe on the table.
+void prcMendShoeSize(const Integer& intShoe) {
+  if (std::ranges::find(intShoeSizes, int{intDecks[intShoe]}) != intShoeSizes.end()) {
+    return;
+  }
+  intDecks[intShoe] = intShoeSizes.back();
+  if (intShoe == intShoeNumber) {
+    prcDecks(intShoeSizes.back(), fncToolButton("Decks8"));
   }
 }
 
@@ -48,7 +62,7 @@ void prcFill(const Integer& intShoe, UsedSlots& blnUsed) {
 
 /// A slot not yet used: the one hit, or from there the next free one up or down, round the ends.
 int fncFreeSlot(int last, const UsedSlots& blnUsed) {
-  int slot = static_cast<int>(std::lrint(double{fncRandom()} * last));
+  int slot = static_cast<int>(fncRound(double{fncRandom()} * last));
   if (!blnUsed[static_cast<std::size_t>(slot)]) {
     return slot;
   }
@@ -118,8 +132,7 @@ void maisyk_Click() {
       const platform::Answer answer =
           platform::MsgBox("Not at end of shoe", platform::Icon::Exclamation, "Velmora",
                            platform::Buttons::OkCancel, platform::Answer::Cancel);
-      // The box serves events: a shoe that has begun to run meanwhile is left alone.
-      if (answer == platform::Answer::Cancel || blnBusy) {
+      if (answer == platform::Answer::Cancel) {
         return;
       }
     }
@@ -154,6 +167,7 @@ void prcShuffleTable() {
     At(100);
     prcHideSeatResults();
     At(110);
+    prcMendShoeSize(intShoeNumber);
     intDecksInPlay[intShoeNumber] = intDecks[intShoeNumber];
     At(120);
     prcWaitSeconds(2);
@@ -179,6 +193,7 @@ void Shuffle(const Integer& intShoe) {
     At(20);
     blnShoePlayerBlue[intShoe] = blnPlayerBlue;
     At(30);
+    prcMendShoeSize(intShoe);
     intLastCard[intShoe] = intDecks[intShoe] * intSlotsOfDeck - 1;
     At(40);
     intCardValue[intShoe].prcBound(intLastCard[intShoe]);

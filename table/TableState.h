@@ -15,18 +15,20 @@ inline constexpr int intPositions = 6;
 inline constexpr int intSlotsOfDeck = 52;
 inline constexpr int intMostSlots = 8 * intSlotsOfDeck;
 
-/// The five sizes a shoe may have, in decks.
+/// The five sizes that a shoe is shuffled in, in decks.
 inline constexpr std::array<int, 5> intShoeSizes{1, 2, 4, 6, 8};
 
 /// A shoe's row of slots or positions, 0..Last. Bounding it anew keeps what stood in it.
 class SlotRow {
  public:
+  /// Makes last the highest index; beyond 0..415 it is faultSubscript.
   void prcBound(std::int64_t last) {
     if (last < 0 || last >= intMostSlots) {
       throw faultSubscript;
     }
     last_ = last;
   }
+  /// An index outside 0..last is faultSubscript, as is any before the row was first bounded.
   Integer& operator[](std::int64_t index) { return slots_[fncChecked(index)]; }
   const Integer& operator[](std::int64_t index) const { return slots_[fncChecked(index)]; }
 
@@ -48,14 +50,16 @@ extern Table<SlotRow, intShoes>
     intShoeCards;  ///< The slot at a position; position 0 comes out first.
 extern Table<SlotRow, intShoes> intCardValue;  ///< Face value 1..13 of a slot.
 extern Table<Integer, intShoes> intDecks;      ///< Decks of the next shuffle.
-extern Table<Integer, intShoes> intDecksInPlay;
-extern Table<Integer, intShoes> intLastCard;  ///< Highest position and slot.
-extern Table<Integer, intShoes> intNextCard;  ///< Position of the next card out.
-extern Table<Integer, intShoes> intHandsDealt;
-extern Table<bool, intShoes> blnShuffled;
-extern Table<bool, intShoes> blnLastHand;   ///< The next hand is the last one.
-extern Table<bool, intShoes> blnEndOfShoe;  ///< No more hands.
-extern Table<bool, intShoes> blnShoePlayerBlue;
+extern Table<Integer, intShoes>
+    intDecksInPlay;  ///< Decks of the shoe in play; names its statistics key.
+extern Table<Integer, intShoes> intLastCard;    ///< Highest position and slot.
+extern Table<Integer, intShoes> intNextCard;    ///< Position of the next card out.
+extern Table<Integer, intShoes> intHandsDealt;  ///< Since the shuffle.
+extern Table<bool, intShoes> blnShuffled;       ///< The shoe may be dealt.
+extern Table<bool, intShoes> blnLastHand;       ///< The next hand is the last one.
+extern Table<bool, intShoes> blnEndOfShoe;      ///< No more hands.
+extern Table<bool, intShoes>
+    blnShoePlayerBlue;  ///< The colours of this shoe, fixed at its shuffle.
 
 // --- The last hand of a shoe: card numbers 1..52, face values 1..13, totals 0..9 ---
 
@@ -81,9 +85,9 @@ extern Table<Long, intShoes> lngMarkCardHwnd;     ///< Window handle, 0 for none
 // --- Values of a run of the program ---
 
 extern Integer intShoeNumber;
-extern bool blnBusy;  ///< A shuffle or a hand is running.
-extern Integer intHandsAtaTime;
-extern Table<bool, intPositions> blnCardClickable;
+extern bool blnBusy;             ///< A shuffle or a hand is running.
+extern Integer intHandsAtaTime;  ///< Hands asked for by the last press of a Deal button.
+extern Table<bool, intPositions> blnCardClickable;  ///< The card there may be turned by the user.
 
 /// Counts of cards that have left the shoe: Name of a face value, and Suit 1..4 for Spade, Club,
 /// Diamond, Heart.
@@ -101,7 +105,7 @@ extern Table<double, intSeats> dblPlayerWin;    ///< Running win.
 extern Table<double, intSeats> dblPlayerTotal;  ///< Stake and win, less what stands on the table.
 extern Table<Long, intSeats> lngBankerBet, lngPlayerBet, lngTieBet;
 
-// --- Settings in force ---
+// --- Settings in force, as the menus show them, and which windows stand ---
 
 extern bool blnLearn, blnCardFaceUp, blnShowCardValues, blnShowCardsDealtCount;
 extern bool blnShowScore, blnShowNaturals, blnPlayerBlue, blnDealDelay, blnDealAnimation;

@@ -10,7 +10,7 @@ namespace {
 constexpr Colour clrRed{255, 64, 64};
 constexpr Colour clrBlue{0, 0, 255};
 
-void prcShowFirst(Control& control, bool blnShow) {
+void prcOpen(Control& control, bool blnShow) {
   control.Visible = blnShow;
   control.Enabled = blnShow;
 }
@@ -19,7 +19,7 @@ void prcShowDealButtons(bool blnShow) {
   for (Control& button : BaccTable.duokkortos) {
     button.Visible = blnShow;
   }
-  prcShowFirst(BaccTable.mskHandsAtaTime, blnShow);
+  prcOpen(BaccTable.mskHandsAtaTime, blnShow);
 }
 
 /// A bet whose box is 0 or no number loses its money field and its value label.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <filesystem>
 #include <map>
 #include <stdexcept>
 
@@ -197,11 +196,6 @@ double ScreenWidth() { return state.ScreenWidth; }
 double ScreenHeight() { return state.ScreenHeight; }
 std::string DataFolder() { return state.Folder; }
 std::string HelpFolder() { return state.Folder; }
-
-bool FileExists(const std::string& path) {
-  std::error_code failed;
-  return std::filesystem::is_regular_file(path, failed);
-}
 
 int OpenAddress(const std::string& address) {
   state.Opened.push_back(address);

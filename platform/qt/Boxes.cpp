@@ -58,6 +58,7 @@ void prcColour(QWidget& widget, const Control& control) {
 
 EditView::EditView(ControlView& view, QWidget* parent) : QLineEdit(parent), view_(&view) {
   setFocusPolicy(Qt::TabFocus);
+  setAcceptDrops(false);  // Text dropped into a box without the focus would never be checked.
   if (view.Drawn.Kind == ControlKind::MaskedEdit && *view.Drawn.Mask != '\0') {
     setValidator(new MaskFilter(view.Drawn, this));
   }

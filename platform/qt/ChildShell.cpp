@@ -147,8 +147,11 @@ void ChildShell::mousePressEvent(QMouseEvent* event) {
     prcServe([window] { prcUserClose(*window); });
     return;
   }
-  blnDragged_ = true;
   edges_ = fncEdges(at);
+  if (!view_->Source->TitleBar && edges_ == Qt::Edges()) {
+    return;  // A window without a title bar stays where the program puts it.
+  }
+  blnDragged_ = true;
   from_ = event->globalPosition().toPoint();
   start_ = geometry();
 }

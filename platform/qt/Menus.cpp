@@ -133,7 +133,7 @@ void prcUpdateToolbar(ControlView& view, const Control& control) {
   const bool blnLarge = control.Height >= dblLargeBar;
   const int side = fncScaled(blnLarge ? 24 : 18);
   bar->setIconSize(QSize(side, side));
-  bar->setToolButtonStyle(blnLarge ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setFixedHeight(fncPixels(control.Height));
   bar->setFont(fncFont(control.Face));
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
+#include "platform/platform.h"
 #include "platform/qt/Boxes.h"
 #include "platform/qt/ChildShell.h"
 #include "platform/qt/ControlViews.h"
@@ -103,8 +104,30 @@ void prcKeepInner(WindowView& view) {
   }
 }
 
+/// A size that makes sense for a window designed to be this large; a damaged one is replaced.
+double fncSoundSize(double asked, double designed) {
+  return asked < designed || asked > 4 * designed ? designed : asked;
+}
+
+/// Stored places can be damaged or come from a larger screen: a child keeps a size to work with,
+/// and its top within the screen. What it really gets is written back.
+void prcMendChild(Window& window) {
+  if (!window.Sizable && window.MinWidth > 0) {
+    const double width = fncSoundSize(window.Width, window.MinWidth);
+    if (width != window.Width) {
+      window.Left = (platform::ScreenWidth() - width) / 2;
+    }
+    window.Width = width;
+    window.Height = fncSoundSize(window.Height, window.MinHeight);
+  }
+  constexpr double least = 1200;
+  window.Height = std::max(window.Height, least);
+  window.Top = std::clamp(window.Top, 0.0, std::max(0.0, platform::ScreenHeight() - 2 * least));
+}
+
 void prcPlaceChild(WindowView& view) {
-  const Window& window = *view.Source;
+  Window& window = *view.Source;
+  prcMendChild(window);
   const QMargins frame = fncFrameOf(view);
   QRect place = fncPixelRect(window.Left, window.Top, window.Width, window.Height);
   place.setWidth(std::max(place.width(), frame.left() + frame.right()));
@@ -173,7 +196,8 @@ void prcShowTop(WindowView& view) {
   const Window& window = *view.Source;
   view.Shell->setWindowModality(view.blnModal ? Qt::ApplicationModal : Qt::NonModal);
   const WindowView* frame = fncFrameView();
-  if (window.Kind == WindowKind::Dialog && frame != nullptr && frame->Shell->isVisible()) {
+  if ((window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Float) && frame != nullptr &&
+      frame->Shell->isVisible()) {
     view.Shell->winId();
     view.Shell->windowHandle()->setTransientParent(frame->Shell->windowHandle());
   }

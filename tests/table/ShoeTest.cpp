@@ -83,8 +83,8 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
     ASSERT_EQ(rows.size(), static_cast<std::size_t>(burnt)) << first;
     ASSERT_EQ(intNextCard[0], burnt);
     ASSERT_EQ(BaccTable.prgShoe.Value, burnt);
-    ASSERT_EQ(fncTrim(rows.front().substr(0, 13)),
-              fncCardValueName(first) + " " + CardSuite(intShoeCards[0][0]));
+    ASSERT_TRUE(
+        rows.front().starts_with(fncCardValueName(first) + " " + CardSuite(intShoeCards[0][0])));
     for (const std::string& row : rows) {
       ASSERT_EQ(row.size(), 21U);
       ASSERT_EQ(row.substr(14), "<-Burnt");
