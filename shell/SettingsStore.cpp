@@ -12,12 +12,18 @@ namespace {
 
 constexpr std::size_t intLongestValue = 99;
 
-/// Without these a first run would open a table of no size, with seats that have no money. Twips,
-/// money per chip, money.
+/// Without these a first run would open a table of no size, seats that have no money and lists that
+/// lie over the menus. Twips, money per chip, money.
 constexpr const char* strFirstSettings =
     "[frmBaccTable]\r\n"
     "Height= 5400\r\n"
     "Width= 10770\r\n"
+    "[frmCardsDealt]\r\n"
+    "Top= 6000\r\n"
+    "Left= 300\r\n"
+    "[frmCardsDealtCount]\r\n"
+    "Top= 1800\r\n"
+    "Left= 300\r\n"
     "[Misc]\r\n"
     "UnitValue= 10\r\n"
     "[Player1Stats]\r\n"

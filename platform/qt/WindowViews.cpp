@@ -197,7 +197,9 @@ void prcShowTop(WindowView& view) {
   view.Shell->setWindowModality(view.blnModal ? Qt::ApplicationModal : Qt::NonModal);
   const WindowView* frame = fncFrameView();
   if ((window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Float) && frame != nullptr &&
-      frame->Shell->isVisible()) {
+      frame->Source->Visible) {
+    // The frame itself may come on screen a moment later: the tie is kept by the native windows.
+    frame->Shell->winId();
     view.Shell->winId();
     view.Shell->windowHandle()->setTransientParent(frame->Shell->windowHandle());
   }
