@@ -131,6 +131,9 @@ void EditView::keyPressEvent(QKeyEvent* event) {
 RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), view_(&view) {
   setFocusPolicy(Qt::TabFocus);
   setUniformItemSizes(true);
+  setTextElideMode(Qt::ElideNone);
+  setFrameShape(QFrame::Box);
+  setLineWidth(1);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -148,7 +151,7 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
     setFont(fncFont(control.Face));
     prcColour(*this, control);
   }
-  prcFill(control.List, blnFirst);
+  prcFill(control, blnFirst);
   if (currentRow() != control.ListIndex) {
     setCurrentRow(control.ListIndex);
   }
@@ -157,7 +160,8 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   }
 }
 
-void RowsView::prcFill(const std::vector<std::string>& rows, bool blnFirst) {
+void RowsView::prcFill(const Control& control, bool blnFirst) {
+  const std::vector<std::string>& rows = control.List;
   const std::vector<std::string>& drawn = view_->Drawn.List;
   const bool blnGrown = !blnFirst && drawn.size() <= rows.size() &&
                         std::equal(drawn.begin(), drawn.end(), rows.begin());
@@ -165,7 +169,11 @@ void RowsView::prcFill(const std::vector<std::string>& rows, bool blnFirst) {
     clear();
   }
   for (std::size_t row = static_cast<std::size_t>(count()); row < rows.size(); ++row) {
-    addItem(fncText(rows[row]));
+    auto* shown = new QListWidgetItem(fncText(rows[row]), this);
+    if (control.Face.Fixed) {
+      // Rows set solid, as the lists are laid out for: thirteen counts fit their box.
+      shown->setSizeHint(QSize(0, font().pixelSize()));
+    }
   }
 }
 

@@ -45,7 +45,7 @@ class RowsView : public QListWidget {
   void prcUpdate(const Control& control, bool blnFirst);
 
  private:
-  void prcFill(const std::vector<std::string>& rows, bool blnFirst);
+  void prcFill(const Control& control, bool blnFirst);
 
   ControlView* view_;
 };
