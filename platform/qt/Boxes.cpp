@@ -132,7 +132,7 @@ RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), vi
   setFocusPolicy(Qt::TabFocus);
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
-  setFrameShape(QFrame::Box);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(1);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
