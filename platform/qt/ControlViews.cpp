@@ -117,6 +117,7 @@ void prcUpdateChecked(ControlView& view, const Control& next, bool /*blnFirst*/)
     palette.setColor(QPalette::Window, fncColour(next.BackColor));
   }
   button->setPalette(palette);
+  button->setBackgroundRole(QPalette::Window);
   button->setAutoFillBackground(!next.BackColor.Clear);
   button->setFont(fncFittedFont(next, fncPlace(next).size() - QSize(fncScaled(22), 0)));
   button->setText(fncText(next.Text));

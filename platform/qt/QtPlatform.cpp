@@ -130,15 +130,12 @@ void RunModal(Window& window) {
   qt::prcThrowIfEnded();
   const Window* before = qt::fncActiveWindow();
   const std::int32_t handle = window.hWnd;
-  qt::prcSyncAll();
-  if (qt::WindowView* view = qt::fncViewOf(window); view != nullptr) {
-    qt::prcSetModal(*view, true);
+  {
+    const qt::Modal modal(window);
+    qt::prcSyncAll();
     qt::prcBringUp(window);
-  }
-  qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
-  qt::prcSyncAll();
-  if (qt::WindowView* view = qt::fncViewOf(window); view != nullptr) {
-    qt::prcSetModal(*view, false);
+    qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
+    qt::prcSyncAll();
   }
   const auto& loaded = fncWindows();
   const auto found = std::find(loaded.begin(), loaded.end(), before);

@@ -55,7 +55,6 @@ struct WindowView {
   QPointer<QWidget> Shell;
   QPointer<QWidget> Ground;
   DrawnWindow Drawn;
-  bool blnModal = false;
   bool blnFirst = true;
   bool blnResized = false;         ///< The inner size has changed; its handler is due.
   bool blnShown = false;           ///< It has come up and is to get the input.

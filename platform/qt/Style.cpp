@@ -47,6 +47,39 @@ constexpr MetricRow mtrRows[] = {
     {QStyle::PM_LayoutBottomMargin, 10},
 };
 
+/// The square of a check box or the circle of an option, with its mark.
+void prcDrawIndicator(QPainter& painter, const QStyleOption& option, bool blnRound) {
+  const bool blnEnabled = (option.state & QStyle::State_Enabled) != 0;
+  const bool blnOn = (option.state & QStyle::State_On) != 0;
+  const double line = fncScaled(1);
+  const QRectF box = QRectF(option.rect).adjusted(line, line, -line, -line);
+  const QColor ink = QColor::fromRgb(blnEnabled ? rgbFelt : rgbFaded);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor::fromRgb(blnEnabled ? rgbInk : rgbOutline), line));
+  painter.setBrush((option.state & QStyle::State_Sunken) != 0 ? QColor(0xE9, 0xDF, 0xBE)
+                                                              : QColor::fromRgb(rgbPaper));
+  if (blnRound) {
+    painter.drawEllipse(box);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    const double inset = box.width() / 4;
+    if (blnOn) {
+      painter.drawEllipse(box.adjusted(inset, inset, -inset, -inset));
+    }
+  } else {
+    painter.drawRoundedRect(box, 2 * fncScale(), 2 * fncScale());
+    const auto at = [&](double x, double y) {
+      return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+    };
+    if (blnOn) {
+      painter.setPen(QPen(ink, 2 * fncScale(), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+      painter.drawPolyline(QPolygonF({at(0.2, 0.55), at(0.42, 0.76), at(0.8, 0.25)}));
+    }
+  }
+  painter.restore();
+}
+
 class Dress : public QProxyStyle {
  public:
   Dress() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -97,6 +130,10 @@ class Dress : public QProxyStyle {
       if (!widget->inherits("QPushButton")) {
         prcDrawFocus(*painter, option->rect);
       }
+      return;
+    }
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
+      prcDrawIndicator(*painter, *option, element == PE_IndicatorRadioButton);
       return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -20,6 +20,12 @@ namespace qt {
 
 namespace {
 
+std::vector<const Window*> wndModal;  // Innermost last.
+
+bool fncModal(const Window& window) {
+  return std::ranges::find(wndModal, &window) != wndModal.end();
+}
+
 ChildShell* fncChild(const WindowView& view) { return qobject_cast<ChildShell*>(view.Shell); }
 
 QRect fncDesk() {
@@ -155,7 +161,8 @@ void prcPlaceTop(WindowView& view) {
     view.Shell->setFixedSize(inner.expandedTo(QSize(1, 1)));
   }
   QPoint at(fncPixels(window.Left), fncPixels(window.Top));
-  if (window.Centred || window.Kind == WindowKind::Start) {
+  const bool blnNoPlace = window.Kind == WindowKind::Dialog && window.Left == 0 && window.Top == 0;
+  if (window.Centred || window.Kind == WindowKind::Start || blnNoPlace) {
     at = fncDesk().center() - QPoint(inner.width() / 2, inner.height() / 2);
     window.Left = fncTwips(at.x());
     window.Top = fncTwips(at.y());
@@ -194,7 +201,7 @@ void prcPlaceWindow(WindowView& view) {
 
 void prcShowTop(WindowView& view) {
   const Window& window = *view.Source;
-  view.Shell->setWindowModality(view.blnModal ? Qt::ApplicationModal : Qt::NonModal);
+  view.Shell->setWindowModality(fncModal(window) ? Qt::ApplicationModal : Qt::NonModal);
   const WindowView* frame = fncFrameView();
   if ((window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Float) && frame != nullptr &&
       frame->Source->Visible) {
@@ -207,6 +214,15 @@ void prcShowTop(WindowView& view) {
     view.Shell->showMaximized();
   } else {
     view.Shell->show();
+  }
+}
+
+/// A window that is up takes its modality only by coming up again.
+void prcShowAnew(const Window& window) {
+  WindowView* view = fncViewOf(window);
+  if (view != nullptr && view->Shell->isVisible()) {
+    view->Shell->hide();
+    prcShowTop(*view);
   }
 }
 
@@ -341,14 +357,15 @@ void prcWindowMoved(WindowView& view) {
   }
 }
 
-void prcSetModal(WindowView& view, bool blnModal) {
-  if (view.blnModal == blnModal) {
-    return;
-  }
-  view.blnModal = blnModal;
-  if (view.Shell->isVisible()) {
-    view.Shell->hide();
-    prcShowTop(view);
+Modal::Modal(const Window& window) : window_(window) {
+  wndModal.push_back(&window);
+  prcShowAnew(window);
+}
+
+Modal::~Modal() {
+  std::erase(wndModal, &window_);
+  if (!fncEnded()) {
+    prcShowAnew(window_);
   }
 }
 

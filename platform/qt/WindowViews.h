@@ -17,8 +17,18 @@ void prcSyncWindow(WindowView& view);
 /// its resize handler runs if it is due.
 void prcWindowMoved(WindowView& view);
 
-/// Makes a window modal, or not, from the next time it comes up.
-void prcSetModal(WindowView& view, bool blnModal);
+/// Makes a window modal for as long as this lives, from the next time it comes up; one that is up
+/// comes up anew.
+class Modal {
+ public:
+  explicit Modal(const Window& window);
+  ~Modal();
+  Modal(const Modal&) = delete;
+  Modal& operator=(const Modal&) = delete;
+
+ private:
+  const Window& window_;
+};
 
 /// Lets the keyboard focus follow the model: the active control of the active window.
 void prcFollowActive();
