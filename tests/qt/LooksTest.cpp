@@ -127,8 +127,6 @@ TEST_F(Looks, NamesTipsAndCursors) {
   felt.lblBottom.MousePointer = Pointer::SizeUpDown;
   user::Settle();
   EXPECT_EQ(real::Widget(felt.lblBottom).cursor().shape(), Qt::SizeVerCursor);
-  EXPECT_TRUE(real::Widget(felt.lblOver).testAttribute(Qt::WA_TransparentForMouseEvents));
-  EXPECT_FALSE(real::Widget(felt.lblBottom).testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
 TEST_F(Looks, AScreenReaderFindsRolesNamesAndActions) {
@@ -292,9 +290,9 @@ TEST_F(FrameLooks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   user::Settle();
   EXPECT_EQ(qt::fncPixels(framed.Child.Left), qt::fncPixels(600) + 30);
   EXPECT_EQ(qt::fncPixels(framed.Child.Top), qt::fncPixels(600) + 20);
-  framed.Child.Top = -90;
+  framed.Child.Left = -90;
   user::Settle();
-  EXPECT_EQ(shell.y(), qt::fncPixels(-90)) << "code may put it anywhere";
+  EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }
 
 }  // namespace
