@@ -36,7 +36,7 @@ wall "only platform/ knows the file system" \
 wall "only platform/ knows the locale and the environment" \
   '<(locale|clocale)>|setlocale|std::locale|getenv|strto[dflu]|sto[dfil]\(' "${outside_platform[@]}"
 wall "unfinished work belongs in an issue" \
-  '(TO''DO|FIX''ME|XX''X)' "${code[@]}" '*.sh' '*.cmake' '*.md' play check
+  '(TO''DO|FIX''ME|\bXX''X\b)' "${code[@]}" '*.sh' '*.cmake' '*.md' play check
 wall "name the thing itself: numbers of chapters go stale" \
   '(^|[^A-Za-z])Parts? [0-9]+\.[0-9]' .
 wall "lines end without blanks, and are indented with blanks" \
