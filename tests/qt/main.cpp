@@ -1,10 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <cstdio>
 
+#include "platform/platform.h"
 #include "platform/qt/Session.h"
 
 // The window tests bring up one application object for all of them; each test resets what it shows.
+
+namespace {
+
+/// The part of the second process in OneInstanceTest.cpp.
+int fncActSecondInstance() {
+  std::putchar(platform::ActivateOtherInstance() ? 'o' : 'f');
+  std::fflush(stdout);
+  return QApplication::exec();
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -16,6 +29,9 @@ int main(int argc, char** argv) {
   }
   QApplication::setApplicationName(QStringLiteral("Velmora"));
   QApplication application(argc, argv);
+  if (qEnvironmentVariableIsSet("VELMORA_SECOND_INSTANCE")) {
+    return fncActSecondInstance();
+  }
   qt::prcBringUpPlatform();
   const int result = RUN_ALL_TESTS();
   qt::prcTakeDownPlatform();

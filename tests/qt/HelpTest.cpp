@@ -1,0 +1,65 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/qt/HelpWindow.h"
+#include "tests/conformance/Adapter.h"
+
+namespace {
+
+QString fncBuiltHelp() {
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/../VELMORA.HLP");
+}
+
+qt::HelpWindow* fncShown() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* help = qobject_cast<qt::HelpWindow*>(window); help != nullptr && help->isVisible()) {
+      return help;
+    }
+  }
+  return nullptr;
+}
+
+TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
+  user::Reset();
+  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
+  qt::HelpWindow* help = fncShown();
+  ASSERT_NE(help, nullptr);
+  EXPECT_GT(help->fncPages().toPlainText().size(), 100);
+  EXPECT_TRUE(help->fncPages().toPlainText().contains(QStringLiteral("Velmora")));
+  platform::ShowHelp(fncBuiltHelp().toStdString(), 1);
+  EXPECT_EQ(fncShown(), help);
+  EXPECT_TRUE(user::Boxes().empty());
+  delete help;
+}
+
+TEST(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {
+  QTemporaryDir folder;
+  QFile built(fncBuiltHelp());
+  ASSERT_TRUE(built.open(QIODevice::ReadOnly));
+  const QByteArray whole = built.readAll();
+  const struct {
+    const char* Name;
+    QByteArray Content;
+  } rows[] = {{"missing", {}},
+              {"empty", ""},
+              {"text", "this is no help file"},
+              {"cut", whole.left(whole.size() / 3)},
+              {"header", whole.left(4096)}};
+  for (const auto& row : rows) {
+    user::Reset();
+    const QString path = folder.filePath(QString::fromLatin1(row.Name));
+    if (!row.Content.isNull()) {
+      QFile file(path);
+      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write(row.Content);
+    }
+    platform::ShowHelp(path.toStdString(), 0);
+    EXPECT_EQ(user::Boxes().size(), 1U) << row.Name;
+    EXPECT_EQ(fncShown(), nullptr) << row.Name;
+  }
+}
+
+}  // namespace
