@@ -23,11 +23,11 @@ bool fncWritable(const QString& folder) {
 }
 
 QString fncFindDataFolder() {
-  const QString own = QCoreApplication::applicationDirPath();
+  QString own = QCoreApplication::applicationDirPath();
   if (fncWritable(own)) {
     return own;
   }
-  const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
   QDir().mkpath(data);
   return data;
 }
