@@ -179,6 +179,9 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       if (WindowView* view = fncWindowViewOf(&widget);
           view != nullptr && view->Shell == &widget && !fncSyncing()) {
         Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
+        if (view->Source->Kind == WindowKind::Frame) {
+          prcRaiseFloats();
+        }
         if (window != nullptr) {
           prcActivate(*window);
         }

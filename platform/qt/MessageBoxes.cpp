@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QWindow>
 #include <memory>
@@ -50,7 +51,7 @@ Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Butt
               Answer standard) {
   qt::prcThrowIfEnded();
   qt::prcSyncAll();
-  QWidget* parent = QApplication::activeWindow();
+  const QPointer<QWidget> parent(QApplication::activeWindow());
   const auto box = std::make_unique<QMessageBox>();
   prcFillBox(*box, text, icon, title, buttons, standard);
   if (parent != nullptr && parent->windowHandle() != nullptr) {
@@ -61,6 +62,9 @@ Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Butt
   box->show();
   box->activateWindow();
   qt::prcServeUntil([&] { return !box->isVisible(); });
+  if (parent != nullptr) {
+    parent->activateWindow();  // Left alone, a window manager may prefer a floating window.
+  }
   return box->standardButton(box->clickedButton()) == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
 }
 

@@ -24,7 +24,7 @@ std::unique_ptr<QLocalServer> srvOwn;
 
 /// The user's own folder; the lock in it belongs to whoever runs the program there first.
 QString fncRunFolder() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
   QDir().mkpath(folder);
   return folder;
 }

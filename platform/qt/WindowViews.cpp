@@ -412,6 +412,15 @@ void prcBringUp(Window& window) {
   prcActivate(window);
 }
 
+void prcRaiseFloats() {
+  for (const Window* window : fncWindows()) {
+    const WindowView* view = window->Kind == WindowKind::Float ? fncViewOf(*window) : nullptr;
+    if (view != nullptr && view->Shell->isVisible()) {
+      view->Shell->raise();
+    }
+  }
+}
+
 Window* fncNextChild() {
   std::vector<Window*> children;
   for (Window* window : fncWindows()) {

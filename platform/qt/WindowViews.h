@@ -36,6 +36,9 @@ void prcFollowActive();
 /// Makes the window the one that has the input, on the screen and in the model.
 void prcBringUp(Window& window);
 
+/// Puts the floating windows above the frame, where the window manager has lost their order.
+void prcRaiseFloats();
+
 /// The next visible child of the frame behind the active one, in the order of their loading; none
 /// if there is no other.
 Window* fncNextChild();
