@@ -115,6 +115,7 @@ TEST(CardArt, FromTheEdgesAFourIsNoSixAndANineNoTen) {
       QImage seen[2];
       for (int k = 0; k < 2; ++k) {
         seen[k] = fncBlank(2);
+        seen[k].fill(Qt::white);  // Black pips on nothing would look like nothing.
         QPainter painter(&seen[k]);
         prcRender(painter, fncCard(13 * suit + (k == 0 ? pair.One : pair.Other)), "pips", 2);
       }
