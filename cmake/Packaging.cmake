@@ -3,17 +3,17 @@ if(NOT VELMORA_QT)
   return()
 endif()
 
-set(app_id example.velmora.Velmora)
 configure_file(packaging/velmora.6.in velmora.6 @ONLY)
 
 install(TARGETS velmora)
 install(FILES ${CMAKE_BINARY_DIR}/VELMORA.HLP DESTINATION ${CMAKE_INSTALL_DATADIR}/velmora)
-install(FILES packaging/${app_id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES packaging/${app_id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES packaging/velmora.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/example.velmora.Velmora.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES assets/pictures/icon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
         RENAME velmora.svg)
 install(FILES ${CMAKE_BINARY_DIR}/velmora.6 DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/velmora RENAME copyright)
 
 set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_PACKAGE_NAME velmora)

@@ -4,9 +4,9 @@
 
 fail() {
   maim "$pictures/failed.png" 2>/dev/null || true
-  look || true
+  look && cp "$seen" "$pictures/failed.txt" || true
   echo "The tour failed: $1" >&2
-  echo "The screen at that moment: $pictures/failed.png, what it told: $seen" >&2
+  echo "The screen at that moment: $pictures/failed.png, and what it told: $pictures/failed.txt" >&2
   exit 1
 }
 
@@ -44,8 +44,6 @@ place() {
   awk -F '\t' '{ print int($6 + $8 / 2), int($7 + $9 / 2) }' <<<"$found"
 }
 
-name_of() { line "$1" | cut -f 2; }
-
 click_at() { xdotool mousemove "$1" "$2" sleep 0.05 click "${3:-1}" sleep 0.1; }
 
 # click PATTERN [BUTTON]: looks, and clicks the middle of what matches.
@@ -79,9 +77,10 @@ setting() {
     }' "$home/VELMORA.INI" 2>/dev/null
 }
 
-# expect SECTION KEY VALUE SENTENCE: fails with the sentence when the settings file holds another value.
+# expect SECTION KEY VALUE SENTENCE [SECONDS]: fails with the sentence when the settings file does not come to hold the
+# value within 5 seconds, or as many as are given.
 expect() {
-  local value until=$((SECONDS + 5))
+  local value until=$((SECONDS + ${5:-5}))
   until value=$(setting "$1" "$2") && [ "$value" = "$3" ]; do
     [ "$SECONDS" -lt "$until" ] || fail "$4 (\"$2\" of [$1] is \"$value\", not \"$3\")"
     sleep 0.1

@@ -2,12 +2,14 @@
 # The tour: the real program on a virtual display, driven by a real mouse and keyboard from the start screen to the
 # end of a shoe. Leaves numbered pictures in build/tour and prints their paths; fails with a sentence when a step has
 # no effect.
-#   tests/tour/tour.sh [WIDTHxHEIGHT]     the screen, 1366x768 when left out
-set -euo pipefail
+#   tests/tour/tour.sh [WIDTHxHEIGHT [PRESET]]     the screen, 1366x768 when left out, and the build, release
+set -eEuo pipefail
+trap 'echo "The tour stopped in $BASH_SOURCE, line $LINENO: $BASH_COMMAND" >&2' ERR
 cd "$(dirname "$0")/../.."
 
 size=${1:-1366x768}
-build=$PWD/build/release
+preset=${2:-release}
+build=$PWD/build/$preset
 eyes=$build/tests/tour/velmora_eyes
 pictures=$PWD/build/tour
 [ "$size" = 1366x768 ] || pictures=$pictures/$size
@@ -15,21 +17,20 @@ pictures=$PWD/build/tour
 # The only places that the tour knows by heart, in twips on the table: a control that is found neither by its name
 # nor by its text.
 chip_value_box='<T>Enter between \$10 and \$9990<T>'
-chip_value_left=1530 chip_value_top=4935 chip_value_width=780
+chip_value_left=1620 chip_value_top=4935 chip_value_width=780
 seat1_banker_chip5="5182 2872"
 seat1_tie_chip1="4762 2242"
 seat2_player_box="5572 3487"
-first_card="1492 3420"
+bare_felt="250 2500"
 first_strip="1492 4207"
 second_card="2692 3420"
 third_card="8032 3420"
 fourth_card="9232 3420"
 
-# A display, a session bus and a home of its own, all of which go when the tour does.
+# A session bus of its own, which goes when the tour does.
 if [ -z "${TOUR_INSIDE:-}" ]; then
   export TOUR_INSIDE=1
-  exec xvfb-run --auto-servernum --server-args="-screen 0 ${size}x24 -nolisten tcp" \
-    dbus-run-session -- "$0" "$size" 2> >(grep -v -e dbus-daemon -e '^SpiRegistry' >&2)
+  exec dbus-run-session -- "$0" "$size" "$preset" 2> >(grep -v -e dbus-daemon -e '^SpiRegistry' >&2 || true)
 fi
 
 home=$(mktemp -d)
@@ -41,18 +42,28 @@ trap 'kill "${jobs_to_end[@]}" 2>/dev/null; wait 2>/dev/null; rm -rf "$home"' EX
 . tests/tour/driver.sh
 
 mkdir -p "$pictures"
-rm -f "$pictures"/*.png
+rm -f "$pictures"/*.png "$pictures"/failed.txt
 cp "$build/velmora" "$build/VELMORA.HLP" "$home/"
 export HOME=$home XDG_RUNTIME_DIR=$home XDG_DATA_HOME=$home/data XDG_CONFIG_HOME=$home/config LC_ALL=C.UTF-8
 export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_SCALE_FACTOR=1
 unset WAYLAND_DISPLAY
+
+# The first free display that the server finds.
+Xvfb -displayfd 1 -screen 0 "${size}x24" -nolisten tcp >"$home/display" 2>/dev/null &
+jobs_to_end+=($!)
+until [ -s "$home/display" ]; do
+  kill -0 $! 2>/dev/null || fail "the virtual display does not start"
+  sleep 0.1
+done
+DISPLAY=:$(cat "$home/display")
+export DISPLAY
 
 jwm -f tests/tour/jwmrc 2>/dev/null &
 jobs_to_end+=($!)
 look || fail "there is no accessibility bus"
 
 start_program() {
-  "$home/velmora" &
+  "$home/velmora" 2>"$pictures/velmora.log" &
   program=$!
   jobs_to_end+=("$program")
 }
