@@ -189,14 +189,21 @@ void prcBookTypedBet(BetSide side, Integer Index) {
   prcTakeOtherOff(side, Index, false);
 }
 
+/// Without a chip value the box is closed: what was typed all the same must not stand unpaid, and
+/// what was paid before the value went bad goes back to its seat.
+void prcTakeUnreckonedOff(BetSide side, Integer Index) {
+  const BetControls bet = fncBet(side, Index);
+  dblPlayerTotal[Index] += bet.Money;
+  bet.Box.Text = "0";
+  bet.Money = 0;
+  bet.Value.Visible = false;
+  prcShowTotal(Index);
+}
+
 void prcValidate(BetSide side, Integer Index, bool& Cancel) {
   Guarded(fncRules(side).ValidateLabel, [&] {
     if (!fncUnitValueStands()) {
-      // The box is closed: what was typed all the same must not stand unpaid, and what has been
-      // paid stays.
-      if (fncBet(side, Index).Money == 0) {
-        fncBet(side, Index).Box.Text = "0";
-      }
+      prcTakeUnreckonedOff(side, Index);
       return;
     }
     if (fncTypedBetGood(side, Index, Cancel)) {

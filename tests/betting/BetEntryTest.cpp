@@ -179,6 +179,18 @@ TEST_F(BetEntry, BetsAreClosedWithoutAChipValue) {
   }
 }
 
+TEST_F(BetEntry, APaidBetComesBackWhenItsBoxIsLeftWithoutAChipValue) {
+  headless::Click(BaccTable.lblTBetInc5[0]);
+  EXPECT_DOUBLE_EQ(dblPlayerTotal[0], 950);
+  BaccTable.txtUnitValue.Text = "";
+  headless::Click(BaccTable.lblTBetInc1[0]);
+  headless::Tab(BaccTable.Form);
+  EXPECT_EQ(fncBetChips(betTie, 0), 0);
+  EXPECT_EQ(lngTieBet[0], 0);
+  EXPECT_DOUBLE_EQ(dblPlayerTotal[0], 1000);
+  EXPECT_EQ(BaccTable.lblPlayerTotal[0].Text, "$1,000");
+}
+
 TEST_F(BetEntry, ChipValueChecks) {
   struct Case {
     const char *Typed, *Message;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "table/TableState.h"
+
+// What must hold at the table whenever the program waits for its user.
+
+/// Watches a running game from event to event.
+class Watch {
+ public:
+  /// Begins anew with the game as it stands after its start.
+  void prcStart();
+
+  /// Looks at the game after an event. Returns what does not hold, empty where all does. Nothing is
+  /// asked of a program that has ended.
+  std::string fncLook();
+
+  std::int64_t Hands() const { return lngHandsSeen_; }
+  std::int64_t Shoes() const { return lngShoesSeen_; }
+
+ private:
+  struct Seat {
+    double Offset = 0;  ///< Money that changes of the chip value have made or taken.
+    std::array<bool, 3> blnRevalued{};  ///< The chip value has changed under this bet.
+    bool blnTouched = false;            ///< Such a bet stands, or has just gone.
+  };
+
+  std::string fncMoney(int seat);
+  std::string fncForms(int seat);
+  std::string fncClosed() const;
+  std::string fncFile();
+  std::string fncCards();
+  void prcCountHands();
+  void prcNoteUnit();
+
+  std::array<Seat, intSeats> seats_{};
+  std::string strContents_;  ///< Of the settings file when last read.
+  std::array<double, intSeats> dblStake_{}, dblFileWin_{};
+  double dblFileHands_ = 0;
+  double dblHands_ = 0;  ///< What the file should say.
+  double dblUnit_ = 0;
+  int intHandsBefore_ = 0;
+  bool blnEndBefore_ = true;
+  std::int64_t lngHandsSeen_ = 0, lngShoesSeen_ = 0;
+};

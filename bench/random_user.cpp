@@ -1,0 +1,23 @@
+#include <cinttypes>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "bench/Endurance.h"
+
+// velmora_endurance [SEED [SHOES]]: a random user at the headless table, as long as wanted. Prints
+// counts, or the fault with its seed and the shortest list of events that repeats it.
+
+int main(int argc, char** argv) {
+  const std::uint64_t seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
+  const std::int64_t shoes = argc > 2 ? std::atoll(argv[2]) : 10'000;
+  const std::string folder = fncFastFolder();
+  const EnduranceResult result = fncEndure(folder, seed, shoes);
+  std::filesystem::remove_all(folder);
+  std::printf("%" PRId64 " shoes, %" PRId64 " hands, %" PRId64 " starts of the program\n",
+              result.Shoes, result.Hands, result.Starts);
+  if (!result.Fault.empty()) {
+    std::printf("%s\n", result.Fault.c_str());
+  }
+  return result.Fault.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
