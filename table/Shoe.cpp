@@ -1,7 +1,6 @@
 #include "table/Shoe.h"
 
 #include <algorithm>
-#include <array>
 
 #include "marking/MarkCard.h"
 #include "marking/MarkState.h"
@@ -12,14 +11,13 @@
 #include "shell/ShoeSize.h"
 #include "table/BaccTable.h"
 #include "table/Cards.h"
+#include "table/FreeSlots.h"
 #include "table/Random.h"
 #include "table/SeatResults.h"
 #include "table/TableStatus.h"
 #include "table/Waits.h"
 
 namespace {
-
-using UsedSlots = std::array<bool, intMostSlots>;
 
 /// A new shoe begins: its marking cards are cleared and its hands start anew.
 void prcResetShoe(const Integer& intShoe) {
@@ -49,39 +47,35 @@ void prcMendShoeSize(const Integer& intShoe) {
   }
 }
 
-void prcFill(const Integer& intShoe, UsedSlots& blnUsed) {
+void prcFill(const Integer& intShoe, FreeSlots& free) {
+  SlotRow& order = intShoeCards[intShoe];
+  SlotRow& values = intCardValue[intShoe];
   int face = 1;
   for (int i = 0; i <= intLastCard[intShoe]; ++i) {
-    intShoeCards[intShoe][i] = 0;
-    blnUsed[static_cast<std::size_t>(i)] = false;
-    intCardValue[intShoe][i] = face;
+    order[i] = 0;
+    free.prcFree(i);
+    values[i] = face;
     face = face == 13 ? 1 : face + 1;
     platform::DoEvents();
   }
 }
 
 /// A slot not yet used: the one hit, or from there the next free one up or down, round the ends.
-int fncFreeSlot(int last, const UsedSlots& blnUsed) {
-  int slot = static_cast<int>(fncRound(double{fncRandom()} * last));
-  if (!blnUsed[static_cast<std::size_t>(slot)]) {
+int fncFreeSlot(int last, const FreeSlots& free) {
+  const int slot = static_cast<int>(fncRound(double{fncRandom()} * last));
+  if (free.fncIsFree(slot)) {
     return slot;
   }
   const bool blnDown = fncRandom() < 0.5F;
-  do {
-    if (blnDown) {
-      slot = slot == 0 ? last : slot - 1;
-    } else {
-      slot = slot == last ? 0 : slot + 1;
-    }
-  } while (blnUsed[static_cast<std::size_t>(slot)]);
-  return slot;
+  return blnDown ? free.fncDownFrom(slot) : free.fncUpFrom(slot);
 }
 
-void prcPlaceCards(const Integer& intShoe, UsedSlots& blnUsed) {
+void prcPlaceCards(const Integer& intShoe, FreeSlots& free) {
+  SlotRow& order = intShoeCards[intShoe];
   for (int i = 0; i <= intLastCard[intShoe]; ++i) {
-    const int slot = fncFreeSlot(intLastCard[intShoe], blnUsed);
-    intShoeCards[intShoe][i] = slot;
-    blnUsed[static_cast<std::size_t>(slot)] = true;
+    const int slot = fncFreeSlot(intLastCard[intShoe], free);
+    order[i] = slot;
+    free.prcUse(slot);
     platform::DoEvents();
   }
 }
@@ -198,7 +192,7 @@ void Shuffle(const Integer& intShoe) {
     At(40);
     intCardValue[intShoe].prcBound(intLastCard[intShoe]);
     intShoeCards[intShoe].prcBound(intLastCard[intShoe]);
-    UsedSlots blnUsed{};
+    FreeSlots free;
     At(50);
     if (intShoe == intShoeNumber) {
       BaccTable.prgShoe.Max = intLastCard[intShoe];
@@ -210,9 +204,9 @@ void Shuffle(const Integer& intShoe) {
     At(70);
     prcSeedRandom(platform::RandomSeed());
     At(80);
-    prcFill(intShoe, blnUsed);
+    prcFill(intShoe, free);
     At(90);
-    prcPlaceCards(intShoe, blnUsed);
+    prcPlaceCards(intShoe, free);
     At(100);
     const Integer burnt = intCardValue[intShoe][intShoeCards[intShoe][0]];
     intNextCard[intShoe] = burnt > 9 ? 10 : int{burnt};

@@ -75,6 +75,9 @@ Control* fncFirstTimer() {
 bool fncServeDue() {
   ++state.Turns;
   prcThrowIfEnded();
+  if (state.NextTurn.empty() && state.Script.empty() && fncWindows().empty()) {
+    return false;  // Whole shoes are shuffled without a window, with a turn for each card.
+  }
   if (!state.NextTurn.empty()) {
     const std::function<void()> event = std::move(state.NextTurn.front());
     state.NextTurn.pop_front();
