@@ -1,0 +1,50 @@
+#include "platform/headless/Headless.h"
+#include "table/Waits.h"
+#include "tests/Game.h"
+
+namespace {
+
+using ClockTest = Game;
+
+TEST_F(ClockTest, WaitsRunThroughTheWrapOfTheCounter) {
+  for (const std::uint32_t before : {0U, 1U, 700U, 1500U, 1999U, 2000U, 2001U}) {
+    headless::Reset(Folder(), 0U - before);
+    prcWaitSeconds(2);
+    EXPECT_GT(headless::Now(), 2000U) << before;
+    EXPECT_LE(headless::Now(), 2002U) << before;
+  }
+}
+
+TEST_F(ClockTest, AHandInViewRunsThroughTheWrap) {
+  Start();
+  Shuffle();
+  NextResult("B");
+  const std::uint32_t start = headless::Now();
+  Deal();
+  const std::uint32_t usual = headless::Now() - start;
+  for (const std::uint32_t before : {100U, 900U, 1700U, 2600U}) {
+    prcFreshGame(Folder());
+    headless::Reset(Folder(), 0U - before - start);
+    Start();
+    Shuffle();
+    NextResult("B");
+    const std::uint32_t again = headless::Now();
+    Deal();
+    EXPECT_EQ(headless::Now() - again, usual) << before;
+    EXPECT_FALSE(blnBusy);
+  }
+}
+
+TEST_F(ClockTest, AJumpOfHoursEndsAWaitAndNoMore) {
+  constexpr std::uint32_t hours = 5 * 3600 * 1000;
+  // An event that holds the machine for hours, as a suspended computer does.
+  headless::After(500, [] { headless::Wait(hours); });
+  prcWaitSeconds(2);
+  EXPECT_GE(headless::Now(), hours);
+  EXPECT_LE(headless::Now(), hours + 2500);
+  const std::uint32_t after = headless::Now();
+  prcWaitSeconds(2);
+  EXPECT_LE(headless::Now() - after, 2002U) << "the next wait is its own again";
+}
+
+}  // namespace
