@@ -62,7 +62,7 @@ void Watch::prcNoteUnit() {
     Seat& state = seats_[static_cast<std::size_t>(i)];
     state.blnTouched = false;
     for (const BetSide side : betSides) {
-      bool& blnRevalued = state.blnRevalued[side];
+      bool& blnRevalued = state.blnRevalued[static_cast<std::size_t>(side)];
       state.blnTouched = state.blnTouched || blnRevalued;
       const bool blnAgrees = fncSame(fncBet(side, i).Money, fncAtUnit(side, i));
       blnRevalued = !blnAgrees && (blnRevalued || (blnChanged && fncBet(side, i).Money != 0));
@@ -110,7 +110,8 @@ std::string Watch::fncForms(int seat) {
   for (const BetSide side : betSides) {
     const BetControls bet = fncBet(side, seat);
     const bool blnTyping = BaccTable.Form.ActiveControl == &bet.Box;
-    const bool blnRevalued = seats_[static_cast<std::size_t>(seat)].blnRevalued[side];
+    const bool blnRevalued =
+        seats_[static_cast<std::size_t>(seat)].blnRevalued[static_cast<std::size_t>(side)];
     if (!blnTyping && !blnRevalued && !fncSame(bet.Money, fncAtUnit(side, seat))) {
       return fncOf("money of a bet", seat, bet.Money, fncAtUnit(side, seat));
     }

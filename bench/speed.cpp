@@ -247,4 +247,6 @@ int main() try {
 } catch (const std::exception& failed) {
   std::fprintf(stderr, "%s\n", failed.what());
   return EXIT_FAILURE;
+} catch (...) {
+  return EXIT_FAILURE;
 }

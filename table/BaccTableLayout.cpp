@@ -157,6 +157,14 @@ constexpr std::array<Chip, 4> chpAll{
      {5, "5", "Left click add 5 chips / Right click subtract 5 chips", picChip5}}};
 constexpr double dblChipPitch = 210;
 
+/// What a screen reader calls a bet box: its tool tip alone would not tell the seats and bets
+/// apart.
+std::string fncSpokenBet(BetSide side, int seat) {
+  static constexpr std::array<const char*, 3> names{"Tie bet", "Banker bet", "Player bet"};
+  return "Player " + std::to_string(seat + 1) + ", " + names.at(static_cast<std::size_t>(side)) +
+         ", chips";
+}
+
 const char* fncBoxTip(BetSide side, int seat) {
   if (side != betTie) {
     return "Enter between 0 and 100 units";
@@ -191,6 +199,7 @@ void prcLayBet(const BetRow& row, int seat) {
   bet.Box.Align = Alignment::Centre;
   bet.Box.On = &fncBetBoxEvents(row.Side);
   bet.Box.Visible = false;
+  bet.Box.Spoken = fncSpokenBet(row.Side, seat);
   prcLayChips(row, seat);
   prcAdd({&bet.Value, row.Value, seat, Label, at.Value, row.Top + 360, 765, 255, "0"});
   prcDress(bet.Value, tpeText, clrIvory);
@@ -269,6 +278,10 @@ constexpr std::array<PatchPlace, 8> plcPatches{
      {&BaccTableWindow::pctCardBottomLeft, "pctCardBottomLeft", 30, 1005, 129},
      {&BaccTableWindow::pctCardBottomRight, "pctCardBottomRight", 900, 1005, 129}}};
 
+constexpr std::array<const char*, intPositions> strCards{
+    "Hidden Player first card", "Hidden Player second card", "Hidden Player third card",
+    "Hidden Banker first card", "Hidden Banker second card", "Hidden Banker third card"};
+
 void prcLayCard(int n) {
   BaccTableWindow& t = BaccTable;
   const CardPlace& at = plcCards.at(static_cast<std::size_t>(n));
@@ -292,6 +305,7 @@ void prcLayCard(int n) {
   t.pctCardBack[n].On = &evtCardBack;
   t.pctCardBack[n].Dress = Look::Card;
   t.pctCardBack[n].TabStop = true;
+  t.pctCardBack[n].Spoken = strCards.at(static_cast<std::size_t>(n));
   prcAdd({&t.lblCardBottom[n], "lblCardBottom", n, Label, at.BottomLeft, at.BottomTop, 1065, 135,
           "", "To reveal card - press left mouse button and move up"});
   t.lblCardBottom[n].On = &evtCardBottom;

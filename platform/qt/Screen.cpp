@@ -18,8 +18,9 @@ namespace {
 
 constexpr int intFrameMilliseconds = 8;
 
-std::vector<std::unique_ptr<WindowView>> vwWindows;
+// The widgets' index stands first, so that it outlives the views, whose end still looks into it.
 QHash<const QWidget*, ControlView*> vwByWidget;
+std::vector<std::unique_ptr<WindowView>> vwWindows;
 Window* wndActive = nullptr;
 Window* wndLastChild = nullptr;
 bool blnSyncing = false;
