@@ -215,6 +215,11 @@ void prcShowTop(WindowView& view) {
   } else {
     view.Shell->show();
   }
+  if (window.Kind == WindowKind::Start) {
+    // Some window managers give a window without a task bar entry no input unasked, and its keys
+    // would be dead.
+    view.Shell->activateWindow();
+  }
 }
 
 /// A window that is up takes its modality only by coming up again.
