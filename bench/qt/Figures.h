@@ -18,7 +18,7 @@ double fncProcessorTime();
 /// The value below which this part 0..1 of the values lies; the values must not be empty.
 double fncQuantile(std::vector<double> values, double part);
 
-/// Prints "name value" as a line of its own, for bench/qt/run to read.
+/// Prints "name value" as a line of its own, for bench/run to read.
 void prcTell(const char* name, double value);
 
 /// Ends the measurement with a sentence on the error stream.

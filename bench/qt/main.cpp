@@ -12,7 +12,7 @@
 #include "table/BaccTable.h"
 
 // The program itself, measured from within. Its one argument names the measurement; each prints
-// lines of a name and a value and ends the program. bench/qt/run gives it its display and settings.
+// lines of a name and a value and ends the program. bench/run gives it its display and settings.
 
 namespace {
 
@@ -74,7 +74,7 @@ int main(int argc, char** argv) {
     }
   }
   if (msrChosen == nullptr) {
-    bench::prcGiveUp("name a measurement, as bench/qt/run does");
+    bench::prcGiveUp("name a measurement, as bench/run does");
   }
   return platform::Run(argc, argv, fncStart);
 }
