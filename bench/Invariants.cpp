@@ -8,11 +8,11 @@
 #include "platform/ProfileFile.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
-#include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
 #include "table/Cards.h"
+#include "tests/conformance/Adapter.h"
 
 namespace {
 
@@ -223,15 +223,15 @@ std::string Watch::fncCards() {
 }
 
 std::string Watch::fncLook() {
-  if (headless::Ended()) {
+  if (user::Ended()) {
     return "";
   }
-  for (const headless::Box& box : headless::Boxes()) {
+  for (const user::Box& box : user::Boxes()) {
     if (box.Text.starts_with("Serious")) {
       return box.Text;
     }
   }
-  headless::ForgetBoxes();
+  user::ForgetBoxes();
   prcCountHands();
   std::string fault = fncFile();
   prcNoteUnit();

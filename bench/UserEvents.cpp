@@ -5,11 +5,11 @@
 #include "betting/frmStatistics.h"
 #include "marking/MarkCard.h"
 #include "platform/UserInput.h"
-#include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/Toolbar.h"
 #include "table/BaccTable.h"
+#include "tests/conformance/Adapter.h"
 
 namespace {
 
@@ -28,31 +28,34 @@ constexpr std::array strBets{"0", "1",   "2",  "5",   "10",  "50",  "51",      "
 constexpr std::array strHands{"1", "2", "5", "20", "30", "90", "91", "0", "", "x"};
 constexpr std::array strUnits{"10", "20", "100", "9990", "15", "0", "", "x", "10000", "1e1"};
 constexpr std::array strStakes{"1000", "5000", "10000000", "10", "0", "", "99999999"};
-constexpr std::array strKeys{"1", "2", "3", "4", "5", "6", "Left", "Right", "Enter", " ", "F12"};
+constexpr std::array strKeys{"1",    "2",     "3",     "4",     "5",  "6",
+                             "Left", "Right", "Enter", "Space", "F12"};
 
 template <class Choices>
 auto fncPick(const Choices& choices, std::uint8_t at) {
   return choices[at % choices.size()];
 }
 
-bool fncReached(const Control& control) { return fncSeen(control) && fncUsable(control); }
+bool fncReached(const Control& control) {
+  return control.Style != ButtonStyle::Separator && fncSeen(control) && fncUsable(control);
+}
 
 void prcClick(Control& control, int button = intLeftButton) {
   if (fncReached(control)) {
-    headless::Click(control, button);
+    user::Click(control, button);
   }
 }
 
 void prcType(Control& box, const std::string& text) {
   if (fncReached(box)) {
-    headless::Type(box, text);
+    user::Type(box, text);
   }
 }
 
 /// The next box gets this answer, if any: 0 leaves it its standard button.
 void prcAnswer(std::uint8_t how) {
   if (how % 3 != 0) {
-    headless::Answer(how % 3 == 1 ? platform::Answer::Ok : platform::Answer::Cancel);
+    user::Answer(how % 3 == 1 ? platform::Answer::Ok : platform::Answer::Cancel);
   }
 }
 
@@ -60,14 +63,14 @@ void prcSqueeze(std::uint8_t which, std::uint8_t how) {
   const int n = which % intPositions;
   const bool blnBottom = how % 2 == 0;
   Control& strip = blnBottom ? BaccTable.lblCardBottom[n] : BaccTable.lblCardRight[n];
-  if (!fncReached(strip) || !headless::Press(strip)) {
+  if (!fncReached(strip) || !user::Press(strip, 0, 0)) {
     return;
   }
   for (int pull = 1; pull <= 4; ++pull) {
     const auto by = static_cast<float>(-how * 3 * pull);
-    headless::Drag(strip, blnBottom ? 0 : by, blnBottom ? by : 0);
+    user::Drag(strip, blnBottom ? 0 : by, blnBottom ? by : 0);
   }
-  headless::Release(strip, -1, -1);
+  user::Release(strip, -1, -1);
 }
 
 /// Works in the statistics, which are open while this runs.
@@ -77,7 +80,7 @@ void prcUseStatistics(std::uint8_t which, std::uint8_t how) {
   }
   prcType(frmStatistics.mskSteak[which % intSeats], fncPick(strStakes, how));
   if (how % 2 == 0) {
-    headless::Tab(frmStatistics.Form);
+    user::Tab(frmStatistics.Form);
   }
   if (how % 5 == 0) {
     prcAnswer(how);
@@ -109,9 +112,9 @@ void prcScroll(std::uint8_t which, std::uint8_t how) {
 
 void prcHover(std::uint8_t which) {
   if (which % 7 == intPositions) {
-    headless::Hover(BaccTable.Form);
+    user::Hover(BaccTable.Form);
   } else if (Control& back = BaccTable.pctCardBack[which % 7]; fncReached(back)) {
-    headless::Hover(back);
+    user::Hover(back);
   }
 }
 
@@ -130,7 +133,7 @@ void prcWindowEvent(const UserEvent& event) {
   if (event.Kind == UserEventKind::CloseList) {
     Window& list = blnCards ? frmCardsDealt.Form : frmCardsDealtCount.Form;
     if (list.Visible) {
-      headless::Close(list);
+      user::Close(list);
     }
   } else {
     prcClick(blnCards ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
@@ -173,7 +176,7 @@ void prcDo(const UserEvent& event) {
     case UserEventKind::TypeBet:
       return prcBetEvent(event);
     case UserEventKind::Tab:
-      headless::Tab(BaccTable.Form);
+      user::Tab(BaccTable.Form);
       return;
     case UserEventKind::Deal:
       return prcClick(BaccTable.duokkortos[which % 4]);
@@ -187,7 +190,7 @@ void prcDo(const UserEvent& event) {
     case UserEventKind::Squeeze:
       return prcSqueeze(which, how);
     case UserEventKind::Key:
-      return headless::Key(BaccTable.Form, fncPick(strKeys, how));
+      return user::Key(BaccTable.Form, fncPick(strKeys, how));
     case UserEventKind::Menu:
       return prcMenu(which, how);
     case UserEventKind::ToolButton:
@@ -201,7 +204,7 @@ void prcDo(const UserEvent& event) {
     case UserEventKind::UnitValue:
       return prcType(BaccTable.txtUnitValue, fncPick(strUnits, how));
     case UserEventKind::Statistics:
-      headless::WhileModal([which, how] { prcUseStatistics(which, how); });
+      user::WhileModal([which, how] { prcUseStatistics(which, how); });
       return prcClick(fncToolButton("Statistics"));
     case UserEventKind::Scroll:
       return prcScroll(which, how);

@@ -39,8 +39,12 @@ extern "C" void prcSignalled(int /*signal*/) {
 
 /// A signal may come at any instruction; a pipe brings it into the event loop.
 void prcWatchSignals() {
-  if (pipe2(intPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+  if (pipe(intPipe) != 0) {
     return;
+  }
+  for (const int end : intPipe) {
+    fcntl(end, F_SETFD, FD_CLOEXEC);
+    fcntl(end, F_SETFL, O_NONBLOCK);
   }
   auto* notifier = new QSocketNotifier(intPipe[0], QSocketNotifier::Read, qGuiApp);
   QObject::connect(notifier, &QSocketNotifier::activated, notifier, [] {

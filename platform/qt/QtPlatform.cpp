@@ -56,6 +56,8 @@ void prcBringUpPlatform() {
 
 void prcTakeDownPlatform() {
   prcClearScreen();
+  // No event loop will run any more to delete what a handler was still inside of.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   prcForgetPictures();
 }
 

@@ -7,8 +7,8 @@
 
 #include "platform/platform.h"
 
-// The scripted user of the conformance suite, once for each platform: tests/headless acts on the
-// model by the virtual clock, tests/qt with real events on real widgets.
+// The scripted user of the conformance suite and of the endurance runs, once for each platform:
+// tests/headless acts on the model by the virtual clock, tests/qt with real events on real widgets.
 
 namespace user {
 
@@ -27,8 +27,9 @@ void Wait(std::uint32_t milliseconds);
 /// Brings the screen up to date with the model.
 void Settle();
 
-/// The press may be refused; what the control's handlers saw tells.
-void Press(Control& control, float x, float y, int button = intLeftButton);
+/// The press may be refused; what the control's handlers saw tells. Returns false where this user
+/// sees that it was.
+bool Press(Control& control, float x, float y, int button = intLeftButton);
 void Drag(Control& control, float x, float y);
 void Release(Control& control, float x, float y, int button = intLeftButton);
 void Click(Control& control, int button = intLeftButton);
@@ -38,6 +39,8 @@ void Hover(Window& window);
 /// Clicks into a box, selects all of it and types.
 void Type(Control& box, const std::string& text);
 void Tab(Window& window);
+/// A key by its name or letter: "Left", "F12", "5".
+void Key(Window& window, const std::string& key);
 void Close(Window& window);
 
 /// Runs while the next message box or modal window is open.
@@ -45,6 +48,7 @@ void WhileModal(std::function<void()> act);
 /// Answers the next message box that has no answer yet.
 void Answer(platform::Answer answer);
 const std::vector<Box>& Boxes();
+void ForgetBoxes();
 
 /// Runs handler once, as an event of its own, as soon as the program next serves events.
 void AtNextTurn(std::function<void()> handler);

@@ -1,5 +1,6 @@
 #include "tests/qt/RealUser.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -117,6 +118,15 @@ QWidget& Widget(const Control& control) {
   return *view->Widget;
 }
 
+QAction& Action(const Control& entry) {
+  const qt::ControlView* view = qt::fncViewOf(entry);
+  auto* action = view == nullptr ? nullptr : qobject_cast<QAction*>(view->Helper);
+  if (action == nullptr) {
+    throw std::logic_error(std::string("not in the menu: ") + entry.Name);
+  }
+  return *action;
+}
+
 QWidget& Ground(const Window& window) {
   const qt::WindowView* view = qt::fncViewOf(window);
   if (view == nullptr) {
@@ -169,9 +179,10 @@ void Settle() {
   Wait(2);
 }
 
-void Press(Control& control, float x, float y, int button) {
+bool Press(Control& control, float x, float y, int button) {
   Settle();
   QTest::mousePress(&fncWindow(control), fncButton(button), {}, fncInWindow(control, x, y));
+  return !Ended();
 }
 
 void Drag(Control& control, float x, float y) {
@@ -184,6 +195,10 @@ void Release(Control& control, float x, float y, int button) {
 
 void Click(Control& control, int button) {
   Settle();
+  if (control.Kind == ControlKind::MenuEntry) {
+    real::Action(control).trigger();
+    return;
+  }
   const QPoint at = fncInWindow(control, static_cast<float>(control.Width / 2),
                                 static_cast<float>(control.Height / 2));
   QTest::mouseClick(&fncWindow(control), fncButton(button), {}, at);
@@ -222,6 +237,11 @@ void Tab(Window& window) {
   real::Key(window, Qt::Key_Tab);
 }
 
+void Key(Window& window, const std::string& key) {
+  Settle();
+  real::Key(window, QKeySequence(QString::fromStdString(key))[0].key());
+}
+
 void Close(Window& window) {
   Settle();
   if (const qt::WindowView* view = qt::fncViewOf(window); view != nullptr) {
@@ -232,6 +252,7 @@ void Close(Window& window) {
 void WhileModal(std::function<void()> act) { actModal.push_back(std::move(act)); }
 void Answer(platform::Answer answer) { ansNext.push_back(answer); }
 const std::vector<Box>& Boxes() { return boxShown; }
+void ForgetBoxes() { boxShown.clear(); }
 
 void AtNextTurn(std::function<void()> handler) {
   QTimer::singleShot(0, [handler = std::move(handler)] { qt::prcServe(handler); });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAction>
 #include <QPoint>
 #include <QWidget>
 
@@ -11,6 +12,9 @@ namespace real {
 
 /// The widget of a control; the test fails by an exception where there is none.
 QWidget& Widget(const Control& control);
+
+/// What stands for an entry in its menu; an exception where there is nothing.
+QAction& Action(const Control& entry);
 
 /// The widget that holds a window's controls.
 QWidget& Ground(const Window& window);
