@@ -50,7 +50,8 @@ UserEvent fncRandomEvent(std::mt19937_64& random);
 /// "Chip 13 1 0": kind by name, then Which, How and Delay.
 std::string fncDescribe(const UserEvent& event);
 
-/// Does it on whatever platform stands behind the scripted user. A control that the user cannot reach is left alone.
+/// Does it on whatever platform stands behind the scripted user. A control that the user cannot
+/// reach is left alone.
 void prcDo(const UserEvent& event);
 
 /// Turns the cards that lie face down, so that a hand can end.
