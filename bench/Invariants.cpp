@@ -143,6 +143,19 @@ std::string Watch::fncClosed() const {
   return "";
 }
 
+/// Where hands do not wait, a whole shuffle and its first hands may pass between two looks: another
+/// order of the cards tells.
+void Watch::prcNoteShoe() {
+  std::array<int, 8> first{};
+  for (std::size_t at = 0; at < first.size(); ++at) {
+    first[at] = intShoeCards[intShoeNumber][static_cast<std::int64_t>(at)];
+  }
+  if (first != slotsFirst_) {
+    slotsFirst_ = first;
+    intHandsBefore_ = 0;
+  }
+}
+
 void Watch::prcCountHands() {
   const int dealt = intHandsDealt[intShoeNumber];
   if (dealt > intHandsBefore_) {
@@ -232,6 +245,7 @@ std::string Watch::fncLook() {
     }
   }
   user::ForgetBoxes();
+  prcNoteShoe();
   prcCountHands();
   std::string fault = fncFile();
   prcNoteUnit();

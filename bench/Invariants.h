@@ -33,6 +33,7 @@ class Watch {
   std::string fncClosed() const;
   std::string fncFile();
   std::string fncCards();
+  void prcNoteShoe();
   void prcCountHands();
   void prcNoteUnit();
 
@@ -43,6 +44,7 @@ class Watch {
   double dblHands_ = 0;  ///< What the file should say.
   double dblUnit_ = 0;
   int intHandsBefore_ = 0;
+  std::array<int, 8> slotsFirst_{};  ///< Of the shoe's order when last looked at.
   bool blnEndBefore_ = true;
   std::int64_t lngHandsSeen_ = 0, lngShoesSeen_ = 0;
 };
