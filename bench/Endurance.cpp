@@ -39,8 +39,10 @@ void prcLook(Evening& evening, std::size_t at) {
       !fault.empty() && evening.Result.Fault.empty()) {
     evening.Result.Fault = fault;
     evening.Result.Event = at;
-    // Nobody will turn the cards that the program may be waiting for.
-    platform::End();
+    if (!headless::Ended()) {
+      // Nobody will turn the cards that the program may be waiting for.
+      platform::End();
+    }
   }
 }
 
@@ -84,6 +86,7 @@ void prcRun(Evening& evening) {
   do {
     headless::Wait(1000);
   } while (!headless::Ended() && (!evening.fncOver() || blnBusy));
+  prcLook(evening, evening.Next == 0 ? 0 : evening.Next - 1);  // At what may have ended it.
 }
 
 }  // namespace

@@ -146,6 +146,9 @@ std::string Watch::fncClosed() const {
 /// Where hands do not wait, a whole shuffle and its first hands may pass between two looks: another
 /// order of the cards tells.
 void Watch::prcNoteShoe() {
+  if (!blnShuffled[intShoeNumber]) {
+    return;
+  }
   std::array<int, 8> first{};
   for (std::size_t at = 0; at < first.size(); ++at) {
     first[at] = intShoeCards[intShoeNumber][static_cast<std::int64_t>(at)];
@@ -236,15 +239,16 @@ std::string Watch::fncCards() {
 }
 
 std::string Watch::fncLook() {
-  if (user::Ended()) {
-    return "";
-  }
+  // Before anything else: a fault ends the program.
   for (const user::Box& box : user::Boxes()) {
     if (box.Text.starts_with("Serious")) {
       return box.Text;
     }
   }
   user::ForgetBoxes();
+  if (user::Ended()) {
+    return "";
+  }
   prcNoteShoe();
   prcCountHands();
   std::string fault = fncFile();

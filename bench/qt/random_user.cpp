@@ -45,6 +45,12 @@ struct Evening {
 
 Evening evening;
 
+void prcLook() {
+  if (evening.Fault.empty()) {
+    evening.Fault = evening.Watching.fncLook();
+  }
+}
+
 void prcNext() {
   if (user::Ended()) {
     return;
@@ -59,9 +65,7 @@ void prcNext() {
   ++evening.Events;
   evening.Told += "  " + fncDescribe(event) + "\n";
   prcDo(event);
-  if (evening.Fault.empty()) {
-    evening.Fault = evening.Watching.fncLook();
-  }
+  prcLook();
 }
 
 bool fncStart() {
@@ -102,6 +106,7 @@ int main(int argc, char** argv) {
   while (!evening.fncOver()) {
     qt::prcForgetEnd();
     platform::Run(argc, argv, fncStart);
+    prcLook();  // At what may have ended it.
   }
   const std::int64_t hands = evening.Watching.Hands();
   std::printf("%" PRId64 " events, %" PRId64 " shoes, %" PRId64 " hands, %" PRId64

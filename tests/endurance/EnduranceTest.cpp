@@ -41,6 +41,7 @@ TEST_F(EnduranceTest, APlantedFaultIsFoundAndToldInItsShortestForm) {
       {"bet without money", UserEventKind::Scroll, [] { lngTieBet[0] = 20; }, "money of a bet"},
       {"hand not booked", UserEventKind::Scroll, [] { ++intHandsDealt[0]; }, "hands in the file"},
       {"busy with open buttons", UserEventKind::Shuffle, [] { blnBusy = true; }, "button is open"},
+      {"fault in a handler", UserEventKind::Scroll, [] { throw faultOverflow; }, "Serious Error"},
       {"card dealt twice", UserEventKind::Shuffle, [] { intShoeCards[0][1] = intShoeCards[0][0]; },
        "twice in the shoe"},
       {"card not listed", UserEventKind::Shuffle, [] { ++intNextCard[0]; }, "cards listed"},
