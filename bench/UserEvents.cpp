@@ -171,6 +171,9 @@ void prcTurnAll() {
 
 void prcDo(const UserEvent& event) {
   const std::uint8_t which = event.Which, how = event.How;
+  if (!BaccTable.Form.Visible) {
+    return;  // The program is still on its way to the table, or away from it.
+  }
   switch (event.Kind) {
     case UserEventKind::Chip:
     case UserEventKind::TypeBet:
