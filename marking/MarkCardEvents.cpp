@@ -234,7 +234,9 @@ void prcShuffleOwnShoe(MarkCardWindow& form, const Integer& shoe) {
 }  // namespace
 
 void prcBelowTable(Window& form) {
-  const double bottom = BaccTable.Form.Top + BaccTable.Form.Height;
+  // A table without a stored size comes up as large as it is designed.
+  const Window& table = BaccTable.Form;
+  const double bottom = table.Top + std::max(table.Height, table.MinHeight);
   form.Top = std::max(form.Top, bottom);
 }
 

@@ -26,7 +26,7 @@ void prcCentredLabel(Control& label, const Type& face) {
 void prcDressFamilies(MarkCardWindow& form) {
   prcCentredLabel(form.lblTotal[0], {.Size = 8});
   prcCentredLabel(form.lblBP[0], {.Size = 9.75F, .Bold = true});
-  prcCentredLabel(form.lblTBP[0], {.Size = 7.5F});
+  prcCentredLabel(form.lblTBP[0], {.Size = 6.75F});
   form.shpTBP[0].BorderWidth = 3;
   for (ControlFamily* family : {&form.lblTotal, &form.lblBP, &form.shpTBP, &form.lblTBP}) {
     family->at(0).Visible = false;

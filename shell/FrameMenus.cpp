@@ -109,6 +109,12 @@ constexpr MenuRow menuRows[] = {
     {MDIForm1.mnuAbout, "mnuAbout", "&About Velmora", Rank::Entry, prcAboutClick},
 };
 
+/// Whether an entry has a place for a check mark, checked or not.
+bool fncTicks(const MenuRow& row) {
+  return row.Click == prcSwitchEntry || row.Click == prcSizeEntry ||
+         row.Click == prcLargeButtonsClick || row.Click == prcRevealClick;
+}
+
 void prcEntryClick(Control& entry) {
   const auto* const row =
       std::ranges::find_if(menuRows, [&](const MenuRow& other) { return &other.Entry == &entry; });
@@ -168,6 +174,7 @@ void prcLayOutMenus() {
     }
     row.Entry.Container = menu;
     row.Entry.On = row.Click != nullptr ? &evtEntry : &evtNone;
+    row.Entry.Max = fncTicks(row) ? 1 : 0;
   }
   for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
     MDIForm1.mnuShoeSizeDecks[i].Index = i;

@@ -10,7 +10,8 @@ struct BaccTableWindow {
   Window Form;
 
   Control picShoeBox;  ///< The dealing shoe, for the eye alone.
-  Table<Control, 2> shpSeat, shpCardZone;
+  Table<Control, 2> shpCardZone;
+  Control shpSeats, lneSeats;  ///< The plate of both seats, and the line between them.
   Table<Control, 2> lblSeat;
   Table<Control, 3> lblRow;
 

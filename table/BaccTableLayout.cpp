@@ -26,6 +26,7 @@ constexpr Type tpeQuiet{.Size = 7.5F};
 constexpr Type tpeText{.Size = 9};
 constexpr Type tpeStrong{.Size = 9, .Bold = true};
 constexpr Type tpeHeading{.Size = 15, .Bold = true};
+constexpr Type tpeSide{.Size = 14, .Bold = true};
 constexpr Type tpeTotal{.Size = 36, .Bold = true};
 
 using enum ControlKind;
@@ -45,28 +46,34 @@ void prcPlateShape(Control& shape, Colour fill, Colour edge) {
   shape.BorderColor = edge;
 }
 
-/// The card areas lie left and right, the betting seats between them.
-constexpr std::array<double, 2> dblAreaLeft{810, 7350};
-constexpr double dblAreaWidth = 2640;
+/// The card areas lie left and right, with the same margin on both sides of their cards.
+constexpr std::array<double, 2> dblAreaLeft{840, 7380};
+constexpr double dblAreaWidth = 2505;
 
-constexpr std::array<double, 2> dblSeatLeft{3870, 5295};
-constexpr double dblSeatWidth = 1425;
+/// The betting seats between them share one plate; the line that parts them has as much room on
+/// each side as the chips and boxes leave.
+constexpr std::array<double, 3> dblSeatEdges{3975, 5332, 6690};
 
 void prcLayGround() {
   BaccTableWindow& t = BaccTable;
   for (int side = 0; side < 2; ++side) {
     const double left = dblAreaLeft.at(static_cast<std::size_t>(side));
-    prcAdd({&t.shpCardZone[side], "shpCardZone", side, Shape, left - 60, 105, dblAreaWidth + 120,
-            4125});
+    prcAdd({&t.shpCardZone[side], "shpCardZone", side, Shape, left - 60, 165, dblAreaWidth + 120,
+            4065});
     prcPlateShape(t.shpCardZone[side], clrPlate, clrPlateEdge);
     prcAdd({&t.shpCardDealBG[side], "shpCardDealBG", side, Shape, left, 1020, dblAreaWidth, 3165});
     prcPlateShape(t.shpCardDealBG[side], clrClear, clrClear);
     t.shpCardDealBG[side].Dress = Look::Mat;
     t.shpCardDealBG[side].Visible = false;
-    prcAdd({&t.shpSeat[side], "shpSeat", side, Shape,
-            dblSeatLeft.at(static_cast<std::size_t>(side)), 1680, dblSeatWidth, 3015});
-    prcPlateShape(t.shpSeat[side], clrPlate, clrPlateEdge);
   }
+  prcAdd({&t.shpSeats, "shpSeats", -1, Shape, dblSeatEdges[0], 1680,
+          dblSeatEdges[2] - dblSeatEdges[0], 3015});
+  prcPlateShape(t.shpSeats, clrPlate, clrPlateEdge);
+  prcAdd({&t.lneSeats, "lneSeats", -1, Line, 0, 0, 0, 0});
+  t.lneSeats.X1 = t.lneSeats.X2 = dblSeatEdges[1];
+  t.lneSeats.Y1 = 1800;
+  t.lneSeats.Y2 = 4575;
+  t.lneSeats.BorderColor = clrPlateEdge;
 }
 
 void prcLayShoe() {
@@ -219,8 +226,10 @@ void prcLayBet(const BetRow& row, int seat) {
 void prcLaySeat(int seat) {
   BaccTableWindow& t = BaccTable;
   const SeatColumns& at = colSeats.at(static_cast<std::size_t>(seat));
-  prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, dblSeatLeft.at(static_cast<std::size_t>(seat)),
-          1740, dblSeatWidth, 270, seat == 0 ? "Player 1" : "Player 2"});
+  const double left = dblSeatEdges.at(static_cast<std::size_t>(seat));
+  prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, left, 1740,
+          dblSeatEdges.at(static_cast<std::size_t>(seat) + 1) - left, 270,
+          seat == 0 ? "Player 1" : "Player 2"});
   prcDress(t.lblSeat[seat], tpeStrong, clrGold);
   for (const BetRow& row : rowBets) {
     prcLayBet(row, seat);
@@ -235,20 +244,18 @@ void prcLaySeat(int seat) {
 
 void prcLayRowHeads() {
   BaccTableWindow& t = BaccTable;
-  const auto head = [](Control& label, const char* name, int index, double top, const char* text) {
-    prcAdd({&label, name, index, Label, 6735, top, 555, 225, text});
-    prcDress(label, {.Size = 6.75F, .Bold = true}, clrGold);
+  const auto head = [](Control& label, const char* name, int index, double top, double height,
+                       const char* text, Colour colour) {
+    prcAdd({&label, name, index, Label, 6720, top, 585, height, text});
+    prcDress(label, {.Size = 6.4F}, colour, Alignment::Left);
   };
-  head(t.lblRow[0], "lblRow", 0, 2055, "TIE");
-  prcAdd({&t.Label8, "Label8", -1, Label, 6735, 2265, 555, 420, "Pays 8 To 1"});
-  prcDress(t.Label8, {.Size = 6.75F}, clrQuiet);
-  head(t.Label5, "Label5", -1, 2760, "BANKER");
-  head(t.Label4, "Label4", -1, 3390, "PLAYER");
-  head(t.lblRow[1], "lblRow", 1, 4035, "MONEY");
-  head(t.lblRow[2], "lblRow", 2, 4365, "WON");
-  // The Banker's advice panel begins close by.
-  t.lblRow[2].Width = 360;
-  t.lblRow[2].Face.Size = 6;
+  head(t.lblRow[0], "lblRow", 0, 2055, 225, "TIE", clrGold);
+  head(t.Label8, "Label8", -1, 2265, 420, "Pays 8 To 1", clrQuiet);
+  t.Label8.Width = 480;  // Breaks after the 8.
+  head(t.Label5, "Label5", -1, 2745, 225, "BANKER", clrGold);
+  head(t.Label4, "Label4", -1, 3375, 225, "PLAYER", clrGold);
+  head(t.lblRow[1], "lblRow", 1, 4035, 225, "MONEY", clrGold);
+  head(t.lblRow[2], "lblRow", 2, 4365, 225, "WON", clrGold);
 }
 
 struct CardPlace {
@@ -322,27 +329,28 @@ void prcLayResults(bool blnPlayer) {
   BaccTableWindow& t = BaccTable;
   const double left = dblAreaLeft.at(blnPlayer ? 0 : 1);
   const auto add = [](Control& label, const char* name, double x, double y, double w, double h,
-                      const char* text, Type face, Colour colour) {
+                      const char* text, Type face, Colour colour, Alignment align) {
     prcAdd({&label, name, -1, Label, x, y, w, h, text});
-    prcDress(label, face, colour);
+    prcDress(label, face, colour, align);
     label.Visible = false;
   };
-  add(blnPlayer ? t.Label1 : t.Label2, blnPlayer ? "Label1" : "Label2", left + 30, 180, 1200, 345,
-      blnPlayer ? "PLAYER" : "BANKER", tpeHeading, clrWhite);
+  add(blnPlayer ? t.Label1 : t.Label2, blnPlayer ? "Label1" : "Label2", left + 30, 225, 1200, 345,
+      blnPlayer ? "PLAYER" : "BANKER", tpeSide, clrWhite, Alignment::Left);
   Control& natural = blnPlayer ? t.lblNaturalP : t.lblNaturalB;
-  add(natural, blnPlayer ? "lblNaturalP" : "lblNaturalB", left + 30, 570, 1890, 345, "NATURAL!",
-      tpeHeading, clrGold);
+  add(natural, blnPlayer ? "lblNaturalP" : "lblNaturalB", left + 30, 600, 1785, 345, "NATURAL!",
+      tpeSide, clrGold, Alignment::Left);
   natural.Announce = true;
   Control& total = blnPlayer ? t.PTotal : t.BTotal;
-  add(total, blnPlayer ? "PTotal" : "BTotal", left + 1950, 135, 645, 840, "0", tpeTotal, clrWhite);
+  add(total, blnPlayer ? "PTotal" : "BTotal", left + 1860, 180, 615, 810, "0", tpeTotal, clrWhite,
+      Alignment::Centre);
   total.Announce = true;
   for (const bool blnTie : {false, true}) {
     Control& mark =
         blnTie ? (blnPlayer ? t.TieResultP : t.TieResultB) : (blnPlayer ? t.WinP : t.WinB);
     const char* name =
         blnTie ? (blnPlayer ? "TieResultP" : "TieResultB") : (blnPlayer ? "WinP" : "WinB");
-    add(mark, name, left + 1290, 195, 630, 315, blnTie ? "TIE" : "WIN", {.Size = 12, .Bold = true},
-        clrWhite);
+    add(mark, name, left + 1245, 240, 600, 315, blnTie ? "TIE" : "WIN", {.Size = 12, .Bold = true},
+        clrWhite, Alignment::Centre);
     mark.BackColor = clrWon;
     mark.Dress = Look::Plate;
     mark.Announce = true;
@@ -392,21 +400,21 @@ void prcMasked(Control& box, const char* mask, const char* format, const Control
 }
 
 constexpr double dblButtonTop = 4905;
-constexpr double dblButtonHeight = 390;
+constexpr double dblButtonHeight = 345;
 
 void prcLayButtons() {
   BaccTableWindow& t = BaccTable;
   prcAdd(
-      {&t.lblUnitValue, "lblUnitValue", -1, Label, 600, dblButtonTop + 75, 960, 255, "Chip Value"});
+      {&t.lblUnitValue, "lblUnitValue", -1, Label, 600, dblButtonTop + 45, 960, 255, "Chip Value"});
   prcDress(t.lblUnitValue, tpeText, clrIvory, Alignment::Left);
-  prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1620, dblButtonTop + 30, 780, 330, "0",
+  prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1620, dblButtonTop + 15, 780, 315, "0",
           "Enter between $10 and $9990"});
   prcMasked(t.txtUnitValue, "$9999", "$0", evtUnit);
-  prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 75, 1200, 255,
+  prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 45, 1200, 255,
           "Hands at A Time"});
   prcDress(t.lblHandsAtaTime, tpeText, clrIvory, Alignment::Right);
   t.lblHandsAtaTime.Visible = false;
-  prcAdd({&t.mskHandsAtaTime, "mskHandsAtaTime", -1, MaskedEdit, 3885, dblButtonTop + 30, 450, 330,
+  prcAdd({&t.mskHandsAtaTime, "mskHandsAtaTime", -1, MaskedEdit, 3885, dblButtonTop + 15, 450, 315,
           "1", "Enter Between 1 and 90"});
   prcMasked(t.mskHandsAtaTime, "99", "0", evtHands);
   t.mskHandsAtaTime.Visible = false;
@@ -414,7 +422,7 @@ void prcLayButtons() {
     prcAdd({&t.duokkortos[i], "duokkortos", i, Button, i == 0 ? 4380.0 : 4470.0 + 1005 * i,
             dblButtonTop, i == 0 ? 1050.0 : 960.0, dblButtonHeight});
     t.duokkortos[i].On = &evtDeal;
-    t.duokkortos[i].Face = tpeStrong;
+    t.duokkortos[i].Face = i == 0 ? tpeStrong : Type{.Size = 8.25F, .Bold = true};
     t.duokkortos[i].Dress = i == 0 ? Look::Primary : Look::Plain;
     t.duokkortos[i].Visible = false;
   }

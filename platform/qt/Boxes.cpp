@@ -7,6 +7,7 @@
 #include "platform/UserInput.h"
 #include "platform/qt/ControlViews.h"
 #include "platform/qt/Loop.h"
+#include "platform/qt/Scale.h"
 #include "platform/qt/Style.h"
 
 namespace qt {
@@ -51,7 +52,18 @@ void prcColour(QWidget& widget, const Control& control) {
   }
   palette.setColor(QPalette::Active, QPalette::Text, fncColour(control.ForeColor));
   palette.setColor(QPalette::Inactive, QPalette::Text, fncColour(control.ForeColor));
+  palette.setColor(QPalette::WindowText, QColor::fromRgb(rgbOutline));  // A list's frame.
   widget.setPalette(palette);
+}
+
+/// Rows of a fixed face are set solid, as its list is laid out for: thirteen counts fit their box
+/// at any scale if no row is rounded up.
+QFont fncRowFont(const Type& face) {
+  QFont font = fncFont(face);
+  if (face.Fixed) {
+    font.setPixelSize(std::max(1, static_cast<int>(double{face.Size} * 96 / 72 * fncScale())));
+  }
+  return font;
 }
 
 }  // namespace
@@ -133,7 +145,7 @@ RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), vi
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(1);
+  setLineWidth(fncScaled(1));
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -148,7 +160,7 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   const QSignalBlocker quiet(this);
   if (blnFirst || view_->Drawn.Face != control.Face ||
       view_->Drawn.BackColor != control.BackColor) {
-    setFont(fncFont(control.Face));
+    setFont(fncRowFont(control.Face));
     prcColour(*this, control);
   }
   prcFill(control, blnFirst);
@@ -168,13 +180,28 @@ void RowsView::prcFill(const Control& control, bool blnFirst) {
   if (!blnGrown) {
     clear();
   }
+  const QFontMetrics metrics(fncRowFont(control.Face));
   for (std::size_t row = static_cast<std::size_t>(count()); row < rows.size(); ++row) {
     auto* shown = new QListWidgetItem(fncText(rows[row]), this);
     if (control.Face.Fixed) {
-      // Rows set solid, as the lists are laid out for: thirteen counts fit their box.
       shown->setSizeHint(QSize(0, font().pixelSize()));
     }
+    widest_ = std::max(widest_, metrics.horizontalAdvance(shown->text()));
   }
+  prcNarrow(control);
+}
+
+/// A row too long for the list would hide its end: from then on all are set narrower.
+void RowsView::prcNarrow(const Control& control) {
+  const int margins = 2 * (frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+  const int room =
+      fncPixels(control.Width) - margins - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  if (control.Face.Fixed || room <= 0 || widest_ <= room) {
+    return;
+  }
+  QFont narrow = font();
+  narrow.setStretch(std::max(70, 100 * room / widest_));
+  setFont(narrow);
 }
 
 }  // namespace qt

@@ -46,8 +46,10 @@ class RowsView : public QListWidget {
 
  private:
   void prcFill(const Control& control, bool blnFirst);
+  void prcNarrow(const Control& control);
 
   ControlView* view_;
+  int widest_ = 0;  ///< Row ever shown, in pixels of the designed face.
 };
 
 }  // namespace qt

@@ -101,8 +101,9 @@ void ProgressView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double corner = 3 * fncScale();
-  const QRectF trough = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), 1));
+  const double half = fncScaled(1) / 2.0;
+  const QRectF trough = QRectF(rect()).adjusted(half, half, -half, -half);
+  painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), fncScaled(1)));
   painter.setBrush(QColor::fromRgb(rgbDarkFelt));
   painter.drawRoundedRect(trough, corner, corner);
   const int span = maximum() - minimum();

@@ -119,7 +119,7 @@ void prcUpdateChecked(ControlView& view, const Control& next, bool /*blnFirst*/)
   button->setPalette(palette);
   button->setBackgroundRole(QPalette::Window);
   button->setAutoFillBackground(!next.BackColor.Clear);
-  button->setFont(fncFittedFont(next, fncPlace(next).size() - QSize(fncScaled(22), 0)));
+  button->setFont(fncFittedFont(next, fncPlace(next).size() - QSize(fncScaled(20), 0)));
   button->setText(fncText(next.Text));
   button->setChecked(next.Value != 0);
 }

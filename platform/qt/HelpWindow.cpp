@@ -6,12 +6,17 @@
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QHelpLink>
+#include <QImage>
 #include <QPointer>
+#include <QResizeEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/platform.h"
 #include "platform/qt/Scale.h"
@@ -24,8 +29,32 @@ namespace {
 constexpr int intWidth = 900;
 constexpr int intHeight = 640;
 constexpr int intSideWidth = 260;
+constexpr double dblPageMargin = 14;
+constexpr double dblPictureScale = 2;  // At which the pictures of the pages were taken.
 
 QPointer<HelpWindow> wndHelp;
+
+/// The spaces between paragraphs, lines of a list and headings, which the pages leave to the scale.
+QString fncSpaces() {
+  return QStringLiteral(
+             "p, ul, ol, table { margin-top: %1px; margin-bottom: %1px; }"
+             "h1, h2, h3 { margin-top: %2px; margin-bottom: %1px; }"
+             "li { margin-bottom: %3px; }"
+             "th, td { padding: %3px; }")
+      .arg(fncScaled(9))
+      .arg(fncScaled(14))
+      .arg(fncScaled(3));
+}
+
+/// A picture of a page, at the program's scale but no wider than the room it has.
+QImage fncFittedPicture(const QImage& picture, int room, double ratio) {
+  const double width = picture.width() / dblPictureScale * fncScale();
+  const double wanted = std::clamp(width, 1.0, std::max(1.0, double(room)));
+  QImage fitted = picture.scaledToWidth(static_cast<int>(std::lround(wanted * ratio)),
+                                        Qt::SmoothTransformation);
+  fitted.setDevicePixelRatio(ratio);
+  return fitted;
+}
 
 /// The first page that the contents lead to.
 QUrl fncFirstPage(const QHelpContentModel& contents) {
@@ -41,9 +70,25 @@ void prcTellNoHelp(const std::string& file) {
 
 }  // namespace
 
-QVariant HelpPages::loadResource(int /*type*/, const QUrl& name) {
+QVariant HelpPages::loadResource(int type, const QUrl& name) {
   const QUrl whole = name.isRelative() ? source().resolved(name) : name;
-  return whole.scheme() == QLatin1String("qthelp") ? engine_.fileData(whole) : QVariant();
+  const QByteArray bytes =
+      whole.scheme() == QLatin1String("qthelp") ? engine_.fileData(whole) : QByteArray();
+  if (type != QTextDocument::ImageResource || bytes.isEmpty()) {
+    return bytes.isEmpty() ? QVariant() : bytes;
+  }
+  pictures_ = true;
+  const int room = viewport()->width() - fncPixels(2 * dblPageMargin * 15);
+  return fncFittedPicture(QImage::fromData(bytes), room, devicePixelRatioF());
+}
+
+void HelpPages::resizeEvent(QResizeEvent* event) {
+  QTextBrowser::resizeEvent(event);
+  if (pictures_ && event->oldSize().width() != event->size().width()) {
+    const int at = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(at);
+  }
 }
 
 HelpWindow::HelpWindow()
@@ -56,7 +101,9 @@ HelpWindow::HelpWindow()
   face.setPixelSize(fncScaled(14));
   pages_->setFont(face);
   pages_->setAccessibleName(tr("Help page"));
-  pages_->document()->setDocumentMargin(14 * fncScale());
+  pages_->document()->setDocumentMargin(dblPageMargin * fncScale());
+  pages_->document()->setIndentWidth(26 * fncScale());
+  pages_->document()->setDefaultStyleSheet(fncSpaces());
   pages_->setOpenLinks(false);
   connect(pages_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
     if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https")) {
@@ -135,6 +182,7 @@ void HelpWindow::prcMakeSides() {
   auto* sides = new QTabWidget(this);
   QHelpContentWidget* contents = engine_.contentWidget();
   contents->setAccessibleName(tr("Contents"));
+  contents->setIndentation(fncScaled(14));
   connect(contents, &QHelpContentWidget::linkActivated, pages_,
           [this](const QUrl& link) { pages_->setSource(link); });
   connect(contents, &QHelpContentWidget::clicked, pages_, [this](const QModelIndex& at) {

@@ -20,8 +20,13 @@ class HelpPages : public QTextBrowser {
   /// Pages, styles and pictures come out of the help file, never from elsewhere.
   QVariant loadResource(int type, const QUrl& name) override;
 
+ protected:
+  /// Pictures as wide as the page are fitted to it anew.
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QHelpEngine& engine_;
+  bool pictures_ = false;  ///< Whether a page with pictures has been shown.
 };
 
 /// The help window. It keeps its own collection in a folder that goes with it.

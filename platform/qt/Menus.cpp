@@ -46,7 +46,7 @@ QAction* fncAction(const ControlView& view) {
 
 /// Shows the check mark as the model has it, whatever the toolkit made of the click.
 void prcShowCheck(QAction& action, const Control& control) {
-  action.setCheckable(control.Max >= 1 || control.Value != 0 || action.isCheckable());
+  action.setCheckable(control.Max >= 1 || control.Value != 0);
   action.setChecked(control.Value != 0);
 }
 

@@ -1,13 +1,16 @@
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/ControlViews.h"
 #include "platform/qt/Loop.h"
+#include "platform/qt/Scale.h"
 #include "platform/qt/Screen.h"
 
 namespace {
@@ -26,6 +29,15 @@ QMessageBox::Icon fncBoxIcon(platform::Icon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// The toolkit breaks the lines of a message at a fixed number of pixels: a short one keeps its
+/// line at any scale.
+void prcWiden(QMessageBox& box) {
+  constexpr int intMost = 800;  // The toolkit gives the whole box 1000 at most.
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")); label != nullptr) {
+    label->setMinimumWidth(std::min({label->sizeHint().width(), qt::fncScaled(380), intMost}));
+  }
+}
+
 void prcFillBox(QMessageBox& box, const std::string& text, platform::Icon icon,
                 const std::string& title, platform::Buttons buttons, platform::Answer standard) {
   box.setObjectName(QStringLiteral("MsgBox"));
@@ -33,6 +45,7 @@ void prcFillBox(QMessageBox& box, const std::string& text, platform::Icon icon,
   box.setTextFormat(Qt::PlainText);
   box.setText(qt::fncText(text));
   box.setIcon(fncBoxIcon(icon));
+  prcWiden(box);
   if (buttons == platform::Buttons::Ok) {
     box.setStandardButtons(QMessageBox::Ok);
     box.setEscapeButton(QMessageBox::Ok);

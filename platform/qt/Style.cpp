@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/Parts.h"
 #include "platform/qt/Scale.h"
 
 namespace qt {
@@ -41,6 +42,17 @@ constexpr MetricRow mtrRows[] = {
     {QStyle::PM_SliderThickness, 18},
     {QStyle::PM_SliderLength, 13},
     {QStyle::PM_ToolTipLabelFrameWidth, 4},
+    {QStyle::PM_ButtonMargin, 8},
+    {QStyle::PM_DefaultFrameWidth, 1},
+    {QStyle::PM_FocusFrameHMargin, 2},
+    {QStyle::PM_SplitterWidth, 5},
+    {QStyle::PM_TabBarTabHSpace, 22},
+    {QStyle::PM_TabBarTabVSpace, 9},
+    {QStyle::PM_ToolBarItemSpacing, 1},
+    {QStyle::PM_ToolBarItemMargin, 1},
+    {QStyle::PM_ToolBarFrameWidth, 2},
+    {QStyle::PM_ToolBarSeparatorExtent, 7},
+    {QStyle::PM_TreeViewIndentation, 16},
     {QStyle::PM_LayoutLeftMargin, 10},
     {QStyle::PM_LayoutTopMargin, 10},
     {QStyle::PM_LayoutRightMargin, 10},
@@ -124,6 +136,28 @@ class Dress : public QProxyStyle {
     QProxyStyle::drawControl(element, option, painter, widget);
   }
 
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto* const bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar != nullptr) {
+      prcDrawScrollBar(*painter, *bar, widget, *this);
+      return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+
+  QSize sizeFromContents(ContentsType part, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    return fncPartSize(part, option, QProxyStyle::sizeFromContents(part, option, size, widget),
+                       widget);
+  }
+
+  QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    const QIcon sign = fncSign(picture);
+    return sign.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : sign;
+  }
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     if (element == PE_FrameFocusRect && widget != nullptr) {
@@ -134,6 +168,18 @@ class Dress : public QProxyStyle {
     }
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton) {
       prcDrawIndicator(*painter, *option, element == PE_IndicatorRadioButton);
+      return;
+    }
+    if (element == PE_IndicatorBranch) {
+      if ((option->state & State_Children) != 0) {
+        const bool blnOpen = (option->state & State_Open) != 0;
+        prcDrawArrow(*painter, option->rect, blnOpen ? Qt::DownArrow : Qt::RightArrow,
+                     QColor::fromRgb(rgbFaded));
+      }
+      return;
+    }
+    if (element == PE_FrameLineEdit) {
+      prcDrawBoxEdge(*painter, option->rect, (option->state & State_HasFocus) != 0);
       return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);

@@ -12,7 +12,7 @@ namespace qt {
 inline constexpr QRgb rgbIvory = 0xFFF3EFE4;     ///< Bars and dialogs.
 inline constexpr QRgb rgbPaper = 0xFFFFFDF5;     ///< Boxes that take input.
 inline constexpr QRgb rgbInk = 0xFF26221A;       ///< Text on ivory.
-inline constexpr QRgb rgbFaded = 0xFF77705F;     ///< Disabled text on ivory.
+inline constexpr QRgb rgbFaded = 0xFF665F4F;     ///< Disabled text on ivory.
 inline constexpr QRgb rgbGold = 0xFFC9A227;      ///< Accents and the focus.
 inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;  ///< Outlines of the accents.
 inline constexpr QRgb rgbFelt = 0xFF0E4A33;      ///< The ground of the night.

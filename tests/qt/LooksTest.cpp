@@ -2,8 +2,10 @@
 
 #include <QAccessible>
 #include <QImage>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
@@ -177,6 +179,39 @@ TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
       EXPECT_EQ(left.right() + 1, qt::fncPixelRect(twips + 135, 0, 20, 100).left());
     }
   }
+  qt::prcSetScale(before);
+}
+
+struct Lists {
+  Window Form;
+  Control lstCount, lstCards;
+};
+Lists lists;
+
+TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
+  const double before = qt::fncScale();
+  for (double scale = 1; scale <= 4; scale += 0.25) {
+    user::Reset();
+    qt::prcSetScale(scale);
+    lists.Form = Window{};
+    lists.Form.Kind = WindowKind::Float;
+    lists.Form.ScaleWidth = lists.Form.ScaleHeight = 5000;
+    lists.Form.FixedInner = true;
+    const Place rows[] = {
+        {&lists.lstCount, "lstCount", -1, ControlKind::ListBox, 75, 450, 2055, 2565},
+        {&lists.lstCards, "lstCards", -1, ControlKind::ListBox, 2500, 45, 1845, 2955}};
+    prcLayOut(lists.Form, rows);
+    lists.lstCount.Face = {.Size = 9.75F, .Fixed = true};
+    lists.lstCount.List.assign(13, "King 8  8  8  8");
+    lists.lstCards.List.assign(40, "Queen Diamond  <-Burnt");
+    prcShow(lists.Form);
+    user::Settle();
+    const auto& count = static_cast<QListWidget&>(real::Widget(lists.lstCount));
+    EXPECT_EQ(count.verticalScrollBar()->maximum(), 0) << "at scale " << scale;
+    const auto& cards = static_cast<QListWidget&>(real::Widget(lists.lstCards));
+    EXPECT_LE(cards.sizeHintForColumn(0), cards.viewport()->width()) << "at scale " << scale;
+  }
+  user::Reset();
   qt::prcSetScale(before);
 }
 

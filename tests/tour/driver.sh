@@ -1,6 +1,7 @@
 # What the tour says and sees: sourced by tour.sh. Mouse and keyboard are real events of the display; where a
 # control is and what it says comes from the accessibility tree, by lines of
 #   role TAB name TAB description TAB content TAB states TAB x TAB y TAB width TAB height
+# in pixels of the screen, whatever scale factor the desktop has.
 
 fail() {
   maim "$pictures/failed.png" 2>/dev/null || true
@@ -65,6 +66,19 @@ picture() {
   xdotool sleep 0.3
   maim --hidecursor "$file"
   echo "$file"
+  on_screen
+}
+
+# on_screen: fails when a window reaches beyond the screen.
+on_screen() {
+  local beyond
+  look
+  beyond=$(awk -F '\t' -v size="$size" '
+    BEGIN { split(size, most, "x") }
+    $1 ~ /^(frame|dialog|alert|filler)$/ &&
+      ($6 < 0 || $7 < 0 || $6 + $8 > most[1] || $7 + $9 > most[2]) {
+        print $1 " \"" $2 "\" at " $6 "," $7 " measuring " $8 "x" $9; exit }' "$seen")
+  [ -z "$beyond" ] || fail "a window reaches beyond the screen of $size: $beyond"
 }
 
 # setting SECTION KEY: the value in the settings file, without its blanks; nothing when it is missing.
@@ -96,6 +110,18 @@ measure_table() {
   table_scale=$(awk -v w="$width" -v t="$chip_value_width" 'BEGIN { printf "%.6f", w / t }')
   table_left=$(awk -v x="$x" -v t="$chip_value_left" -v s="$table_scale" 'BEGIN { print x - t * s }')
   table_top=$(awk -v y="$y" -v t="$chip_value_top" -v s="$table_scale" 'BEGIN { print y - t * s }')
+}
+
+# expect_scale: fails when the table is not drawn at the largest quarter step at which 1024x700 fit the screen.
+expect_scale() {
+  awk -v size="$size" -v w="$chip_value_width" -v s="$table_scale" 'BEGIN {
+    split(size, most, "x")
+    fits = most[1] / 1024 < most[2] / 700 ? most[1] / 1024 : most[2] / 700
+    step = int(fits * 4) / 4; if (step < 1) step = 1
+    drawn = s * w; wanted = w / 15 * step
+    printf "Drawn at scale %.2f\n", s * 15
+    exit (drawn > wanted ? drawn - wanted : wanted - drawn) > 1.5 }' ||
+    fail "the table is not drawn at the scale that fits $size"
 }
 
 # on_table X Y: a point of the table in twips, as "x y" in pixels.
