@@ -27,6 +27,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Found by no tool: the driver that reads the help file, and a font.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6sql6-sqlite, fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "Velmora deals shoes of 1 to 8 decks under the rules of the casinos, takes bets for two seats,
 lets you squeeze the cards open with the mouse, teaches what each side needs,

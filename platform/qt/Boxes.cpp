@@ -186,21 +186,25 @@ void RowsView::prcFill(const Control& control, bool blnFirst) {
     if (control.Face.Fixed) {
       shown->setSizeHint(QSize(0, font().pixelSize()));
     }
-    widest_ = std::max(widest_, metrics.horizontalAdvance(shown->text()));
+    if (metrics.horizontalAdvance(shown->text()) > metrics.horizontalAdvance(longest_)) {
+      longest_ = shown->text();
+    }
   }
   prcNarrow(control);
 }
 
 /// A row too long for the list would hide its end: from then on all are set narrower.
 void RowsView::prcNarrow(const Control& control) {
-  const int margins = 2 * (frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+  const int margins = 2 * (frameWidth() + style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 2);
   const int room =
       fncPixels(control.Width) - margins - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  if (control.Face.Fixed || room <= 0 || widest_ <= room) {
-    return;
+  QFont narrow = fncRowFont(control.Face);
+  for (int stretch = 100; stretch >= 70; --stretch) {
+    narrow.setStretch(stretch);
+    if (control.Face.Fixed || QFontMetrics(narrow).horizontalAdvance(longest_) <= room) {
+      break;
+    }
   }
-  QFont narrow = font();
-  narrow.setStretch(std::max(70, 100 * room / widest_));
   setFont(narrow);
 }
 

@@ -49,7 +49,7 @@ class RowsView : public QListWidget {
   void prcNarrow(const Control& control);
 
   ControlView* view_;
-  int widest_ = 0;  ///< Row ever shown, in pixels of the designed face.
+  QString longest_;  ///< The longest row ever shown.
 };
 
 }  // namespace qt

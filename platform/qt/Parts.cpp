@@ -20,7 +20,7 @@ struct Sign {
   const char* Glyph;
 };
 constexpr Sign sgnAll[] = {{QStyle::SP_MessageBoxInformation, 0xFF1B5E8A, "i"},
-                           {QStyle::SP_MessageBoxWarning, 0xFFB3690B, "!"},
+                           {QStyle::SP_MessageBoxWarning, 0xFF955609, "!"},
                            {QStyle::SP_MessageBoxCritical, 0xFFA3202A, "\u00D7"}};
 constexpr int intSignSide = 34;
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QApplication>
 #include <QImage>
 #include <QListWidget>
 #include <QMainWindow>
@@ -10,6 +11,9 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QWindow>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "assets/Pictures.h"
 #include "platform/Layout.h"
@@ -180,6 +184,34 @@ TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
     }
   }
   qt::prcSetScale(before);
+}
+
+/// How much of the light of white a colour gives, as the eye takes it.
+double fncLight(const QColor& colour) {
+  const auto part = [](double share) {
+    return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+         0.0722 * part(colour.blueF());
+}
+
+TEST(Palette, TextsStandOutFromTheirGrounds) {
+  constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[] = {
+      {QPalette::WindowText, QPalette::Window},
+      {QPalette::Text, QPalette::Base},
+      {QPalette::PlaceholderText, QPalette::Base},
+      {QPalette::Link, QPalette::Base},
+      {QPalette::ButtonText, QPalette::Button},
+      {QPalette::HighlightedText, QPalette::Highlight},
+      {QPalette::ToolTipText, QPalette::ToolTipBase}};
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Disabled}) {
+    for (const auto& [text, ground] : pairs) {
+      const double one = fncLight(QApplication::palette().color(group, text));
+      const double other = fncLight(QApplication::palette().color(group, ground));
+      EXPECT_GE((std::max(one, other) + 0.05) / (std::min(one, other) + 0.05), 4.5)
+          << "role " << text << " of group " << group;
+    }
+  }
 }
 
 struct Lists {
