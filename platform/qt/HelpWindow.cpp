@@ -104,6 +104,8 @@ HelpWindow::HelpWindow()
   pages_->document()->setDocumentMargin(dblPageMargin * fncScale());
   pages_->document()->setIndentWidth(26 * fncScale());
   pages_->document()->setDefaultStyleSheet(fncSpaces());
+  // A bar that came and went would change the room that pictures are fitted to.
+  pages_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   pages_->setOpenLinks(false);
   connect(pages_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
     if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https")) {
