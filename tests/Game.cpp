@@ -1,8 +1,11 @@
 #include "tests/Game.h"
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
+#include "learn/Advice.h"
 #include "marking/MarkState.h"
 #include "platform/Procedure.h"
 #include "platform/ProfileFile.h"
@@ -53,6 +56,25 @@ void prcFreshGame(const std::string& folder) {
   strHelpFile = folder + "/VELMORA.HLP";
 }
 
+std::string fncPiped(std::string text) {
+  for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n")) {
+    text.replace(at, 2, "|");
+  }
+  return text;
+}
+
+std::string fncAdviceOn(const std::string& looks, int Index, int v, int t) {
+  TableView view;
+  for (int n = 0; n < intPositions; ++n) {
+    const char look = looks.at(static_cast<std::size_t>(n));
+    view.Revealed[n] = look == 'f' || look == '.';
+    view.Face[n] = look == 'f' || look == 'b';
+  }
+  std::string text = "none";
+  fncAdvice(Index, view, {v, t}, text);
+  return fncPiped(text);
+}
+
 void Game::SetUp() {
   prcFreshGame(Folder());
   for (const char* seat : {"Player1Stats", "Player2Stats"}) {
@@ -70,6 +92,16 @@ void Game::Setting(const std::string& section, const std::string& key, const std
 
 std::string Game::Stored(const std::string& section, const std::string& key) {
   return fncReadProfile(strIniFile, section, key, "No");
+}
+
+void Game::WriteFile(const std::string& contents) {
+  std::filesystem::remove_all(strIniFile);
+  std::ofstream(strIniFile, std::ios::binary) << contents;
+}
+
+std::string Game::Contents() {
+  std::ifstream file(strIniFile, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void Game::Start() {
@@ -93,7 +125,7 @@ void Game::Shuffle(std::uint64_t seed) {
   headless::ForgetBoxes();
 }
 
-void Game::NextCards(std::initializer_list<int> values) {
+void Game::NextCards(const std::vector<int>& values) {
   int position = intNextCard[intShoeNumber];
   for (const int value : values) {
     prcSwapIn(position++, value);

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "betting/BetEntry.h"
 #include "platform/headless/Headless.h"
@@ -32,6 +32,14 @@ class TestFolder {
 /// any window.
 void prcFreshGame(const std::string& folder);
 
+/// A text with "|" for its line breaks.
+std::string fncPiped(std::string text);
+
+/// What is advised on a card by the two numbers that the advice asks for, piped; "none" where there
+/// is no advice. The six cards lie with 'f' face in view, 'b' back over a face, 'l' back alone, '.'
+/// no card.
+std::string fncAdviceOn(const std::string& looks, int Index, int v, int t);
+
 class Game : public testing::Test {
  protected:
   void SetUp() override;
@@ -39,6 +47,10 @@ class Game : public testing::Test {
   /// Writes a key before or during the run, as an earlier run would have left it.
   static void Setting(const std::string& section, const std::string& key, const std::string& value);
   static std::string Stored(const std::string& section, const std::string& key);
+
+  /// The settings file as a whole; what stands in its place goes.
+  static void WriteFile(const std::string& contents);
+  static std::string Contents();
 
   /// Starts the program without its start screen, up to the table that waits for the first shuffle.
   /// Cards come face up, at once, unless a test turns the switches.
@@ -49,7 +61,7 @@ class Game : public testing::Test {
 
   /// Makes these face values (1..13) the next out of the shoe, by swapping cards that lie behind.
   /// The shoe keeps each of its cards.
-  static void NextCards(std::initializer_list<int> values);
+  static void NextCards(const std::vector<int>& values);
 
   /// The next hand is won by this side on four cards, or tied: "P", "B" or "T".
   static void NextResult(const std::string& result);

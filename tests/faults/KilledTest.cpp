@@ -5,8 +5,6 @@
 #include <cmath>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 
 #include "bench/Endurance.h"
@@ -103,8 +101,7 @@ TEST_F(Killed, TheFileIsThatOfSomeCompletedWriteAtAnyInstant) {
     // Both seats play the same bet, so their wins part for one hand at most.
     ASSERT_LE(std::abs((now.Win1 - before.Win1) - (now.Win2 - before.Win2)), 10) << round;
     amidAHand += one != hands ? 1 : 0;
-    std::ifstream file(strIniFile, std::ios::binary);
-    const std::string contents{std::istreambuf_iterator<char>(file), {}};
+    const std::string contents = Contents();
     ASSERT_TRUE(contents.starts_with("[Player1Stats]") && contents.ends_with("\r\n")) << round;
     before = now;
   }

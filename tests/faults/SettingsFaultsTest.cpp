@@ -4,7 +4,6 @@
 
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <iterator>
 #include <random>
@@ -21,16 +20,6 @@ namespace {
 class Faults : public Game {
  protected:
   std::string File() const { return Folder() + "/VELMORA.INI"; }
-
-  std::string Contents() const {
-    std::ifstream file(File(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
-  void Write(const std::string& contents) const {
-    std::filesystem::remove_all(File());
-    std::ofstream(File(), std::ios::binary) << contents;
-  }
 
   /// Starts on whatever stands there, passes the start screen if it comes, shuffles and deals.
   void StartsAndPlays(const std::string& what) {
@@ -77,7 +66,7 @@ TEST_F(Faults, OddFilesAreReadAndKept) {
       {"carriage returns", old},
   };
   for (const auto& [what, contents] : rows) {
-    Write(contents);
+    WriteFile(contents);
     StartsAndPlays(what);
     const double hands = contents.empty() ? 1 : 8;
     EXPECT_EQ(fncGetSetting("ShoesHandsPlayed", "Hands"), hands) << what;
@@ -97,14 +86,14 @@ TEST_F(Faults, RandomDamageNeverStopsTheGame) {
     for (int byte = 0; byte < 6; ++byte) {
       damaged[random() % damaged.size()] = static_cast<char>(random());
     }
-    Write(damaged.substr(0, random() % 2 == 0 ? damaged.size() : random() % damaged.size()));
+    WriteFile(damaged.substr(0, random() % 2 == 0 ? damaged.size() : random() % damaged.size()));
     StartsAndPlays("damage " + std::to_string(round));
     ASSERT_FALSE(HasFailure());
   }
 }
 
 TEST_F(Faults, AFileThatGoesOrTurnsIntoAFolderStopsNothing) {
-  Write(Good());
+  WriteFile(Good());
   StartsAndPlays("before");
   std::filesystem::remove(File());
   Deal();
@@ -130,7 +119,7 @@ int fncInChild(const std::function<void()>& body) {
 }
 
 TEST_F(Faults, AFullDiskLeavesTheOldFileWhole) {
-  Write(Good() + "[rest]\r\nkey=" + std::string(8000, 'x') + "\r\n");
+  WriteFile(Good() + "[rest]\r\nkey=" + std::string(8000, 'x') + "\r\n");
   const std::string before = Contents();
   const int status = fncInChild([this] {
     std::signal(SIGXFSZ, SIG_IGN);
@@ -146,7 +135,7 @@ TEST_F(Faults, AFullDiskLeavesTheOldFileWhole) {
 
 TEST_F(Faults, AFolderThatCannotBeWrittenIsPlayedIn) {
   constexpr uid_t nobody = 65534;
-  Write(Good());
+  WriteFile(Good());
   const std::string before = Contents();
   std::filesystem::permissions(Folder(), std::filesystem::perms{0555});
   const int status = fncInChild([this] {

@@ -1,11 +1,11 @@
-#include <array>
+#include <filesystem>
 
 #include "shell/SettingsStore.h"
-#include "tests/shell/RunningProgram.h"
+#include "tests/Game.h"
 
 namespace {
 
-class SettingsStore : public RunningProgram {};
+using SettingsStore = Game;
 
 std::string fncJunk() {
   std::string junk;
@@ -41,7 +41,7 @@ TEST_F(SettingsStore, ReadsWhatADamagedFileStillHolds) {
       {"99 characters come back", "[File]\r\nLearn=" + std::string(120, 'x'), std::string(99, 'x')},
   };
   for (const auto& row : rows) {
-    prcWriteFile(row.Contents);
+    WriteFile(row.Contents);
     EXPECT_EQ(fncGetPrivateProfileString("File", "Learn"), row.Value) << row.Case;
   }
 }
@@ -62,42 +62,30 @@ TEST_F(SettingsStore, AWriteLeavesEveryOtherByteAlone) {
       {"binary stays", fncJunk() + "\n[Deal]\nDelay=1\n", fncJunk() + "\n[Deal]\nDelay=True\n"},
   };
   for (const auto& row : rows) {
-    prcWriteFile(row.Before);
+    WriteFile(row.Before);
     prcWritePrivateProfileString("Deal", "Delay", "True");
-    EXPECT_EQ(fncFile(), row.After) << row.Case;
+    EXPECT_EQ(Contents(), row.After) << row.Case;
   }
-}
-
-TEST_F(SettingsStore, TenMegabytesAreReadAndKept) {
-  std::string contents;
-  while (contents.size() < 10'000'000) {
-    contents +=
-        "[Section " + std::to_string(contents.size()) + "]\r\nkey=" + std::string(80, 'v') + "\r\n";
-  }
-  prcWriteFile(contents + "[Misc]\r\nUnitValue= 20\r\n");
-  EXPECT_EQ(fncGetSetting("misc", "unitvalue"), 20);
-  prcWriteSetting("Misc", "UnitValue", 30);
-  EXPECT_EQ(fncFile(), contents + "[Misc]\r\nUnitValue= 30\r\n");
 }
 
 TEST_F(SettingsStore, AWriteThatFailsLosesNothing) {
   const std::string before = "[Deal]\r\nDelay=False\r\n";
   const std::string beside = strIniFile + ".new";
-  prcWriteFile(before);
+  WriteFile(before);
 
   std::filesystem::create_directory(beside);  // Nothing can be written beside the file.
   prcWritePrivateProfileString("Deal", "Delay", "True");
-  EXPECT_EQ(fncFile(), before);
+  EXPECT_EQ(Contents(), before);
   std::filesystem::remove(beside);
 
   if (std::filesystem::exists("/dev/full")) {
     std::filesystem::create_symlink("/dev/full", beside);  // The disk is full.
     prcWritePrivateProfileString("Deal", "Delay", "True");
-    EXPECT_EQ(fncFile(), before);
+    EXPECT_EQ(Contents(), before);
   }
 
   prcWritePrivateProfileString("Deal", "Delay", "True");
-  EXPECT_EQ(fncKey("Deal", "Delay"), "True");
+  EXPECT_EQ(Stored("Deal", "Delay"), "True");
 }
 
 TEST_F(SettingsStore, NumbersKeepTheirFormAndTheirFraction) {
@@ -107,24 +95,17 @@ TEST_F(SettingsStore, NumbersKeepTheirFormAndTheirFraction) {
   } rows[] = {{2310, "= 2310\r"}, {2310.5, "= 2310.5\r"}, {-250, "=-250\r"}, {0, "= 0\r"}};
   for (const auto& row : rows) {
     prcWriteSetting("Misc", "UnitValue", row.Number);
-    EXPECT_NE(fncFile().find(row.Written), std::string::npos) << row.Number;
+    EXPECT_NE(Contents().find(row.Written), std::string::npos) << row.Number;
     EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), row.Number);
   }
   prcWritePrivateProfileString("Misc", "UnitValue", "12 chips");
   EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), 12);
 }
 
-TEST_F(SettingsStore, AFirstRunGetsAPlayableTableAndALaterOneKeepsItsFile) {
+TEST_F(SettingsStore, ALaterRunKeepsItsFile) {
+  WriteFile("[Deal]\r\nDelay=False\r\n");
   prcFixPaths();
-  EXPECT_EQ(fncGetSetting("Player1Stats", "Stake"), 1000);
-  EXPECT_EQ(fncGetSetting("Player2Stats", "Stake"), 1000);
-  EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), 10);
-  EXPECT_EQ(fncGetSetting("frmBaccTable", "Width"), 10770);
-  EXPECT_EQ(fncGetSetting("frmBaccTable", "Height"), 5400);
-
-  prcWriteFile("[Deal]\r\nDelay=False\r\n");
-  prcFixPaths();
-  EXPECT_EQ(fncFile(), "[Deal]\r\nDelay=False\r\n");
+  EXPECT_EQ(Contents(), "[Deal]\r\nDelay=False\r\n");
 }
 
 }  // namespace

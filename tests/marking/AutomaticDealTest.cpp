@@ -1,0 +1,87 @@
+#include "marking/MarkCard.h"
+#include "marking/MarkState.h"
+#include "tests/Game.h"
+
+namespace {
+
+class AutomaticDeal : public Game {
+ protected:
+  void SetUp() override {
+    Game::SetUp();
+    Start();
+    intDecks[0] = 1;
+    intAutoDealDelay = 1;
+    blnAutoDeal = true;
+  }
+  MarkCardWindow& form_ = MarkCards[0];
+};
+
+TEST_F(AutomaticDeal, ShufflesAnEndedShoeOnceAndDealsAHandATick) {
+  tmrDeal_Timer(form_);
+  EXPECT_EQ(form_.tmrDeal.Interval, 1000);
+  ASSERT_EQ(intHandsDealt[0], 1);
+  form_.tmrDeal.Enabled = true;  // Its ticks come faster than the pause before the shuffle ends.
+  blnEndOfShoe[0] = true;
+  headless::Wait(3500);
+  EXPECT_TRUE(blnShuffled[0]);
+  EXPECT_EQ(intHandsDealt[0], 1);
+  EXPECT_EQ(varHandUnits[0], std::nullopt);
+  headless::Wait(2000);
+  EXPECT_EQ(form_.shpTBP.size(), 3U);
+}
+
+TEST_F(AutomaticDeal, DealsNothingForAnotherShoeOrWhenOffOrClosedInThePause) {
+  blnAutoDeal = false;
+  tmrDeal_Timer(form_);
+  blnAutoDeal = true;
+  intMarkCardShoe[0] = 2;
+  tmrDeal_Timer(form_);
+  EXPECT_EQ(intHandsDealt[0], 0);
+  EXPECT_FALSE(blnShuffled[0]);
+  intMarkCardShoe[0] = 0;
+  headless::After(500, [] { fncUnload(MarkCards[0].Form); });
+  tmrDeal_Timer(form_);
+  EXPECT_EQ(intHandsDealt[0], 0);
+}
+
+TEST_F(AutomaticDeal, MarksEveryCardThatShowsTheShoe) {
+  intMarkCardShoe[4] = 0;
+  varHandUnits[0] = Integer(5);
+  tmrDeal_Timer(form_);
+  EXPECT_EQ(intRun[4], intRun[0]);
+  EXPECT_EQ(varHandUnits[0], std::nullopt) << "nobody bets on it";
+  EXPECT_FALSE(blnShuffled[4]) << "a card that shows another's shoe has none of its own to deal";
+}
+
+TEST_F(AutomaticDeal, ACardOfAnotherShoeReadsThatShoesHandAndItsOwnUnits) {
+  intMarkCardShoe[3] = 1;
+  blnBankerNatural[1] = blnShowNaturals = blnShoePlayerBlue[3] = true;
+  strResult[1] = "B";
+  strResult[3] = "P";
+  varHandUnits[3] = Integer(-2);
+  NewCardViewForm(0, 3);
+  intHandsDealt[1] = 1;
+  SetCardView(3);
+  EXPECT_EQ(MarkCards[3].shpTBP.at(0).BorderColor, clrDarkRed);
+  EXPECT_EQ(MarkCards[3].shpTBP.at(0).Form2D, ShapeForm::Oval);
+  EXPECT_EQ(MarkCards[3].lblTotal.at(0).Text, "-2");
+  EXPECT_FALSE(fncPlaceMark(3).NewTotal) << "the column has its label by now";
+}
+
+TEST_F(AutomaticDeal, ACardOutsideIsToldUnderTheNameOfItsProcedure) {
+  const std::pair<const char*, void (*)()> rows[] = {
+      {"30 NewCardViewForm", [] { NewCardViewForm(0, 9); }},
+      {"10 ClearCardView", [] { ClearCardView(-1); }},
+      {"10 SetCardView", [] { SetCardView(9); }},
+      {"10 prcMarkCardResize", [] { prcMarkCardResize(9); }}};
+  for (const auto& [told, call] : rows) {
+    prcFreshGame(Folder());
+    EXPECT_ANY_THROW(call());
+    const std::string line(told, 2), label(told + 3);
+    EXPECT_EQ(LastBox(), "Serious Error Occurred - Line " + line +
+                             " Error - 9-Subscript out of range\r\n'" + label +
+                             "'\r\nPLEASE RECORD ERROR MESSAGE");
+  }
+}
+
+}  // namespace

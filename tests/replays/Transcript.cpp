@@ -1,0 +1,312 @@
+#include "tests/replays/Transcript.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+
+#include "marking/MarkCard.h"
+#include "platform/Texts.h"
+#include "platform/UserInput.h"
+#include "platform/headless/Headless.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+#include "tests/Game.h"
+
+namespace {
+
+std::string fncNumber(double number) { return fncPlainNumberText(number); }
+
+std::string fncPair(double one, const char* sign, double other) {
+  return fncNumber(one) + sign + fncNumber(other);
+}
+
+std::string fncQuoted(const std::string& text) { return '"' + fncPiped(text) + '"'; }
+
+std::string fncColour(const Colour& c) {
+  static const std::map<std::string, std::string> names{
+      {"0,0,0", "black"},       {"255,255,255", "white"}, {"192,0,0", "dark red"},
+      {"0,0,128", "dark blue"}, {"0,192,0", "green"},     {"255,64,64", "red"},
+      {"0,0,255", "blue"}};
+  const std::string numbers =
+      fncPair(c.Red, ",", c.Green) + "," + std::to_string(static_cast<int>(c.Blue));
+  const auto known = names.find(numbers);
+  return c.Clear ? "clear" : known != names.end() ? known->second : numbers;
+}
+
+std::string fncIndexed(const std::string& name, int index) {
+  return index < 0 ? name : name + "(" + std::to_string(index) + ")";
+}
+
+/// Adds a control to a list of them: " txtTieBet(0 1) maisyk".
+void prcAppend(std::string& list, const std::string& name, int index) {
+  const std::size_t last = list.rfind(' ' + name + '(');
+  if (last != std::string::npos && index > 0) {
+    list.insert(list.size() - 1, " " + std::to_string(index));
+  } else {
+    list += " " + fncIndexed(name, index);
+  }
+}
+
+/// A tool button stands on both toolbars, each with a state of its own.
+std::string fncFullName(const Control& control) {
+  return (control.Kind == ControlKind::ToolButton ? control.Container->Name + std::string(".")
+                                                  : "") +
+         control.Name;
+}
+
+/// The marks of a card are told as marks.
+bool fncOfMarks(const Control& control) {
+  static const std::set<std::string> families{"shpTBP", "lblTBP", "lblTotal", "lblBP", "lneHLine"};
+  return families.contains(control.Name);
+}
+
+const char* const strPointers[]{"arrow", "up-down", "left-right", "hand up", "hand right", "link"};
+
+}  // namespace
+
+Window& fncWindowNamed(const std::string& name) {
+  for (Window* window : fncWindows()) {
+    if (window->Name == name) {
+      return *window;
+    }
+  }
+  throw std::logic_error("no window " + name);
+}
+
+Control& fncNamed(const std::string& name) {
+  const std::size_t dot = name.find('.');
+  const std::string form = dot == std::string::npos ? "" : name.substr(0, dot);
+  const std::string own = dot == std::string::npos ? name : name.substr(dot + 1);
+  Control* found = nullptr;
+  for (const Window* window : fncWindows()) {
+    for (Control* control : window->Controls) {
+      const bool blnHere = (form.empty() || window->Name == form) &&
+                           fncIndexed(control->Name, control->Index) == own;
+      if ((blnHere || fncFullName(*control) == name) && (found == nullptr || fncSeen(*control))) {
+        found = control;
+      }
+    }
+  }
+  return found != nullptr ? *found : throw std::logic_error("no control " + name);
+}
+
+void Transcript::Watch(const std::string& names) {
+  std::istringstream words(names);
+  watched_.assign(std::istream_iterator<std::string>(words), {});
+  looks_ = fncLooks();
+}
+
+Transcript::Words Transcript::fncWords(const Control& c) {
+  const bool blnLine = c.Kind == ControlKind::Line;
+  const bool blnCheck = c.Kind == ControlKind::MenuEntry || c.Kind == ControlKind::ToolButton;
+  const std::string value =
+      blnCheck ? (c.Value == 0 ? "off" : "on") : "value " + fncNumber(c.Value);
+  return {c.Visible ? "shown" : "hidden",
+          c.Enabled ? "enabled" : "disabled",
+          fncQuoted(c.Text),
+          value,
+          "of " + fncNumber(c.Max) + " by " + fncPair(c.SmallChange, "/", c.LargeChange),
+          blnLine ? "from " + fncPair(c.X1, ",", c.Y1) : "at " + fncPair(c.Left, ",", c.Top),
+          blnLine ? "to " + fncPair(c.X2, ",", c.Y2) : "size " + fncPair(c.Width, "x", c.Height),
+          "text " + fncColour(c.ForeColor),
+          "fill " + fncColour(c.FillColor),
+          "picture " + std::to_string(int{c.Picture}),
+          "selects " + std::to_string(c.SelLength),
+          std::string("pointer ") + strPointers[static_cast<std::size_t>(c.MousePointer)],
+          std::to_string(c.List.size()) + " rows, row " + std::to_string(c.ListIndex) + ": " +
+              (c.List.empty() ? "" : fncQuoted(c.List.back()))};
+}
+
+bool Transcript::fncWatched(const Control& control) const {
+  return !fncOfMarks(control) && std::ranges::any_of(watched_, [&](const std::string& name) {
+    return name == "all" || fncFullName(control).starts_with(name);
+  });
+}
+
+Transcript::Looks Transcript::fncLooks() {
+  Looks looks;
+  controls_.clear();
+  for (const Window* window : fncWindows()) {
+    for (const Control* control : window->Controls) {
+      if (fncWatched(*control)) {
+        looks[{fncFullName(*control), int{control->Index}}] = fncWords(*control);
+        controls_.push_back({control, control->Visible, control->Text});
+      }
+    }
+  }
+  return looks;
+}
+
+bool Transcript::Moved() const {
+  return std::ranges::any_of(controls_, [](const Quick& was) {
+    return was.Of->Visible != was.Visible || was.Of->Text != was.Text;
+  });
+}
+
+std::string Transcript::See(const std::string& name) {
+  const Control& control = fncNamed(name);
+  Control plain;
+  plain.Kind = control.Kind;
+  const Words words = fncWords(control), usual = fncWords(plain);
+  std::string text = "  " + name + ":";
+  for (std::size_t n = 0; n < words.size(); ++n) {
+    text += n == 0 || words.at(n) != usual.at(n) ? " " + words.at(n) + ";" : "";
+  }
+  return text + "\n";
+}
+
+void Transcript::prcTell(const std::string& what, const std::string& now) {
+  if (last_[what] != now) {
+    last_[what] = now;
+    prcLine(what + ": " + (now.empty() ? "none" : now));
+  }
+}
+
+void Transcript::prcTellScreen() {
+  static const char* const icons[]{"", "stop", "!", "i"};
+  for (const headless::Box& box : headless::Boxes()) {
+    std::string choice = box.Buttons == platform::Buttons::OkCancel ? " OK/Cancel" : "";
+    choice += box.Standard == platform::Answer::Cancel ? ", Cancel" : "";
+    prcLine("box " + std::string(icons[static_cast<std::size_t>(box.Icon)]) + "[" + box.Title +
+            choice + "]: " + fncPiped(box.Text));
+  }
+  headless::ForgetBoxes();
+  for (auto* calls : {&headless::Opened(), &headless::HelpShown()}) {
+    for (const std::string& call : *calls) {
+      prcLine("opens " + call.substr(call.find("VELMORA.HLP") == std::string::npos
+                                         ? 0
+                                         : call.find("VELMORA.HLP")));
+    }
+    calls->clear();
+  }
+  std::string windows, focus;
+  for (const Window* window : fncWindows()) {
+    windows += std::string(" ") + window->Name + (window->Visible ? "" : "(hidden)") +
+               (window->Topmost ? "(top)" : "");
+    if (window->ActiveControl != nullptr) {
+      focus += " " + fncIndexed(window->ActiveControl->Name, window->ActiveControl->Index);
+    }
+  }
+  for (const Window* window : fncWindows()) {
+    prcTell(window->Name, "at " + fncPair(window->Left, ",", window->Top) + ", size " +
+                              fncPair(window->Width, "x", window->Height) +
+                              (window->Maximised ? ", maximised" : ""));
+  }
+  prcTell("windows", windows.empty() ? "" : windows.substr(1));
+  prcTell("focus", focus.empty() ? "" : focus.substr(1));
+  prcTell("program", headless::Ended() ? "ended" : blnBusy ? "busy" : "waits");
+}
+
+void Transcript::prcTellControls() {
+  if (watched_.empty() && blnTableLoaded) {
+    std::string labels;
+    for (const Control* control : BaccTable.Form.Controls) {
+      if (control->Kind == ControlKind::Label && control->Visible && control->Announce) {
+        labels += " " + fncIndexed(control->Name, control->Index) + "=" + fncPiped(control->Text);
+      }
+    }
+    prcTell("table", labels.empty() ? "" : labels.substr(1));
+  }
+  Looks now = fncLooks();
+  std::map<std::string, std::string> changes;
+  for (const auto& [name, words] : now) {
+    const auto then = looks_.find(name);
+    for (std::size_t n = 0; then != looks_.end() && n < words.size(); ++n) {
+      if (then->second.at(n) != words.at(n)) {
+        prcAppend(changes[words.at(n)], name.first, name.second);
+      }
+    }
+  }
+  looks_ = std::move(now);
+  for (const auto& [word, names] : changes) {
+    prcLine(word + ":" + names);
+  }
+}
+
+void Transcript::prcTellFile() {
+  std::ifstream file(strIniFile, std::ios::binary);
+  std::map<std::string, std::string> now;
+  std::string line, section;
+  while (std::getline(file, line)) {
+    line.erase(line.find_last_not_of("\r") + 1);
+    const std::size_t equals = line.find('=');
+    section = line.starts_with('[') ? line : section;
+    if (equals != std::string::npos) {
+      now[section + line.substr(0, equals)] = line.substr(equals + 1);
+    }
+  }
+  for (const auto& [key, value] : now) {
+    if (!file_.contains(key) || file_[key] != value) {
+      prcLine("file: " + key + "=" + value);
+    }
+  }
+  file_ = std::move(now);
+}
+
+void Transcript::prcTellMoney() {
+  for (int i = 0; i < intSeats && blnTableLoaded; ++i) {
+    std::string bets;
+    for (const BetSide side : {betTie, betBanker, betPlayer}) {
+      const BetControls bet = fncBet(side, i);
+      bets += (side == betTie ? "" : "/") + bet.Box.Text +
+              (bet.Value.Visible ? "(" + bet.Value.Text + ")" : "");
+    }
+    prcTell("seat " + std::to_string(i + 1), BaccTable.lblPlayerTotal[i].Text + " = " +
+                                                 fncNumber(dblPlayerTotal[i]) + ", won " +
+                                                 BaccTable.lblPlayerWinnings[i].Text + " = " +
+                                                 fncNumber(dblPlayerWin[i]) + ", bets " + bets);
+  }
+}
+
+void Transcript::prcTellMarks() {
+  MarkCardWindow* card = fncMarkCard(0);
+  if (card == nullptr) {
+    return;
+  }
+  prcTell("card", "at " + fncPair(card->Picture1.Left, ",", card->Picture1.Top) + ", high " +
+                      fncNumber(card->Picture1.Height));
+  const Control& heading = card->lblBP.at(0);
+  prcTell("headings", !heading.Visible ? "none"
+                                       : heading.Text + card->lblBP.rbegin()->second.Text + " to " +
+                                             std::to_string(card->lblBP.rbegin()->first));
+  if (!card->shpTBP.at(0).Visible) {
+    // A new shoe: marks that come again where they were are told again.
+    std::erase_if(last_, [](const auto& told) {
+      return told.first != "mark 0" &&
+             (told.first.starts_with("mark ") || told.first.starts_with("total "));
+    });
+  }
+  for (const auto& [n, total] : card->lblTotal) {
+    if (total.Visible) {
+      prcTell("total " + std::to_string(n),
+              total.Text + " at " + fncNumber(total.Left) + ", " + fncColour(total.ForeColor));
+    }
+  }
+  for (const auto& [n, shape] : card->shpTBP) {
+    const Control& text = card->lblTBP.at(n);
+    // A line does not stand in a row of its own.
+    const std::string place = fncNumber((shape.Left - 60) / intColumnPitch) +
+                              (text.Visible ? "," + fncNumber((shape.Top - 510) / intRowPitch + 1)
+                                            : " top " + fncNumber(shape.Top));
+    const std::string caption =
+        !text.Visible ? "line" : fncQuoted(text.Text) + " " + fncColour(text.ForeColor);
+    prcTell("mark " + std::to_string(n),
+            !shape.Visible
+                ? "none"
+                : place + " high " + fncNumber(shape.Height) + " " + fncColour(shape.BorderColor) +
+                      (shape.Form2D == ShapeForm::Oval ? " oval " : " ") + caption);
+  }
+}
+
+std::string Transcript::WhatIsNew(const std::string& before) {
+  told_.clear();
+  before_ = before;
+  prcTellScreen();
+  prcTellControls();
+  prcTellFile();
+  prcTellMoney();
+  prcTellMarks();
+  return told_;
+}
