@@ -594,6 +594,24 @@ def write_logo():
          defs=GOLD_DEFS + CARD_DEFS + FLAP_DEFS + SHADOW_DEFS + defs)
 
 
+LETTERS = {"S": "M8.6 2.4C7 -.6 .8 -.4 .8 3.4C.8 7.4 9.2 5.6 9.2 10C9.2 14.4 2 14.6 .6 11",
+           "T": "M0 .5H10M5 .5V13.5", "A": "M0 13.5L5 .5L10 13.5M2 9H8",
+           "R": "M.8 13.5V.5H5.4C10 .5 10 7 5.4 7H.8M5.2 7L9.4 13.5"}
+
+
+def ribbon(cx, y, word):
+    """A band of satin with a word on it, in letters drawn for it: pictures ask for no font."""
+    w = len(word) * 14 + 16
+    left = cx - w / 2
+    letters = "".join(group(f"translate({num(left + 10 + i * 14)} {num(y + 5.2)})",
+                            path(LETTERS[ch], stroke=IVORY, stroke_width=2.6,
+                                 stroke_linecap="round", stroke_linejoin="round"))
+                      for i, ch in enumerate(word))
+    return (rect(left + 1, y + 2, w, 24, 5, "#021009", opacity=0.35)
+            + rect(left, y, w, 24, 5, "url(#shoefront)", stroke="url(#shoelip)", stroke_width=1.4)
+            + letters)
+
+
 def write_start():
     defs, body = medallion(90, 84, "#1C6A4C", "#0A3626")
     fan = "".join(group(f"translate(90 128) rotate({turn}) translate(0 -61)", card)
@@ -606,6 +624,7 @@ def write_start():
              + "".join(big_chip(41.5 + (0, 1, -0.5, 0.5)[i], 124 - i * 5.4, 14, 4.4, *colors[i])
                        for i in range(4)))
     save("start.svg", 180, 180, body, fan, group("translate(54 87) scale(.98)", shoe()), chips,
+         ribbon(90, 147, "START"),
          defs=GOLD_DEFS + CARD_DEFS.replace("#A4223F", "#27507F").replace("#64102A", "#142C4B")
          + SHADOW_DEFS + SHOE_DEFS + defs)
 
