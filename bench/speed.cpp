@@ -188,7 +188,10 @@ void prcWrites(const char* ours, const char* plain, const std::string& folder) {
   int value = 0;
   const Pair pair = fncCompare(
       fncDay, 41, 25,
-      [&] { fncWriteProfile(file, "Player2Stats", "Turnover", std::to_string(100 + value++ % 9)); },
+      [&] {
+        const ProfileKey key{"Player2Stats", "Turnover", std::to_string(100 + value++ % 9)};
+        fncWriteProfile(file, {&key, 1});
+      },
       [&] { prcBareWrite(bare, contents); });
   prcTell(ours, plain, pair);
 }

@@ -205,18 +205,20 @@ void cmdResetStats_Click() {
     if (!fncResetWanted()) {
       return;
     }
-    At(20);
-    w.lblHandsPlayed.Text = "0";
-    prcWriteSetting(strPlayed, "Hands", 0);
-    At(30);
-    for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
-      w.lblShoesPlayedDecks[i].Text = "0";
-      prcWriteSetting(strPlayed, fncDecksKey(i), 0);
-    }
-    At(40);
-    for (int i = 0; i < intSeats; ++i) {
-      prcResetSeat(i);
-    }
+    prcWriteTogether([&w] {
+      At(20);
+      w.lblHandsPlayed.Text = "0";
+      prcWriteSetting(strPlayed, "Hands", 0);
+      At(30);
+      for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
+        w.lblShoesPlayedDecks[i].Text = "0";
+        prcWriteSetting(strPlayed, fncDecksKey(i), 0);
+      }
+      At(40);
+      for (int i = 0; i < intSeats; ++i) {
+        prcResetSeat(i);
+      }
+    });
   });
 }
 

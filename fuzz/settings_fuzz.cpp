@@ -13,6 +13,7 @@
 namespace {
 
 const std::string strFile = "VELMORA.INI";  // In the folder it is started in.
+const ProfileKey keyWin{"Player1Stats", "Win", " -12.5"};
 
 std::string fncContents() {
   std::ifstream file(strFile, std::ios::binary);
@@ -30,11 +31,11 @@ void prcNeed(bool blnHolds) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::ofstream(strFile, std::ios::binary) << std::string(data, data + size);
   const std::string other = fncReadProfile(strFile, "Misc", "UnitValue", "No");
-  prcNeed(fncWriteProfile(strFile, "Player1Stats", "Win", " -12.5"));
+  prcNeed(fncWriteProfile(strFile, {&keyWin, 1}));
   prcNeed(fncReadProfile(strFile, "player1stats", "WIN", "No") == "-12.5");
   prcNeed(fncReadProfile(strFile, "Misc", "UnitValue", "No") == other);
   const std::string after = fncContents();
-  prcNeed(fncWriteProfile(strFile, "Player1Stats", "Win", " -12.5"));
+  prcNeed(fncWriteProfile(strFile, {&keyWin, 1}));
   prcNeed(fncContents() == after);
   return 0;
 }

@@ -160,8 +160,7 @@ std::string fncReadProfile(const std::string& path, std::string_view section, st
   return std::string(fncBare(found.Key->Text.substr(found.Key->Text.find('=') + 1)));
 }
 
-bool fncWriteProfile(const std::string& path, std::string_view section, std::string_view key,
-                     std::string_view value) {
+bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys) {
   std::error_code failed;
   const bool blnThere = std::filesystem::exists(path, failed);
   const std::optional<std::string> contents = fncContents(path);
@@ -169,7 +168,11 @@ bool fncWriteProfile(const std::string& path, std::string_view section, std::str
     // It cannot be read as a whole: writing would lose what it holds.
     return false;
   }
-  return fncReplace(path, fncWithKey(contents.value_or(""), section, key, value));
+  std::string written = contents.value_or("");
+  for (const ProfileKey& row : keys) {
+    written = fncWithKey(std::move(written), row.Section, row.Key, row.Value);
+  }
+  return fncReplace(path, written);
 }
 
 bool fncCreateProfile(const std::string& path, const std::string& contents) {

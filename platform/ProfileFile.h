@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,11 +12,14 @@
 std::string fncReadProfile(const std::string& path, std::string_view section, std::string_view key,
                            std::string_view fallback);
 
-/// Writes a key, creating file, section or key as needed. All other bytes of the file stay as they
-/// are: comments, unknown lines, order, line ends. The file is replaced as a whole or not at all.
-/// Returns whether it was.
-bool fncWriteProfile(const std::string& path, std::string_view section, std::string_view key,
-                     std::string_view value);
+struct ProfileKey {
+  std::string Section, Key, Value;
+};
+
+/// Writes keys in their order, creating file, section or key as needed. All other bytes of the file
+/// stay as they are: comments, unknown lines, order, line ends. The file is replaced once, as a
+/// whole or not at all. Returns whether it was.
+bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys);
 
 /// Makes a new profile of these contents, as a whole or not at all. A file that stands is left
 /// alone. Returns whether one was made.

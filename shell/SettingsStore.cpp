@@ -1,5 +1,8 @@
 #include "shell/SettingsStore.h"
 
+#include <utility>
+#include <vector>
+
 #include "platform/Procedure.h"
 #include "platform/ProfileFile.h"
 #include "platform/Texts.h"
@@ -34,7 +37,30 @@ constexpr const char* strFirstSettings =
     "[Player2Stats]\r\n"
     "Stake= 1000\r\n";
 
+/// Writes that wait for the end of prcWriteTogether.
+std::vector<ProfileKey> keyKept;
+bool blnKeeping = false;
+
+void prcWriteKept() {
+  blnKeeping = false;
+  const std::vector<ProfileKey> keys = std::exchange(keyKept, {});
+  if (!keys.empty()) {
+    fncWriteProfile(strIniFile, keys);
+  }
+}
+
 }  // namespace
+
+void prcWriteTogether(const std::function<void()>& work) {
+  blnKeeping = true;
+  try {
+    work();
+  } catch (...) {
+    prcWriteKept();
+    throw;
+  }
+  prcWriteKept();
+}
 
 std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey) {
   return Guarded("ZNEW fncGetPrivateProfileString", [&] {
@@ -45,7 +71,10 @@ std::string fncGetPrivateProfileString(const std::string& strSection, const std:
 
 void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
                                   const std::string& strValue) {
-  fncWriteProfile(strIniFile, strSection, strKey, strValue);
+  keyKept.push_back({strSection, strKey, strValue});
+  if (!blnKeeping) {
+    prcWriteKept();
+  }
 }
 
 double fncGetSetting(const std::string& strSection, const std::string& strKey) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 extern std::string
@@ -13,6 +14,11 @@ std::string fncGetPrivateProfileString(const std::string& strSection, const std:
 /// not told.
 void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
                                   const std::string& strValue);
+
+/// Runs work, which serves no events, and then writes all that it wrote in one replacement of the
+/// file, also when a fault ends it: whoever finds the file after a power cut finds all of it or
+/// nothing. Meanwhile reads find the file as it was. Not to be nested.
+void prcWriteTogether(const std::function<void()>& work);
 
 /// The numeric value of a key; 0 where it is missing or no number.
 double fncGetSetting(const std::string& strSection, const std::string& strKey);

@@ -23,11 +23,13 @@ void prcSettleSeat(Integer i) {
 }  // namespace
 
 void prcSettleHand() {
-  for (int i = 0; i < intSeats; ++i) {
-    prcSettleSeat(i);
-  }
-  prcWriteSetting("ShoesHandsPlayed", "Hands",
-                  fncLong(fncGetSetting("ShoesHandsPlayed", "Hands") + 1));
+  prcWriteTogether([] {
+    for (int i = 0; i < intSeats; ++i) {
+      prcSettleSeat(i);
+    }
+    prcWriteSetting("ShoesHandsPlayed", "Hands",
+                    fncLong(fncGetSetting("ShoesHandsPlayed", "Hands") + 1));
+  });
   for (int k = 0; k < intShoes; ++k) {
     if (intMarkCardShoe[k] == intShoeNumber && k != intShoeNumber) {
       SetCardView(k);

@@ -87,7 +87,8 @@ void Game::SetUp() {
 }
 
 void Game::Setting(const std::string& section, const std::string& key, const std::string& value) {
-  ASSERT_TRUE(fncWriteProfile(strIniFile, section, key, value));
+  const ProfileKey row{section, key, value};
+  ASSERT_TRUE(fncWriteProfile(strIniFile, {&row, 1}));
 }
 
 std::string Game::Stored(const std::string& section, const std::string& key) {
