@@ -1,21 +1,18 @@
 #include "bench/ExactOdds.h"
 
+#include <cstdio>
+
 #include "table/HandDealing.h"
 
 namespace {
 
 constexpr int intShoe = 1;  // The table plays shoe 0: what lies in this one is listed nowhere.
 constexpr int intMostCards = 6;
-constexpr int intPoints = 10;
+constexpr int intRanks = 13;
+constexpr int intOfDeck = 4;  // Cards of a rank in one deck.
 
 using Odds = std::array<OddsRow, intShoeSizes.size()>;
 using Weights = std::array<std::int64_t, intShoeSizes.size()>;
-
-/// Cards of one deck that count this many points: the tens and the pictures all count 0.
-constexpr int fncOfDeck(int points) { return points == 0 ? 16 : 4; }
-
-/// A face value that counts this many points.
-constexpr int fncFace(int points) { return points == 0 ? 13 : points; }
 
 void prcPrepareShoe() {
   intShoeCards[intShoe].prcBound(intMostSlots - 1);
@@ -39,18 +36,18 @@ void prcDeal(const Weights& weights, Odds& odds) {
 
 /// Lays every card that may come at a position and goes on behind it. A weight is the number of
 /// ways in which the cards laid so far can leave a shoe of that size.
-void prcLay(int position, const Weights& weights, std::array<int, intPoints>& laid, Odds& odds) {
+void prcLay(int position, const Weights& weights, std::array<int, intRanks>& laid, Odds& odds) {
   if (position == intMostCards) {
     prcDeal(weights, odds);
     return;
   }
-  for (int points = 0; points < intPoints; ++points) {
-    int& used = laid[static_cast<std::size_t>(points)];
+  for (int rank = 0; rank < intRanks; ++rank) {
+    int& used = laid[static_cast<std::size_t>(rank)];
     Weights next = weights;
     for (std::size_t size = 0; size < next.size(); ++size) {
-      next[size] *= fncOfDeck(points) * intShoeSizes[size] - used;
+      next[size] *= intOfDeck * intShoeSizes[size] - used;
     }
-    intShoeCards[intShoe][position] = fncFace(points) - 1;
+    intShoeCards[intShoe][position] = rank;
     ++used;
     prcLay(position + 1, next, laid, odds);
     --used;
@@ -69,9 +66,40 @@ std::array<OddsRow, intShoeSizes.size()> fncExactOdds() {
   Odds odds{};
   Weights one;
   one.fill(1);
-  std::array<int, intPoints> laid{};
+  std::array<int, intRanks> laid{};
   prcLay(0, one, laid, odds);
   return odds;
+}
+
+std::string fncOddsPage(const std::array<OddsRow, intShoeSizes.size()>& odds) {
+  std::string page =
+      "<table border=\"1\" cellspacing=\"0\" cellpadding=\"5\">\n"
+      "<tr><th rowspan=\"2\">Decks</th><th colspan=\"3\">Orders of six cards won by</th>"
+      "<th colspan=\"3\">House edge on</th></tr>\n"
+      "<tr><th>Banker</th><th>Player</th><th>Tie</th>"
+      "<th>Banker</th><th>Player</th><th>Tie</th></tr>\n";
+  for (std::size_t size = 0; size < odds.size(); ++size) {
+    const OddsRow& row = odds[size];
+    page += "<tr><td>" + std::to_string(intShoeSizes[size]) + "</td>";
+    for (const std::int64_t count : {row.Banker, row.Player, row.Tie}) {
+      page += "<td>" + fncGrouped(count) + "</td>";
+    }
+    for (const double edge : {fncBankerEdge(row), fncPlayerEdge(row), fncTieEdge(row)}) {
+      std::array<char, 32> text{};
+      std::snprintf(text.data(), text.size(), "<td>%.4f%%</td>", 100 * edge);
+      page += text.data();
+    }
+    page += "</tr>\n";
+  }
+  return page + "</table>\n";
+}
+
+std::string fncGrouped(std::int64_t count) {
+  std::string text = std::to_string(count);
+  for (auto at = static_cast<std::ptrdiff_t>(text.size()) - 3; at > 0; at -= 3) {
+    text.insert(static_cast<std::size_t>(at), ",");
+  }
+  return text;
 }
 
 double fncBankerEdge(const OddsRow& row) {

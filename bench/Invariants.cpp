@@ -115,7 +115,7 @@ std::string Watch::fncForms(int seat) {
     if (!blnTyping && !blnRevalued && !fncSame(bet.Money, fncAtUnit(side, seat))) {
       return fncOf("money of a bet", seat, bet.Money, fncAtUnit(side, seat));
     }
-    if (bet.Value.Visible && bet.Money != 0 && bet.Value.Text != fncCurrency(bet.Money)) {
+    if (bet.Money != 0 && (!bet.Value.Visible || bet.Value.Text != fncCurrency(bet.Money))) {
       return "value label of seat " + std::to_string(seat) + ": " + bet.Value.Text;
     }
   }
@@ -172,6 +172,37 @@ void Watch::prcCountHands() {
   blnEndBefore_ = blnEndOfShoe[intShoeNumber];
 }
 
+/// What the user chose is in the file as it is in memory. Read only when either has changed.
+std::string Watch::fncSwitches() {
+  struct Row {
+    const char* Section;
+    const char* Key;
+    const bool& blnFlag;
+  };
+  static const std::array<Row, 8> rows{{{"File", "Learn", blnLearn},
+                                        {"Card Options", "Show Card Values", blnShowCardValues},
+                                        {"Card Options", "Card Face Up", blnCardFaceUp},
+                                        {"Marking Options", "Show Score", blnShowScore},
+                                        {"Marking Options", "Show Naturals", blnShowNaturals},
+                                        {"Player Blue", "PlayerBlue", blnPlayerBlue},
+                                        {"Deal", "Delay", blnDealDelay},
+                                        {"Deal", "Animation", blnDealAnimation}}};
+  std::string chosen = strContents_ + std::to_string(intDecks[0]);
+  for (const Row& row : rows) {
+    chosen += row.blnFlag ? '1' : '0';
+  }
+  if (chosen == strChosen_) {
+    return "";
+  }
+  strChosen_ = chosen;
+  for (const Row& row : rows) {
+    if (fncSwitchedOn(row.Section, row.Key) != row.blnFlag) {
+      return std::string("in the file and in memory differs: ") + row.Key;
+    }
+  }
+  return fncGetSetting("Shoe Size", "Decks") == intDecks[0] ? "" : "decks in the file differ";
+}
+
 std::string Watch::fncFile() {
   const std::string contents = fncContents();
   if (contents != strContents_) {
@@ -183,6 +214,9 @@ std::string Watch::fncFile() {
     }
     const double hands = fncGetSetting("ShoesHandsPlayed", "Hands");
     if (hands < dblFileHands_) {
+      if (hands != 0) {
+        return "hands in the file fell to " + std::to_string(hands);
+      }
       // The user has set the statistics to zero; a hand on the table will still be counted.
       dblHands_ -= dblFileHands_ - hands;
     }
@@ -193,6 +227,9 @@ std::string Watch::fncFile() {
     if (!fncSame(file, dblPlayerWin[i])) {
       return fncOf("win in the file", i, file, dblPlayerWin[i]);
     }
+  }
+  if (const std::string fault = fncSwitches(); !fault.empty()) {
+    return fault;
   }
   // A hand in view is dealt at once and booked at its end.
   const bool blnInView = blnBusy && dblFileHands_ == dblHands_ - 1;

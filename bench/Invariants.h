@@ -32,6 +32,7 @@ class Watch {
   std::string fncForms(int seat);
   std::string fncClosed() const;
   std::string fncFile();
+  std::string fncSwitches();
   std::string fncCards();
   void prcNoteShoe();
   void prcCountHands();
@@ -39,6 +40,7 @@ class Watch {
 
   std::array<Seat, intSeats> seats_{};
   std::string strContents_;  ///< Of the settings file when last read.
+  std::string strChosen_;    ///< File and flags when last compared.
   std::array<double, intSeats> dblStake_{}, dblFileWin_{};
   double dblFileHands_ = 0;
   double dblHands_ = 0;  ///< What the file should say.

@@ -9,13 +9,15 @@
 // Counts over many shuffles of the game's own Shuffle, and how far they lie from what they should
 // be.
 
+/// Standard deviations beyond which nothing is chance.
+inline constexpr double dblChance = 4;
+
 /// A sum of squared differences from expected counts, each divided by the expected count.
 struct ChiSquare {
   double Sum = 0;
   int Degrees = 0;
   void prcAdd(double counted, double expected);
-  /// How far the sum lies from its mean, in standard deviations of a normal value; beyond 4 either
-  /// way is no chance.
+  /// How far the sum lies from its mean, in standard deviations of a normal value.
   double fncDeviation() const;
 };
 

@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr std::array strKinds{"Chip",       "TypeBet",   "Tab",       "Deal",      "TypeHands",
-                              "Shuffle",    "Turn",      "Squeeze",   "Key",       "Menu",
-                              "ToolButton", "CloseList", "KeepOnTop", "UnitValue", "Statistics",
-                              "Scroll",     "Hover",     "Idle",      "Leave"};
+constexpr std::array strKinds{"Chip",       "TypeBet",     "Tab",       "Deal",      "TypeHands",
+                              "Shuffle",    "Turn",        "Squeeze",   "Key",       "Menu",
+                              "ToolButton", "CloseWindow", "KeepOnTop", "UnitValue", "Statistics",
+                              "Scroll",     "Hover",       "Idle",      "Leave"};
 static_assert(strKinds.size() == intUserEventKinds);
 
 /// How often a random user does each, out of their sum.
@@ -130,10 +130,14 @@ void prcBetEvent(const UserEvent& event) {
 
 void prcWindowEvent(const UserEvent& event) {
   const bool blnCards = event.Which % 2 == 0;
-  if (event.Kind == UserEventKind::CloseList) {
-    Window& list = blnCards ? frmCardsDealt.Form : frmCardsDealtCount.Form;
-    if (list.Visible) {
-      user::Close(list);
+  if (event.Kind == UserEventKind::CloseWindow) {
+    // Mostly the lists: the other two may end the program.
+    const std::array<Window*, 8> windows{&frmCardsDealt.Form,      &frmCardsDealtCount.Form,
+                                         &frmCardsDealt.Form,      &frmCardsDealtCount.Form,
+                                         &frmCardsDealtCount.Form, &frmCardsDealt.Form,
+                                         &BaccTable.Form,          &MDIForm1.Form};
+    if (Window& window = *fncPick(windows, event.Which); window.Visible) {
+      user::Close(window);
     }
   } else {
     prcClick(blnCards ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
@@ -201,7 +205,7 @@ void prcDo(const UserEvent& event) {
       return prcClick((tlbrRef == &MDIForm1.tlbrMDIForm1
                            ? MDIForm1.tlbrButtons1
                            : MDIForm1.tlbrButtons2)[which % intToolButtons]);
-    case UserEventKind::CloseList:
+    case UserEventKind::CloseWindow:
     case UserEventKind::KeepOnTop:
       return prcWindowEvent(event);
     case UserEventKind::UnitValue:

@@ -20,7 +20,7 @@ enum class UserEventKind : std::uint8_t {
   Key,
   Menu,
   ToolButton,
-  CloseList,
+  CloseWindow,
   KeepOnTop,
   UnitValue,
   Statistics,

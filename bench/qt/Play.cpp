@@ -64,6 +64,9 @@ void prcInPoll(void (*measure)()) {
   });
   watch.start(50);
   qt::prcServe([] { prcUserClick(BaccTable.duokkortos[0]); });
+  if (!qt::fncEnded()) {
+    prcGiveUp("the hand did not wait for its user");
+  }
 }
 
 void prcTellIdle(const char* name) {
@@ -135,7 +138,9 @@ void prcTellMoves(const Strip& strip) {
     squeezed.push_back(between - start);
     prcRest(2);
   }
-  prcTell("squeeze_scale", qt::fncScale());
+  if (qt::fncScale() != 2) {
+    prcGiveUp("the screen is not that of scale 2");
+  }
   prcTell("squeeze_median", fncQuantile(squeezed, 0.5));
   prcTell("squeeze_99", fncQuantile(squeezed, 0.99));
   prcTell("bare_repaint_median", fncQuantile(repainted, 0.5));
@@ -287,6 +292,8 @@ void prcShoes() {
 }
 
 void prcMemory() {
+  ShoeFigures ignored;
+  prcMeasureShoe(ignored);
   qt::prcServe([] {
     prcShow(frmCardsDealt.Form);
     LoadlstCardsDealtCount();

@@ -14,7 +14,7 @@ void prcSqueeze();
 /// betting.
 void prcShoes();
 
-/// What table, marking card and both lists hold together.
+/// What table, marking card and both lists hold together when a shoe has been played.
 void prcMemory();
 
 }  // namespace bench

@@ -3,7 +3,8 @@
 #include <filesystem>
 
 #include "bench/Endurance.h"
-#include "table/TableState.h"
+#include "shell/CardsDealt.h"
+#include "table/BaccTable.h"
 
 namespace {
 
@@ -39,11 +40,22 @@ TEST_F(EnduranceTest, APlantedFaultIsFoundAndToldInItsShortestForm) {
       {"money made", UserEventKind::Scroll, [] { dblPlayerTotal[1] += 1; }, "total"},
       {"win not written", UserEventKind::Scroll, [] { dblPlayerWin[0] += 5; }, "win in the file"},
       {"bet without money", UserEventKind::Scroll, [] { lngTieBet[0] = 20; }, "money of a bet"},
+      {"total not shown", UserEventKind::Scroll, [] { BaccTable.lblPlayerTotal[0].Text = "$7"; },
+       "total shown"},
+      {"switch not written", UserEventKind::Scroll, [] { blnPlayerBlue = !blnPlayerBlue; },
+       "PlayerBlue"},
       {"hand not booked", UserEventKind::Scroll, [] { ++intHandsDealt[0]; }, "hands in the file"},
       {"busy with open buttons", UserEventKind::Shuffle, [] { blnBusy = true; }, "button is open"},
       {"fault in a handler", UserEventKind::Scroll, [] { throw faultOverflow; }, "Serious Error"},
       {"card dealt twice", UserEventKind::Shuffle, [] { intShoeCards[0][1] = intShoeCards[0][0]; },
        "twice in the shoe"},
+      {"wrong card listed", UserEventKind::Shuffle,
+       [] {
+         for (std::string& row : frmCardsDealt.lstCardsDealt.List) {
+           row = "Joker";
+         }
+       },
+       "lists Joker"},
       {"card not listed", UserEventKind::Shuffle, [] { ++intNextCard[0]; }, "cards listed"},
   };
   for (const Planted& row : rows) {

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
+
 #include "bench/ExactOdds.h"
 
 namespace {
 
-TEST(OddsTest, EveryOrderOfSixCardsGivesThePublishedCounts) {
+TEST(OddsTest, EveryOrderOfSixCardsGivesThePublishedCountsAndTheHelpsPage) {
   const auto odds = fncExactOdds();
   std::int64_t all = 0;
   for (std::size_t size = 0; size < odds.size(); ++size) {
@@ -20,6 +23,9 @@ TEST(OddsTest, EveryOrderOfSixCardsGivesThePublishedCounts) {
   EXPECT_NEAR(fncBankerEdge(eight), 0.010579, 5e-7);
   EXPECT_NEAR(fncPlayerEdge(eight), 0.012351, 5e-7);
   EXPECT_NEAR(fncTieEdge(eight), 0.143596, 5e-7);
+  std::ifstream file(VELMORA_HELP_PAGES "/odds.html");
+  const std::string page{std::istreambuf_iterator<char>(file), {}};
+  EXPECT_NE(page.find(fncOddsPage(odds)), std::string::npos) << fncOddsPage(odds);
 }
 
 }  // namespace

@@ -2,17 +2,14 @@
 
 #include "bench/ShuffleStatistics.h"
 
-// The ten million positions of docs/shuffle.md are counted by velmora_shuffle in a release build;
-// here two million run under the sanitizers.
+// Ten million positions in all; velmora_shuffle counts as many of each size for docs/shuffle.md.
 
 namespace {
-
-constexpr double dblChance = 4;  // Standard deviations; the seeds are fixed, so nothing flickers.
 
 class ShuffleStatisticsTest : public testing::TestWithParam<int> {};
 
 TEST_P(ShuffleStatisticsTest, KeepsToWhatTheMethodPromises) {
-  constexpr std::int64_t positions = 400'000;
+  constexpr std::int64_t positions = 2'000'000;
   const ShuffleStatistics s =
       fncShuffleStatistics(GetParam(), positions / (GetParam() * intSlotsOfDeck), 1);
   EXPECT_EQ(s.BrokenShoes, 0);
@@ -20,7 +17,7 @@ TEST_P(ShuffleStatisticsTest, KeepsToWhatTheMethodPromises) {
   EXPECT_LT(std::abs(s.Burnt.fncDeviation()), dblChance);
   EXPECT_LT(std::abs(s.MirroredValues.fncDeviation()), dblChance);
   EXPECT_LT(std::abs(s.MirroredSteps.fncDeviation()), dblChance);
-  if (GetParam() == 8) {
+  if (GetParam() >= 4) {
     EXPECT_LT(std::abs(s.ValueByPosition.fncDeviation()), dblChance);
   }
 }
