@@ -228,7 +228,7 @@ std::string Watch::fncFile() {
       return fncOf("win in the file", i, file, dblPlayerWin[i]);
     }
   }
-  if (const std::string fault = fncSwitches(); !fault.empty()) {
+  if (std::string fault = fncSwitches(); !fault.empty()) {
     return fault;
   }
   // A hand in view is dealt at once and booked at its end.

@@ -205,7 +205,7 @@ void cmdResetStats_Click() {
     if (!fncResetWanted()) {
       return;
     }
-    prcWriteTogether([&w] {
+    prcWriteTogether([] {
       At(20);
       w.lblHandsPlayed.Text = "0";
       prcWriteSetting(strPlayed, "Hands", 0);
