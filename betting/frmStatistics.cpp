@@ -93,9 +93,12 @@ void prcLayOutCounts(Window& form) {
     w.lblShoesPlayedDecks[i].Container = &w.frmShoesPlayed;
     w.lblShoesPlayedDecks[i].Align = Alignment::Centre;
   }
+  w.lblHandsPlayed.Spoken = "Hands played";
+  int i = 0;
   for (Control* head : {&w.Label5, &w.Label7, &w.Label8, &w.Label9, &w.Label10}) {
     head->Container = &w.frmShoesPlayed;
     head->Align = Alignment::Centre;
+    w.lblShoesPlayedDecks[i++].Spoken = "Shoes played, " + head->Text;
   }
   w.lblHandsPlayed.Align = Alignment::Centre;
 }
@@ -118,7 +121,11 @@ void prcLayOutSeat(Window& form, int i) {
   Control& box = w.mskSteak[i];
   box.Mask = "$99999999";
   box.Format = "$0";
-  box.Spoken = i == 0 ? "Initial Stake, PLAYER 3" : "Initial Stake, PLAYER 4";
+  const std::string seat = i == 0 ? ", PLAYER 3" : ", PLAYER 4";
+  box.Spoken = "Initial Stake" + seat;
+  w.lblCurrentMoney[i].Spoken = "Current Money" + seat;
+  w.lblWinningsStat[i].Spoken = "Winnings" + seat;
+  w.lblTurnover[i].Spoken = "Turnover" + seat;
   box.On = &evtStake;
 }
 

@@ -76,6 +76,7 @@ void prcShowHeadings(MarkCardWindow& form, const std::string& first) {
   for (int n = 0; n < intHeadings; ++n) {
     Control& heading = fncMakeElement(form, form.lblBP, n);
     heading.Text = n % 2 == 0 ? first : second;
+    heading.Spoken = "Column " + std::to_string(n + 1) + ",";
     prcAtColumn(heading, form.lblBP, n);
     heading.Visible = true;
   }
@@ -87,6 +88,7 @@ void prcShowTotal(MarkCardWindow& form, const Mark& mark) {
   }
   Control& total = fncElement(form.lblTotal, mark.Column);
   total.Text = std::to_string(int{*mark.Total});
+  total.Spoken = "Score after column " + std::to_string(int{mark.Column} + 1) + ":";
   prcAtColumn(total, form.lblTotal, mark.Column);
   total.ForeColor = fncTextColour(*mark.Total < 0);
   total.Visible = true;
@@ -160,6 +162,7 @@ void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
   At(110);
   shape.Visible = true;
   text.Visible = !mark.TieLine;
+  (mark.TieLine ? shape : text).Spoken = "Hand " + std::to_string(i + 1) + ", " + mark.Spoken;
   At(120);
   prcKeepInView(form, shape);
   At(130);

@@ -70,6 +70,7 @@ void prcLayOutMarkCard(MarkCardWindow& form) {
   form.Picture1.BackColor = clrWhite;
   form.Shape1.BorderColor = clrRule;
   form.ScrollCorner.BackColor = clrBarCorner;
+  form.Picture1.Spoken = "Marks";
   form.HScroll1.Spoken = "Pan the marking card sideways";
   form.VScroll1.Spoken = "Pan the marking card up and down";
   form.Timer1.Interval = 500;

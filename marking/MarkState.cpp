@@ -159,6 +159,7 @@ Mark fncPlaceMark(const Integer& card) {
   }
   const Integer& shoe = intMarkCardShoe[card];
   mark.Border = fncBorder(card, hand);
+  mark.Spoken = hand.Banker ? "Banker" : hand.Player ? "Player" : "Tie";
   mark.Oval = (blnPlayerNatural[shoe] || blnBankerNatural[shoe]) && blnShowNaturals &&
               !blnMarkIgnoreTies[card];
   mark.TieLine = hand.Ignored;

@@ -145,8 +145,13 @@ struct Control {
   // What it shows.
   std::string Text;  ///< Caption or text; a masked box holds the plain number without its mask.
   std::string ToolTip;
-  std::string Spoken;     ///< What a screen reader calls it; empty means its text or tool tip.
+  /// What a screen reader calls it, before the text that a label shows; empty means its text or
+  /// tool tip.
+  std::string Spoken;
   bool Announce = false;  ///< Read out when it appears or changes.
+  /// With Alt, this capital letter or digit presses a button or goes to a box, of several with the
+  /// same key to each in turn; 0 is none. It is underlined in the text; in a label it is only that.
+  char AccessKey = 0;
   Type Face;
   Alignment Align = Alignment::Left;
   Colour ForeColor = clrWindowText;

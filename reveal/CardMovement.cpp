@@ -22,7 +22,7 @@ void prcTurnByItself(BaccTableWindow& frm, Integer value, Integer Index) {
   At(20);
   prcShowInnerPatches(frm, value, Index, true);
   At(30);
-  frm.pctCardBack[Index].Visible = false;
+  prcUncover(Index);
   At(40);
   if (blnDealDelay) {
     prcWaitSeconds(0.7);

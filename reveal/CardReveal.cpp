@@ -6,6 +6,7 @@
 #include "learn/CardNeed.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
+#include "table/Cards.h"
 #include "table/TableState.h"
 
 namespace {
@@ -102,6 +103,18 @@ void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, boo
   patches.BottomLeft.Visible = blnShow;
 }
 
+std::string fncSpokenPosition(Integer Index) {
+  static constexpr std::array<const char*, 3> numbers{" first card", " second card", " third card"};
+  return std::string(Index < 3 ? "Player" : "Banker") +
+         numbers.at(static_cast<std::size_t>(int{Index} % 3));
+}
+
+void prcUncover(Integer Index) {
+  Control& face = BaccTable.pctCardFace[Index];
+  BaccTable.pctCardBack[Index].Visible = false;
+  face.Spoken = fncSpokenPosition(Index) + ", " + fncCardName(face.Picture);
+}
+
 void pctCardBack_Click(Integer Index) {
   Guarded("Baccarat table pctCardBack_Click", [&] {
     const Integer shoe = intShoeNumber;
@@ -118,7 +131,7 @@ void pctCardBack_Click(Integer Index) {
     prcShowInnerPatches(BaccTable, value, Index, true);
     prcShowOuterPatches(BaccTable, value, Index, false);
     At(50);
-    BaccTable.pctCardBack[Index].Visible = false;
+    prcUncover(Index);
     platform::RepaintNow(BaccTable.pctCardFace[Index]);
     At(60);
     if (Index == 0 || Index == 1) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/Numbers.h"
 #include "platform/Window.h"
 #include "table/BaccTable.h"
@@ -38,6 +40,12 @@ void prcLoadArrows();
 
 /// Face value 1..13 of the card dealt to a position.
 Integer fncPositionValue(Integer Index);
+
+/// "Player first card" and so on, as a position 0..5 is spoken of.
+std::string fncSpokenPosition(Integer Index);
+
+/// Takes the back off a card: from now on the ear may know what the face shows.
+void prcUncover(Integer Index);
 
 /// Shows or hides the two patches over the top left and bottom right marks, or over the other two,
 /// of the family that goes with the face value. The other family is left alone.

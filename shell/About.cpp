@@ -33,6 +33,7 @@ void prcLayOutAbout() {
   prcLayOut(w.Form, rows);
   w.Image1.Picture = picLogo;
   w.lblDescription.Face.Size = 9.75F;
+  w.Image1.Spoken = "Velmora";
   w.cmdOK.Default = w.cmdOK.CancelButton = true;
   w.cmdOK.On = &evtOk;
 }

@@ -80,6 +80,7 @@ void prcLayOutPlauk() {
   prcLayOut(w.Form, rows);
   w.Picture1.BackColor = clrGround;
   prcDressTitle(w.Label5, clrTitleShadow);
+  w.Label5.Dress = Look::Shadow;
   prcDressTitle(w.Label2, clrTitle);
   w.cmdStart.Picture = picStart;
   w.cmdStart.Spoken = "Start";

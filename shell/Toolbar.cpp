@@ -113,6 +113,7 @@ void prcLayOutToolbar(Control& toolbar, const char* name, double top, double hei
                       bool blnLarge) {
   prcPlace(MDIForm1.Form,
            {&toolbar, name, -1, ControlKind::Toolbar, 0, top, platform::ScreenWidth(), height});
+  toolbar.Spoken = "Toolbar";
   Table<Control, intToolButtons>& buttons = fncButtons(toolbar);
   for (int i = 0; i < intToolButtons; ++i) {
     const ToolRow& row = toolRows[static_cast<std::size_t>(i)];

@@ -85,6 +85,7 @@ void prcLayShoe() {
   t.prgShoe.Visible = false;
   prcAdd({&t.fraShoeNumber, "fraShoeNumber", -1, Frame, 6240, 300, 735, 600, "",
           "Click to select a shoe"});
+  t.fraShoeNumber.Spoken = "Shoe";
   t.fraShoeNumber.Visible = false;
   prcAdd({&t.lblShoeNumber, "lblShoeNumber", -1, Label, 0, 60, 735, 225, "SHOE",
           "Click to select a shoe"});
@@ -122,6 +123,7 @@ struct BetRow {
   const char* Clear;
   double Top;
   const char* Mask;
+  char AccessKey;
 };
 constexpr std::array<BetRow, 3> rowBets{
     {{betTie,
@@ -132,7 +134,8 @@ constexpr std::array<BetRow, 3> rowBets{
       {"lblTBetInc0", "lblTBetInc1", "lblTBetInc2", "lblTBetInc5"},
       "Clear Tie Bet",
       2070,
-      "99"},
+      "99",
+      'T'},
      {betBanker,
       "txtBankerBet",
       "txtBankerBetValue",
@@ -141,7 +144,8 @@ constexpr std::array<BetRow, 3> rowBets{
       {"lblBBetInc0", "lblBBetInc1", "lblBBetInc2", "lblBBetInc5"},
       "Clear Banker Bet",
       2700,
-      "999"},
+      "999",
+      'B'},
      {betPlayer,
       "txtPlayerBet",
       "txtPlayerBetValue",
@@ -150,7 +154,8 @@ constexpr std::array<BetRow, 3> rowBets{
       {"lblPBetInc0", "lblPBetInc1", "lblPBetInc2", "lblPBetInc5"},
       "Clear Player Bet",
       3330,
-      "999"}}};
+      "999",
+      'P'}}};
 
 struct Chip {
   int Chips;
@@ -164,12 +169,12 @@ constexpr std::array<Chip, 4> chpAll{
      {5, "5", "Left click add 5 chips / Right click subtract 5 chips", picChip5}}};
 constexpr double dblChipPitch = 210;
 
-/// What a screen reader calls a bet box: its tool tip alone would not tell the seats and bets
-/// apart.
+/// What is shown by its place only has to be told apart by name for the ear.
+std::string fncSpokenSeat(int seat) { return "Player " + std::to_string(seat + 1) + ", "; }
+
 std::string fncSpokenBet(BetSide side, int seat) {
   static constexpr std::array<const char*, 3> names{"Tie bet", "Banker bet", "Player bet"};
-  return "Player " + std::to_string(seat + 1) + ", " + names.at(static_cast<std::size_t>(side)) +
-         ", chips";
+  return fncSpokenSeat(seat) + names.at(static_cast<std::size_t>(side));
 }
 
 const char* fncBoxTip(BetSide side, int seat) {
@@ -188,6 +193,10 @@ void prcLayChips(const BetRow& row, int seat) {
          colSeats.at(static_cast<std::size_t>(seat)).Chips + dblChipPitch * static_cast<double>(k),
          row.Top + 30, 225, 285, chip.Text, k == 0 ? row.Clear : chip.ToolTip});
     label.On = &fncChipEvents(row.Side, chip.Chips);
+    label.Spoken = fncSpokenBet(row.Side, seat) + ", " +
+                   (k == 0   ? "clear"
+                    : k == 1 ? "1 chip"
+                             : std::string(chip.Text) + " chips");
     label.Dress = Look::Chip;
     label.Picture = chip.Picture;
     label.MousePointer = Pointer::HandLink;
@@ -206,10 +215,12 @@ void prcLayBet(const BetRow& row, int seat) {
   bet.Box.Align = Alignment::Centre;
   bet.Box.On = &fncBetBoxEvents(row.Side);
   bet.Box.Visible = false;
-  bet.Box.Spoken = fncSpokenBet(row.Side, seat);
+  bet.Box.Spoken = fncSpokenBet(row.Side, seat) + ", chips";
+  bet.Box.AccessKey = row.AccessKey;
   prcLayChips(row, seat);
   prcAdd({&bet.Value, row.Value, seat, Label, at.Value, row.Top + 360, 765, 255, "0"});
   prcDress(bet.Value, tpeText, clrIvory);
+  bet.Value.Spoken = fncSpokenBet(row.Side, seat) + ", money";
   bet.Value.Visible = false;
   for (const bool blnWin : {true, false}) {
     Control& mark = blnWin ? bet.Win : bet.Lose;
@@ -220,6 +231,7 @@ void prcLayBet(const BetRow& row, int seat) {
     mark.Dress = Look::Plate;
     mark.Visible = false;
     mark.Announce = true;
+    mark.Spoken = fncSpokenBet(row.Side, seat);
   }
 }
 
@@ -240,6 +252,9 @@ void prcLaySeat(int seat) {
   prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, at.Money, 4350, 1095, 255,
           "", "Winnings"});
   prcDress(t.lblPlayerWinnings[seat], tpeText, clrQuiet, Alignment::Right);
+  t.lblPlayerTotal[seat].Spoken = fncSpokenSeat(seat) + "money";
+  t.lblPlayerTotal[seat].Announce = true;
+  t.lblPlayerWinnings[seat].Spoken = fncSpokenSeat(seat) + "won";
 }
 
 void prcLayRowHeads() {
@@ -256,6 +271,9 @@ void prcLayRowHeads() {
   head(t.Label4, "Label4", -1, 3375, 225, "PLAYER", clrGold);
   head(t.lblRow[1], "lblRow", 1, 4035, 225, "MONEY", clrGold);
   head(t.lblRow[2], "lblRow", 2, 4365, 225, "WON", clrGold);
+  t.lblRow[0].AccessKey = rowBets[0].AccessKey;
+  t.Label5.AccessKey = rowBets[1].AccessKey;
+  t.Label4.AccessKey = rowBets[2].AccessKey;
 }
 
 struct CardPlace {
@@ -285,10 +303,6 @@ constexpr std::array<PatchPlace, 8> plcPatches{
      {&BaccTableWindow::pctCardBottomLeft, "pctCardBottomLeft", 30, 1005, 129},
      {&BaccTableWindow::pctCardBottomRight, "pctCardBottomRight", 900, 1005, 129}}};
 
-constexpr std::array<const char*, intPositions> strCards{
-    "Hidden Player first card", "Hidden Player second card", "Hidden Player third card",
-    "Hidden Banker first card", "Hidden Banker second card", "Hidden Banker third card"};
-
 void prcLayCard(int n) {
   BaccTableWindow& t = BaccTable;
   const CardPlace& at = plcCards.at(static_cast<std::size_t>(n));
@@ -312,13 +326,16 @@ void prcLayCard(int n) {
   t.pctCardBack[n].On = &evtCardBack;
   t.pctCardBack[n].Dress = Look::Card;
   t.pctCardBack[n].TabStop = true;
-  t.pctCardBack[n].Spoken = strCards.at(static_cast<std::size_t>(n));
+  t.pctCardBack[n].Spoken = "Hidden " + fncSpokenPosition(n);
+  t.pctCardFace[n].Announce = true;
   prcAdd({&t.lblCardBottom[n], "lblCardBottom", n, Label, at.BottomLeft, at.BottomTop, 1065, 135,
           "", "To reveal card - press left mouse button and move up"});
   t.lblCardBottom[n].On = &evtCardBottom;
+  t.lblCardBottom[n].Spoken = fncSpokenPosition(n) + ", lower edge";
   prcAdd({&t.lblCardRight[n], "lblCardRight", n, Label, at.RightLeft, at.RightTop, 135, 1440, "",
           "To reveal card - press left mouse button and move left"});
   t.lblCardRight[n].On = &evtCardRight;
+  t.lblCardRight[n].Spoken = fncSpokenPosition(n) + ", right edge";
   for (Control* control : {&t.shpCardShadow[n], &t.pctCardFace[n], &t.pctCardBack[n],
                            &t.lblCardBottom[n], &t.lblCardRight[n]}) {
     control->Visible = false;
@@ -340,10 +357,12 @@ void prcLayResults(bool blnPlayer) {
   add(natural, blnPlayer ? "lblNaturalP" : "lblNaturalB", left + 30, 600, 1785, 345, "NATURAL!",
       tpeSide, clrGold, Alignment::Left);
   natural.Announce = true;
+  natural.Spoken = blnPlayer ? "Player" : "Banker";
   Control& total = blnPlayer ? t.PTotal : t.BTotal;
   add(total, blnPlayer ? "PTotal" : "BTotal", left + 1860, 180, 615, 810, "0", tpeTotal, clrWhite,
       Alignment::Centre);
   total.Announce = true;
+  total.Spoken = blnPlayer ? "Player total" : "Banker total";
   for (const bool blnTie : {false, true}) {
     Control& mark =
         blnTie ? (blnPlayer ? t.TieResultP : t.TieResultB) : (blnPlayer ? t.WinP : t.WinB);
@@ -354,6 +373,7 @@ void prcLayResults(bool blnPlayer) {
     mark.BackColor = clrWon;
     mark.Dress = Look::Plate;
     mark.Announce = true;
+    mark.Spoken = natural.Spoken;
   }
 }
 
@@ -368,6 +388,7 @@ void prcLayLearnPanel(bool blnPlayer) {
   prcAdd({&label, blnPlayer ? "lblCardNeedP" : "lblCardNeedB", -1, Label, left, 4260, 3045, 615});
   prcDress(label, {.Size = 8.25F}, clrWhite);
   label.Announce = true;
+  label.Spoken = blnPlayer ? "Player advice:" : "Banker advice:";
   label.Visible = false;
 }
 
@@ -402,6 +423,9 @@ void prcMasked(Control& box, const char* mask, const char* format, const Control
 constexpr double dblButtonTop = 4905;
 constexpr double dblButtonHeight = 345;
 
+/// Of the Deal buttons. The captions are fixed, and D, like S, opens a menu.
+constexpr std::array<char, 4> chrDealKeys{'E', '5', '1', '2'};
+
 void prcLayButtons() {
   BaccTableWindow& t = BaccTable;
   prcAdd(
@@ -410,6 +434,8 @@ void prcLayButtons() {
   prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1620, dblButtonTop + 15, 780, 315, "0",
           "Enter between $10 and $9990"});
   prcMasked(t.txtUnitValue, "$9999", "$0", evtUnit);
+  t.txtUnitValue.Spoken = t.lblUnitValue.Text;
+  t.txtUnitValue.AccessKey = t.lblUnitValue.AccessKey = 'V';
   prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 45, 1200, 255,
           "Hands at A Time"});
   prcDress(t.lblHandsAtaTime, tpeText, clrIvory, Alignment::Right);
@@ -417,6 +443,8 @@ void prcLayButtons() {
   prcAdd({&t.mskHandsAtaTime, "mskHandsAtaTime", -1, MaskedEdit, 3885, dblButtonTop + 15, 450, 315,
           "1", "Enter Between 1 and 90"});
   prcMasked(t.mskHandsAtaTime, "99", "0", evtHands);
+  t.mskHandsAtaTime.Spoken = t.lblHandsAtaTime.Text;
+  t.mskHandsAtaTime.AccessKey = 'N';
   t.mskHandsAtaTime.Visible = false;
   for (int i = 0; i < t.duokkortos.size(); ++i) {
     prcAdd({&t.duokkortos[i], "duokkortos", i, Button, i == 0 ? 4380.0 : 4470.0 + 1005 * i,
@@ -424,11 +452,13 @@ void prcLayButtons() {
     t.duokkortos[i].On = &evtDeal;
     t.duokkortos[i].Face = i == 0 ? tpeStrong : Type{.Size = 8.25F, .Bold = true};
     t.duokkortos[i].Dress = i == 0 ? Look::Primary : Look::Plain;
+    t.duokkortos[i].AccessKey = chrDealKeys.at(static_cast<std::size_t>(i));
     t.duokkortos[i].Visible = false;
   }
   prcAdd({&t.maisyk, "maisyk", -1, Button, 8880, dblButtonTop, 1275, dblButtonHeight});
   t.maisyk.On = &evtShuffle;
   t.maisyk.Face = tpeStrong;
+  t.maisyk.AccessKey = 'U';
   t.maisyk.Visible = false;
 }
 
@@ -443,6 +473,7 @@ void prcLayFlightAndTimer() {
   t.pctCardBackMove.Visible = false;
   prcAdd({&t.txtsetfocus, "txtsetfocus", -1, TextBox, -900, -900, 300, 300});
   t.txtsetfocus.TabStop = false;
+  t.txtsetfocus.Spoken = "Hand in play";
   prcAdd({&t.Timer1, "Timer1", -1, Timer, 0, 0, 0, 0});
   t.Timer1.Interval = 500;
   t.Timer1.Enabled = false;

@@ -17,6 +17,9 @@ std::string CardSuite(Integer card);
 /// "1" to "10", "Jack", "Queen", "King" for a face value 1..13, empty for any other.
 std::string fncCardValueName(Integer value);
 
+/// "King of Spades" and the like for a card number 1..52, as it is spoken of.
+std::string fncCardName(Integer card);
+
 /// Point value of a face value: itself up to 9, 0 for the tens and pictures.
 inline Integer fncCardPoint(Integer value) { return value > 9 ? Integer(0) : value; }
 

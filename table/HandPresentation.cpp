@@ -54,6 +54,7 @@ void prcLayBack(int n) {
   if (blnDealAnimation) {
     prcMoveCard(BaccTable, n);
   }
+  BaccTable.pctCardBack[n].Announce = !blnCardFaceUp;
   BaccTable.pctCardBack[n].Visible = true;
   BaccTable.shpCardShadow[n].Visible = true;
 }
@@ -122,11 +123,11 @@ void prcHoldForPlayerThird() {
 
 void prcShowResults() {
   for (Control* label : fncSideResults()) {
-    label->Visible = true;
+    label->Announce = label->Visible = true;
   }
   for (int i = 0; i < intSeats; ++i) {
     for (const SeatResult& result : fncSeatResults(i)) {
-      result.Label->Visible = true;
+      result.Label->Announce = result.Label->Visible = true;
     }
   }
 }

@@ -92,6 +92,7 @@ void CardsInvisible() {
     for (int n = 0; n < intPositions; ++n) {
       At(10);
       table.pctCardFace[n].Visible = false;
+      table.pctCardFace[n].Spoken.clear();
       At(20);
       blnCardClickable[n] = false;
       At(30);

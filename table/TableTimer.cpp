@@ -9,13 +9,19 @@ namespace {
 
 constexpr int intFlashTicks = 4;
 
+/// The flashing is for the eye alone: the ear has heard the result.
+void prcTurn(Control& label) {
+  label.Announce = false;
+  label.Visible = !label.Visible;
+}
+
 void prcFlash() {
   for (Control* label : fncSideResults()) {
-    label->Visible = !label->Visible;
+    prcTurn(*label);
   }
   for (int i = 0; i < intSeats; ++i) {
     for (const SeatResult& result : fncSeatResults(i)) {
-      result.Label->Visible = !result.Label->Visible;
+      prcTurn(*result.Label);
     }
   }
   ++BaccTable.intFlashCount;
@@ -33,11 +39,11 @@ void prcReopenSeat(Integer i) {
 void prcCloseRound() {
   const bool blnOpen = !blnEndOfShoe[intShoeNumber];
   for (Control* label : fncSideResults()) {
-    label->Visible = true;
+    label->Announce = label->Visible = true;
   }
   for (int i = 0; i < intSeats; ++i) {
     for (const SeatResult& result : fncSeatResults(i)) {
-      result.Label->Visible = true;
+      result.Label->Announce = result.Label->Visible = true;
       if (!result.Won) {
         const BetControls bet = fncBet(result.Side, i);
         bet.Box.Text = "0";

@@ -1,6 +1,7 @@
 #include "platform/qt/Boxes.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -140,6 +141,14 @@ void EditView::keyPressEvent(QKeyEvent* event) {
   QLineEdit::keyPressEvent(event);
 }
 
+void EditView::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  if (hasFocus()) {
+    QPainter painter(this);
+    prcDrawFocus(painter, rect());
+  }
+}
+
 RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), view_(&view) {
   setFocusPolicy(Qt::TabFocus);
   setUniformItemSizes(true);
@@ -169,6 +178,14 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   }
   if (QListWidgetItem* selected = item(control.ListIndex); selected != nullptr) {
     scrollToItem(selected);
+  }
+}
+
+void RowsView::paintEvent(QPaintEvent* event) {
+  QListWidget::paintEvent(event);
+  if (hasFocus()) {
+    QPainter painter(viewport());
+    prcDrawFocus(painter, viewport()->rect());
   }
 }
 

@@ -27,6 +27,7 @@ class EditView : public QLineEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   bool fncRefuses(const QString& typed) const;
@@ -43,6 +44,9 @@ class RowsView : public QListWidget {
 
   void prcDetach() { view_ = nullptr; }
   void prcUpdate(const Control& control, bool blnFirst);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void prcFill(const Control& control, bool blnFirst);

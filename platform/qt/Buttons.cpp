@@ -68,7 +68,7 @@ void ButtonView::paintEvent(QPaintEvent* /*event*/) {
   painter.drawText(rect().translated(0, shift),
                    static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextShowMnemonic) |
                        static_cast<int>(Qt::TextWordWrap),
-                   fncText(control.Text));
+                   fncCaption(control));
 }
 
 void ToolView::paintEvent(QPaintEvent* /*event*/) {

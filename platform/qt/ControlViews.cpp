@@ -1,7 +1,7 @@
 #include "platform/qt/ControlViews.h"
 
-#include <QAccessible>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "platform/UserInput.h"
+#include "platform/qt/Accessible.h"
 #include "platform/qt/Boxes.h"
 #include "platform/qt/Buttons.h"
 #include "platform/qt/Loop.h"
@@ -17,6 +18,7 @@
 #include "platform/qt/Pictures.h"
 #include "platform/qt/Scale.h"
 #include "platform/qt/Style.h"
+#include "platform/qt/WindowViews.h"
 
 namespace qt {
 
@@ -50,7 +52,7 @@ bool fncMouseless(const Control& control) {
 
 QWidget* fncMakePainted(ControlView& view, QWidget* parent) {
   auto* widget = new PaintedView(view, parent);
-  if (view.Drawn.Kind == ControlKind::Picture) {
+  if (view.Drawn.Kind == ControlKind::Picture && view.Drawn.TabStop) {
     widget->setFocusPolicy(Qt::TabFocus);
   }
   return widget;
@@ -266,15 +268,30 @@ bool fncPlacedByLayout(ControlKind kind) {
   return kind == ControlKind::Toolbar || kind == ControlKind::ToolButton;
 }
 
-/// Has a screen reader read out a control that has come up or changed.
-void prcAnnounce(QWidget& widget) {
-  if (!QAccessible::isActive()) {
+void prcUseAccessKey(ControlView& view) {
+  Control* control = fncLive(view);
+  if (control == nullptr || !fncSeen(*control) || !fncUsable(*control)) {
     return;
   }
-  QAccessibleEvent named(&widget, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&named);
-  QAccessibleEvent alert(&widget, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  if (fncActiveWindow() != control->Form) {
+    prcBringUp(*control->Form);
+  }
+  if (control->Kind == ControlKind::Button) {
+    prcKeyClick(view);
+  } else {
+    prcServe([control] { fncSetFocus(*control); });
+  }
+}
+
+void prcMakeAccessKey(ControlView& view) {
+  if (view.Drawn.AccessKey == 0 || view.Drawn.Kind == ControlKind::Label) {
+    return;
+  }
+  const QKeySequence keys(static_cast<int>(Qt::ALT) | view.Drawn.AccessKey);
+  auto* shortcut = new QShortcut(keys, view.Widget);
+  for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously}) {
+    QObject::connect(shortcut, signal, view.Widget, [&view] { prcUseAccessKey(view); });
+  }
 }
 
 /// What all widgets have in common.
@@ -317,6 +334,7 @@ void prcMakeControl(ControlView& view, QWidget* parent) {
     prcNoteWidget(view.Widget, &view);
     view.Widget->setObjectName(fncObjectName(control));
     view.Widget->setMouseTracking(true);
+    prcMakeAccessKey(view);
   }
   if (view.Widget != nullptr || view.Helper != nullptr) {
     row.Update(view, control, true);
@@ -324,7 +342,7 @@ void prcMakeControl(ControlView& view, QWidget* parent) {
   if (view.Widget != nullptr) {
     prcUpdateCommon(view, control, true);
     if (control.Announce && view.Widget->isVisible()) {
-      prcAnnounce(*view.Widget);
+      prcNoteForEar(view);
     }
   }
 }
@@ -342,7 +360,7 @@ void prcUpdateControl(ControlView& view, const Control& control) {
   }
   view.Drawn = control;
   if (blnAnnounce) {
-    prcAnnounce(*view.Widget);
+    prcNoteForEar(view);
   }
 }
 
@@ -358,6 +376,7 @@ void prcDropControl(ControlView& view) {
     return;
   }
   prcForgetWidget(view.Widget);
+  qDeleteAll(view.Widget->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly));
   if (auto* painted = qobject_cast<PaintedView*>(view.Widget); painted != nullptr) {
     painted->prcDetach();
   } else if (auto* button = qobject_cast<ButtonView*>(view.Widget); button != nullptr) {
@@ -396,8 +415,15 @@ QString fncText(const std::string& text) {
 }
 
 QString fncSpokenName(const Control& control) {
+  if (control.Dress == Look::Shadow) {
+    return {};  // Whatever throws the shadow is spoken of.
+  }
   if (!control.Spoken.empty()) {
-    return fncText(control.Spoken);
+    const bool blnShown = control.Kind == ControlKind::Label && control.Dress != Look::Chip;
+    const QStringList lines = fncText(control.Text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QString name = fncText(control.Spoken);
+    return blnShown ? (name + QLatin1Char(' ') + lines.join(QLatin1String(", "))).simplified()
+                    : name;
   }
   const bool blnTyped =
       control.Kind == ControlKind::TextBox || control.Kind == ControlKind::MaskedEdit;
@@ -409,6 +435,15 @@ QString fncSpokenName(const Control& control) {
     name.remove(QLatin1Char('&'));
   }
   return name;
+}
+
+QString fncCaption(const Control& control) {
+  QString caption = fncText(control.Text);
+  const auto at = caption.indexOf(QLatin1Char(control.AccessKey), 0, Qt::CaseInsensitive);
+  if (control.AccessKey != 0 && at >= 0) {
+    caption.insert(at, QLatin1Char('&'));
+  }
+  return caption;
 }
 
 QString fncObjectName(const Control& control) {

@@ -22,8 +22,12 @@ void prcRaiseControl(ControlView& view);
 /// number, and the focused one selects as its SelLength says.
 void prcShowFocusTexts(WindowView& home);
 
-/// A control as it is spoken of: its Spoken, else its text without access keys, else its tool tip.
+/// A control as it is spoken of: its Spoken, with the text that a label shows; else its text
+/// without access keys, else its tool tip.
 QString fncSpokenName(const Control& control);
+
+/// The text of a control with the toolkit's sign before its access key.
+QString fncCaption(const Control& control);
 
 /// The name of a widget: the control's, with "(index)" for an element.
 QString fncObjectName(const Control& control);

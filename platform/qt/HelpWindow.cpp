@@ -21,6 +21,7 @@
 #include "platform/platform.h"
 #include "platform/qt/Scale.h"
 #include "platform/qt/Style.h"
+#include "platform/qt/WindowViews.h"
 
 namespace qt {
 
@@ -180,6 +181,11 @@ void HelpWindow::prcMakeBars() {
   addAction(leave);
 }
 
+void HelpWindow::closeEvent(QCloseEvent* event) {
+  prcHandOn(*this);
+  QMainWindow::closeEvent(event);
+}
+
 void HelpWindow::prcMakeSides() {
   auto* sides = new QTabWidget(this);
   QHelpContentWidget* contents = engine_.contentWidget();
@@ -202,10 +208,18 @@ void HelpWindow::prcMakeSides() {
   split->setStretchFactor(1, 1);
   split->setSizes({fncScaled(intSideWidth), fncScaled(intWidth - intSideWidth)});
   setCentralWidget(split);
+  // Tab goes from link to link of a page; this key goes past them.
+  auto* change = new QAction(this);
+  change->setShortcut(QKeySequence(Qt::Key_F6));
+  connect(change, &QAction::triggered, this, [this, sides] {
+    pages_->hasFocus() ? sides->currentWidget()->setFocus() : pages_->setFocus();
+  });
+  addAction(change);
 }
 
 QWidget* HelpWindow::fncMakeIndex() {
   auto* side = new QWidget(this);
+  side->setAccessibleName(tr("Index"));
   auto* filter = new QLineEdit(side);
   filter->setPlaceholderText(tr("Look for"));
   filter->setAccessibleName(tr("Look for"));

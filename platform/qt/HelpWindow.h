@@ -47,6 +47,9 @@ class HelpWindow : public QMainWindow {
 
   HelpPages& fncPages() { return *pages_; }
 
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
  private:
   void prcMakeBars();
   void prcMakeSides();

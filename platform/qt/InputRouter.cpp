@@ -176,8 +176,9 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       }
       break;
     case QEvent::WindowActivate:
+      // The toolkit passes it on to all children; none of them is meant.
       if (WindowView* view = fncWindowViewOf(&widget);
-          view != nullptr && view->Shell == &widget && !fncSyncing()) {
+          view != nullptr && widget.isWindow() && view->Shell == &widget && !fncSyncing()) {
         Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
         if (view->Source->Kind == WindowKind::Frame) {
           prcRaiseFloats();

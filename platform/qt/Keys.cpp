@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
+#include <QMainWindow>
 #include <QMenuBar>
+#include <QShortcut>
 #include <algorithm>
 
 #include "platform/UserInput.h"
@@ -112,6 +114,65 @@ bool fncAnswerKey(Window& window, Control* focused, int key) {
   return true;
 }
 
+/// Where a key moves a scroll bar to; the place it has if the key does not move it.
+double fncScrolled(const Control& bar, int key) {
+  const bool blnAcross = bar.Kind == ControlKind::HScrollBar;
+  if (key == (blnAcross ? Qt::Key_Left : Qt::Key_Up)) {
+    return bar.Value - bar.SmallChange;
+  }
+  if (key == (blnAcross ? Qt::Key_Right : Qt::Key_Down)) {
+    return bar.Value + bar.SmallChange;
+  }
+  if (!blnAcross && (key == Qt::Key_PageUp || key == Qt::Key_PageDown)) {
+    return bar.Value + (key == Qt::Key_PageUp ? -bar.LargeChange : bar.LargeChange);
+  }
+  if (blnAcross && (key == Qt::Key_Home || key == Qt::Key_End)) {
+    return key == Qt::Key_Home ? bar.Min : bar.Max;
+  }
+  return bar.Value;
+}
+
+/// In a window without a focused control the arrow keys, Page Up and Down, Home and End move its
+/// scroll bars, which take no focus.
+bool fncScrollKey(const Window& window, int key) {
+  for (Control* bar : window.Controls) {
+    const bool blnBar =
+        bar->Kind == ControlKind::HScrollBar || bar->Kind == ControlKind::VScrollBar;
+    if (blnBar && fncSeen(*bar) && fncUsable(*bar) && fncScrolled(*bar, key) != bar->Value) {
+      prcServe([bar, key] { prcUserValue(*bar, fncScrolled(*bar, key)); });
+      return true;
+    }
+  }
+  return false;
+}
+
+/// Alt and a letter in a floating window mean the frame's menus and the keys of the table, as the
+/// lists of cards have none of their own.
+bool fncFramesKey(const Window& window, const QKeyEvent& event) {
+  const WindowView* frame = fncFrameView();
+  auto* main = frame != nullptr ? qobject_cast<QMainWindow*>(frame->Shell) : nullptr;
+  if (window.Kind != WindowKind::Float || main == nullptr || event.modifiers() != Qt::AltModifier) {
+    return false;
+  }
+  const QKeySequence keys(static_cast<int>(Qt::ALT) | event.key());
+  for (QAction* menu : main->menuBar()->actions()) {
+    if (menu->isVisible() && QKeySequence::mnemonic(menu->text()) == keys) {
+      main->activateWindow();
+      main->menuBar()->setActiveAction(menu);
+      return true;
+    }
+  }
+  for (QShortcut* shortcut : main->findChildren<QShortcut*>()) {
+    const auto* owner = qobject_cast<QWidget*>(shortcut->parent());
+    if (shortcut->key() == keys && owner != nullptr && owner->isVisible() && owner->isEnabled()) {
+      main->activateWindow();
+      emit shortcut->activated();
+      return true;
+    }
+  }
+  return false;
+}
+
 /// The keys that mean the same in every window. Returns whether the key was one.
 bool fncCommonKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
@@ -126,12 +187,18 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     prcMoveFocus(window, key == Qt::Key_Backtab);
     return true;
   }
+  if (fncFramesKey(window, event)) {
+    return true;
+  }
   Control* focused = window.ActiveControl;
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
     return fncAnswerKey(window, focused, key);
   }
-  if (focused == nullptr || (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
+  if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
     return false;
+  }
+  if (focused == nullptr) {
+    return fncScrollKey(window, key);
   }
   if (key == Qt::Key_Space && fncClickedBySpace(focused->Kind)) {
     if (!event.isAutoRepeat()) {

@@ -104,7 +104,8 @@ void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect) 
   const QFont font = fncFittedFont(control, rect.size());
   painter.setFont(font);
   painter.setPen(ink);
-  painter.drawText(place, fncTextFlags(control, place.size(), font), fncText(control.Text));
+  const int key = control.AccessKey != 0 ? static_cast<int>(Qt::TextShowMnemonic) : 0;
+  painter.drawText(place, fncTextFlags(control, place.size(), font) | key, fncCaption(control));
 }
 
 void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& rect) {

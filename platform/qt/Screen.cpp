@@ -8,6 +8,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "platform/qt/Accessible.h"
 #include "platform/qt/ControlViews.h"
 #include "platform/qt/Loop.h"
 #include "platform/qt/WindowViews.h"
@@ -130,6 +131,11 @@ void prcSyncControls(WindowView& home) {
 }
 
 void prcDropUnloaded() {
+  for (const std::unique_ptr<WindowView>& view : vwWindows) {
+    if (!fncLoaded(view->Source, view->Handle)) {
+      prcHandOn(*view->Shell);
+    }
+  }
   std::erase_if(vwWindows, [](const std::unique_ptr<WindowView>& view) {
     return !fncLoaded(view->Source, view->Handle);
   });
@@ -163,19 +169,34 @@ void prcSyncOnce() {
     }
   }
   prcFollowActive();
+  prcTellEar();
   blnSyncing = false;
   clkSynced.start();
 }
 
+/// The window to be resized or activated next; none if nothing is due. Of several that have come
+/// up, the frame is first, and a window that opened others while it loaded is shown after them and
+/// has the input in the end.
+WindowView* fncDue() {
+  WindowView* shown = nullptr;
+  for (const std::unique_ptr<WindowView>& view : vwWindows) {
+    if (view->blnResized) {
+      return view.get();
+    }
+    if (view->blnShown && (shown == nullptr || shown->Source->Kind != WindowKind::Frame)) {
+      shown = view.get();
+    }
+  }
+  return shown;
+}
+
 /// Runs one resize or activate handler that is due. Returns whether there was one.
 bool fncRunDue() {
-  const auto due = std::ranges::find_if(vwWindows, [](const std::unique_ptr<WindowView>& view) {
-    return view->blnResized || view->blnShown;
-  });
-  if (due == vwWindows.end()) {
+  WindowView* due = fncDue();
+  if (due == nullptr) {
     return false;
   }
-  WindowView& view = **due;
+  WindowView& view = *due;
   const bool blnResize = std::exchange(view.blnResized, false);
   const bool blnActivate = !blnResize && std::exchange(view.blnShown, false);
   Window* window = fncLive(view);

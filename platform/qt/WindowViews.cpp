@@ -237,6 +237,7 @@ void prcShowWindow(WindowView& view) {
     return;
   }
   if (!window.Visible) {
+    prcHandOn(*view.Shell);
     view.Shell->hide();
     return;
   }
@@ -374,6 +375,14 @@ Modal::~Modal() {
   }
 }
 
+void prcHandOn(const QWidget& shell) {
+  const WindowView* frame = fncFrameView();
+  if (shell.isWindow() && shell.isActiveWindow() && frame != nullptr && frame->Shell != &shell &&
+      frame->Shell->isVisible()) {
+    frame->Shell->activateWindow();
+  }
+}
+
 void prcFollowActive() {
   const Window* window = fncActiveWindow();
   const WindowView* view = window != nullptr ? fncViewOf(*window) : nullptr;
@@ -404,6 +413,9 @@ void prcBringUp(Window& window) {
   if (fncChild(*view) != nullptr) {
     view->Shell->raise();
     view->Drawn.Raised = window.Raised;
+    if (!view->Shell->isActiveWindow()) {
+      view->Shell->activateWindow();
+    }
   } else {
     view->Shell->raise();
     view->Shell->activateWindow();
@@ -429,7 +441,8 @@ void prcRaiseFloats() {
 Window* fncNextChild() {
   std::vector<Window*> children;
   for (Window* window : fncWindows()) {
-    if (window->Kind == WindowKind::Child && window->Visible) {
+    const bool blnSmall = window->Kind == WindowKind::Child || window->Kind == WindowKind::Float;
+    if (blnSmall && window->Visible) {
       children.push_back(window);
     }
   }

@@ -33,14 +33,18 @@ class Modal {
 /// Lets the keyboard focus follow the model: the active control of the active window.
 void prcFollowActive();
 
+/// A top-level window that goes leaves the input to the frame: where the window manager would give
+/// it to another small one, the keys of the game were dead.
+void prcHandOn(const QWidget& shell);
+
 /// Makes the window the one that has the input, on the screen and in the model.
 void prcBringUp(Window& window);
 
 /// Puts the floating windows above the frame, where the window manager has lost their order.
 void prcRaiseFloats();
 
-/// The next visible child of the frame behind the active one, in the order of their loading; none
-/// if there is no other.
+/// The next visible child of the frame or floating window behind the active one, in the order of
+/// their loading; none if there is no other.
 Window* fncNextChild();
 
 }  // namespace qt

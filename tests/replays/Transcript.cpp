@@ -203,7 +203,8 @@ void Transcript::prcTellControls() {
   if (watched_.empty() && blnTableLoaded) {
     std::string labels;
     for (const Control* control : BaccTable.Form.Controls) {
-      if (control->Kind == ControlKind::Label && control->Visible && control->Announce) {
+      if (control->Kind == ControlKind::Label && control->Visible && control->Announce &&
+          control->ToolTip.empty()) {  // The money has a line of its own.
         labels += " " + fncIndexed(control->Name, control->Index) + "=" + fncPiped(control->Text);
       }
     }

@@ -27,11 +27,11 @@ shuffle_shoe() {
 bet_on_both_seats() {
   click_table $seat1_banker_chip5
   click_table $seat1_tie_chip1
-  wait_for 5 '<T>\$940<T>Stake and winnings' "the chips did not cost the first seat \$60"
+  wait_for 5 '\$940<T>Stake and winnings' "the chips did not cost the first seat \$60"
   click_table $seat2_player_box
   typed 3
   keys Tab
-  wait_for 5 '<T>\$970<T>Stake and winnings' "the typed bet did not cost the second seat \$30"
+  wait_for 5 '\$970<T>Stake and winnings' "the typed bet did not cost the second seat \$30"
   picture bets
 }
 

@@ -1,0 +1,197 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <fstream>
+#include <set>
+
+#include "betting/frmStatistics.h"
+#include "platform/UserInput.h"
+#include "platform/qt/Accessible.h"
+#include "platform/qt/OneInstance.h"
+#include "platform/qt/Screen.h"
+#include "shell/About.h"
+#include "shell/MDIForm1.h"
+#include "shell/Program.h"
+#include "shell/SettingsStore.h"
+#include "shell/StartScreen.h"
+#include "table/BaccTable.h"
+#include "tests/conformance/Adapter.h"
+#include "tests/qt/RealUser.h"
+
+// The whole game by keyboard and by ear: what a screen reader finds in each window, and what it is
+// told of a hand.
+
+namespace {
+
+std::string strHeard;  // A line for each reading.
+
+class Ear : public testing::Test {
+ protected:
+  void SetUp() override {
+    user::Reset();
+    before_ = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
+    QFile::remove(fncStartSettings());
+    strHeard = "\n";
+    ASSERT_TRUE(fncStartProgram());
+    strIniFile = folder_.filePath("VELMORA.INI").toStdString();
+    std::ofstream(strIniFile)
+        << "[File]\nLearn=True\n[Card Options]\nCard Face Up=False\n[Deal]\nDelay=False\n"
+           "Animation=False\n[Shoe Size]\nDecks=4\n[frmBaccTable]\nHeight=5400\nWidth=10770\n"
+           "[Misc]\nUnitValue=10\n[Player1Stats]\nStake=1000\n[Player2Stats]\nStake=1000\n";
+    user::Settle();
+  }
+  void TearDown() override {
+    user::Reset();
+    QFile::remove(fncStartSettings());
+    qt::prcGiveUpLock();
+    before_.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before_);
+  }
+
+  static QString fncStartSettings() {
+    return QString::fromStdString(platform::DataFolder() + "/VELMORA.INI");
+  }
+
+  /// A key to whatever has the focus, as the user presses it.
+  static void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr) << "nothing has the focus";
+    QTest::keyClick(focus->window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+  }
+
+  static void Shuffle() {
+    Key(Qt::Key_S);
+    user::Wait(50);
+    ASSERT_STREQ(qt::fncActiveWindow()->Name, BaccTable.Form.Name);
+    Key(Qt::Key_U, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([] { return BaccTable.duokkortos[0].Visible && !blnBusy; }, 20000));
+  }
+
+  /// Puts the cards of these slots of a deck out first, in this order.
+  static void NextSlots(std::initializer_list<int> next) {
+    SlotRow& order = intShoeCards[intShoeNumber];
+    int place = intNextCard[intShoeNumber];
+    for (const int slot : next) {
+      int at = place;
+      while (order[at] % intSlotsOfDeck != slot) {
+        ++at;
+      }
+      std::swap(order[place++], order[at]);
+    }
+  }
+
+  /// Chooses each card that waits by its number and turns it by Enter, until the hand is over.
+  static void TurnAll() {
+    QTimer fingers;
+    QObject::connect(&fingers, &QTimer::timeout, [] {
+      for (int n = 0; n < intPositions; ++n) {
+        if (blnCardClickable[n] && BaccTable.pctCardBack[n].Visible) {
+          Key(Qt::Key_1 + n);
+          return Key(Qt::Key_Return);
+        }
+      }
+    });
+    fingers.start(200);
+    Key(Qt::Key_E, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([] { return !blnBusy; }, 20000));
+  }
+
+  /// What a screen reader misses at the controls that show in a window.
+  static void CheckTree(const Window& window) {
+    SCOPED_TRACE(window.Name);
+    std::set<QString> names;
+    for (const Control* control : window.Controls) {
+      const qt::ControlView* view = qt::fncViewOf(*control);
+      // Tool buttons may have no room on a narrow screen; the menus have them all.
+      if (!fncSeen(*control) || view == nullptr || view->Widget == nullptr ||
+          (control->Kind == ControlKind::ToolButton && !view->Widget->isVisible())) {
+        continue;
+      }
+      SCOPED_TRACE(control->Name + std::string(" ") + std::to_string(int{control->Index}));
+      QAccessibleInterface* found = QAccessible::queryAccessibleInterface(view->Widget);
+      const QString name = found->text(QAccessible::Name);
+      const bool blnUsed = control->On->Click != nullptr || fncTakesFocus(*control);
+      if (found->state().invisible) {
+        EXPECT_FALSE(blnUsed) << "hidden from the ear";
+        EXPECT_TRUE(name.isEmpty()) << "hidden from the ear";
+        continue;
+      }
+      EXPECT_FALSE(name.isEmpty());
+      EXPECT_NE(found->role(), QAccessible::NoRole);
+      EXPECT_NE(found->role(), QAccessible::Client);
+      EXPECT_TRUE(!control->Enabled || found->state().focusable == fncTakesFocus(*control));
+      EXPECT_TRUE(!blnUsed || names.insert(name).second) << name.toStdString() << " twice";
+      if (control->Kind == ControlKind::MaskedEdit) {
+        EXPECT_TRUE(
+            found->text(QAccessible::Value).endsWith(QString::fromStdString(control->Text)));
+      } else if (control->Kind == ControlKind::Label) {
+        EXPECT_EQ(found->text(QAccessible::Value),
+                  QString::fromStdString(control->Text).simplified());
+      }
+    }
+  }
+
+ private:
+  QTemporaryDir folder_;
+  QByteArray before_;
+};
+
+TEST_F(Ear, EveryControlOfEveryWindowIsNamed) {
+  CheckTree(Plauk.Form);
+  Shuffle();
+  for (const Window* window : fncWindows()) {
+    CheckTree(*window);
+  }
+  user::WhileModal([] { CheckTree(frmStatistics.Form); });
+  Key(Qt::Key_O, Qt::AltModifier);
+  Key(Qt::Key_S);
+  user::WhileModal([] { CheckTree(KasSitas.Form); });
+  Key(Qt::Key_H, Qt::AltModifier);
+  Key(Qt::Key_A);
+}
+
+TEST_F(Ear, AHandIsFollowedByEarAndPlayedByKeys) {
+  Shuffle();
+  auto* ear = real::Ground(BaccTable.Form).findChild<qt::EarView*>();
+  ASSERT_NE(ear, nullptr) << "the shuffle was not told of";
+  QObject::connect(ear, &qt::EarView::told,
+                   [](const QString& text) { strHeard += text.toStdString() + "\n"; });
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(ear)->role(), QAccessible::Notification);
+  NextSlots({12, 40, 17, 29, 41});
+  for (const auto& [key, chips] : {std::pair{Qt::Key_P, Qt::Key_5}, {Qt::Key_T, Qt::Key_1}}) {
+    Key(key, Qt::AltModifier);
+    Key(chips);
+  }
+  Key(Qt::Key_B, Qt::AltModifier);
+  Key(Qt::Key_B, Qt::AltModifier);
+  Key(Qt::Key_2);
+  Key(Qt::Key_Tab);
+  TurnAll();
+  EXPECT_EQ(strHeard, R"(
+Player 1, money $950
+Player 1, money $940
+Player 2, money $980
+Hidden Player first card
+Hidden Banker first card
+Hidden Player second card
+Hidden Banker second card
+Player first card, King of Spades
+Player advice: 8, 9 for NATURAL
+Player second card, 5 of Clubs. Player total 5
+Banker advice: At least 6 would be good, (2 card total)
+Banker first card, 2 of Hearts
+Banker advice: 6, 7 to WIN
+Banker second card, 4 of Diamonds. Banker total 6
+Hidden Player third card
+Player advice: 2, 3, 4 to WIN, 1 to TIE, 8, 9, 10, Picture to LOSE
+Player third card, 3 of Hearts. Player total 8
+Player 1, Tie bet LOSE. Player 1, Player bet WIN. Player 1, money $990. Player 2, Banker bet LOSE. Player WIN
+)");
+}
+
+}  // namespace
