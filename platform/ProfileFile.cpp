@@ -148,19 +148,17 @@ bool fncReplace(const std::string& path, const std::string& contents) {
 }  // namespace
 
 std::string fncReadProfile(const std::string& path, std::string_view section, std::string_view key,
-                           std::string_view fallback) {
-  const std::optional<std::string> contents = fncContents(path);
-  if (!contents) {
-    return std::string(fallback);
-  }
-  const Found found = fncFind(*contents, section, key);
+                           std::string_view fallback, std::string_view missing) {
+  const std::string contents = fncContents(path).value_or(std::string(missing));
+  const Found found = fncFind(contents, section, key);
   if (!found.Key) {
     return std::string(fallback);
   }
   return std::string(fncBare(found.Key->Text.substr(found.Key->Text.find('=') + 1)));
 }
 
-bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys) {
+bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys,
+                     std::string_view missing) {
   std::error_code failed;
   const bool blnThere = std::filesystem::exists(path, failed);
   const std::optional<std::string> contents = fncContents(path);
@@ -168,7 +166,7 @@ bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys) 
     // It cannot be read as a whole: writing would lose what it holds.
     return false;
   }
-  std::string written = contents.value_or("");
+  std::string written = contents.value_or(std::string(missing));
   for (const ProfileKey& row : keys) {
     written = fncWithKey(std::move(written), row.Section, row.Key, row.Value);
   }
@@ -177,6 +175,8 @@ bool fncWriteProfile(const std::string& path, std::span<const ProfileKey> keys) 
 
 bool fncCreateProfile(const std::string& path, const std::string& contents) {
   std::error_code failed;
-  const bool blnThere = std::filesystem::exists(path, failed);
-  return !blnThere && !failed && fncReplace(path, contents);
+  if (std::filesystem::exists(path, failed)) {
+    return fncContents(path).has_value();
+  }
+  return !failed && fncReplace(path, contents);
 }

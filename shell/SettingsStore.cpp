@@ -16,7 +16,8 @@ namespace {
 constexpr std::size_t intLongestValue = 99;
 
 /// Without these a first run would open a table of no size, seats that have no money and lists that
-/// lie over the menus. Twips, money per chip, money.
+/// lie over the menus. They also stand in for a file that has gone or that cannot be made. Twips,
+/// money per chip, money.
 constexpr const char* strFirstSettings =
     "[frmBaccTable]\r\n"
     "Height= 5400\r\n"
@@ -37,6 +38,10 @@ constexpr const char* strFirstSettings =
     "[Player2Stats]\r\n"
     "Stake= 1000\r\n";
 
+/// The path of the file follows.
+const std::string strNotKept =
+    "Settings and statistics cannot be kept. This file can be neither read nor made:\r\n";
+
 /// Writes that wait for the end of prcWriteTogether.
 std::vector<ProfileKey> keyKept;
 bool blnKeeping = false;
@@ -45,7 +50,7 @@ void prcWriteKept() {
   blnKeeping = false;
   const std::vector<ProfileKey> keys = std::exchange(keyKept, {});
   if (!keys.empty()) {
-    fncWriteProfile(strIniFile, keys);
+    fncWriteProfile(strIniFile, keys, strFirstSettings);
   }
 }
 
@@ -65,7 +70,8 @@ void prcWriteTogether(const std::function<void()>& work) {
 std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey) {
   return Guarded("ZNEW fncGetPrivateProfileString", [&] {
     At(10);
-    return fncReadProfile(strIniFile, strSection, strKey, "No").substr(0, intLongestValue);
+    return fncReadProfile(strIniFile, strSection, strKey, "No", strFirstSettings)
+        .substr(0, intLongestValue);
   });
 }
 
@@ -98,5 +104,7 @@ std::string fncHelpFilePath() { return platform::HelpFolder() + "/VELMORA.HLP"; 
 void prcFixPaths() {
   strIniFile = platform::DataFolder() + "/VELMORA.INI";
   strHelpFile = fncHelpFilePath();
-  fncCreateProfile(strIniFile, strFirstSettings);
+  if (!fncCreateProfile(strIniFile, strFirstSettings)) {
+    platform::MsgBox(strNotKept + strIniFile, platform::Icon::Exclamation);
+  }
 }

@@ -7,11 +7,12 @@ extern std::string
     strIniFile;  ///< Full path of the settings file; set once, before the first read.
 extern std::string strHelpFile;  ///< Full path of the help file.
 
-/// The value of a key in the settings file, at most 99 characters; "No" where there is none.
+/// The value of a key in the settings file, at most 99 characters; "No" where there is none. Where
+/// there is no file to be read, the values of a first run.
 std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey);
 
-/// Writes a key to the settings file at once. A write that fails leaves the file as it was and is
-/// not told.
+/// Writes a key to the settings file at once. A file that has gone is made anew, with the values of
+/// a first run. A write that fails leaves the file as it was and is not told.
 void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
                                   const std::string& strValue);
 
@@ -36,5 +37,5 @@ void prcWriteSwitch(const std::string& strSection, const std::string& strKey, bo
 std::string fncHelpFilePath();
 
 /// Fixes strIniFile and strHelpFile, and sets up the least that a first run needs where there is no
-/// settings file.
+/// settings file. Tells the player, once, where no file can be read or made.
 void prcFixPaths();
