@@ -25,7 +25,8 @@ void DoEvents();
 /// meanwhile.
 void WaitEvents(std::uint32_t milliseconds);
 
-/// Milliseconds on a counter that only goes forward, wraps after 32 bits, and has no fixed start.
+/// Milliseconds on a steady counter: it only goes forward, whoever sets the clock of the day, wraps
+/// after 32 bits, and has no fixed start.
 std::uint32_t TickCount();
 
 /// A number that differs from call to call, from a fine clock where there is one.

@@ -232,6 +232,10 @@ void Reset(const std::string& folder, std::uint32_t start) {
 
 std::uint32_t Now() { return static_cast<std::uint32_t>(state.Clock); }
 
+void StepTicks(std::int32_t milliseconds) {
+  state.Start += static_cast<std::uint32_t>(milliseconds);
+}
+
 void Wait(std::uint32_t milliseconds) {
   const std::uint64_t limit = state.Clock + milliseconds;
   try {

@@ -28,6 +28,9 @@ void Reset(const std::string& folder, std::uint32_t start = 0);
 /// Milliseconds that have passed on the virtual clock since Reset.
 std::uint32_t Now();
 
+/// Steps the counter of TickCount forward or back, against its contract. No time passes.
+void StepTicks(std::int32_t milliseconds);
+
 /// Lets virtual time pass while the program is idle: timers tick and scripted events run in their
 /// order.
 void Wait(std::uint32_t milliseconds);
