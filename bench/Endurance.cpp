@@ -35,8 +35,11 @@ struct Evening {
 };
 
 void prcLook(Evening& evening, std::size_t at) {
-  if (const std::string fault = evening.Watching.fncLook();
-      !fault.empty() && evening.Result.Fault.empty()) {
+  std::string fault = evening.Watching.fncLook();
+  if (fault.empty()) {
+    fault = evening.Watching.fncLookAtSwitches();
+  }
+  if (!fault.empty() && evening.Result.Fault.empty()) {
     evening.Result.Fault = fault;
     evening.Result.Event = at;
     if (!headless::Ended()) {

@@ -115,7 +115,8 @@ std::string Watch::fncForms(int seat) {
     if (!blnTyping && !blnRevalued && !fncSame(bet.Money, fncAtUnit(side, seat))) {
       return fncOf("money of a bet", seat, bet.Money, fncAtUnit(side, seat));
     }
-    if (bet.Money != 0 && (!bet.Value.Visible || bet.Value.Text != fncCurrency(bet.Money))) {
+    const bool blnHidden = !bet.Value.Visible && !blnBusy;
+    if (bet.Money != 0 && (blnHidden || bet.Value.Text != fncCurrency(bet.Money))) {
       return "value label of seat " + std::to_string(seat) + ": " + bet.Value.Text;
     }
   }
@@ -172,8 +173,10 @@ void Watch::prcCountHands() {
   blnEndBefore_ = blnEndOfShoe[intShoeNumber];
 }
 
-/// What the user chose is in the file as it is in memory. Read only when either has changed.
-std::string Watch::fncSwitches() {
+std::string Watch::fncLookAtSwitches() {
+  if (user::Ended()) {
+    return "";
+  }
   struct Row {
     const char* Section;
     const char* Key;
@@ -194,7 +197,7 @@ std::string Watch::fncSwitches() {
   if (chosen == strChosen_) {
     return "";
   }
-  strChosen_ = chosen;
+  strChosen_ = chosen;  // The file is read only when either has changed.
   for (const Row& row : rows) {
     if (fncSwitchedOn(row.Section, row.Key) != row.blnFlag) {
       return std::string("in the file and in memory differs: ") + row.Key;
@@ -227,9 +230,6 @@ std::string Watch::fncFile() {
     if (!fncSame(file, dblPlayerWin[i])) {
       return fncOf("win in the file", i, file, dblPlayerWin[i]);
     }
-  }
-  if (std::string fault = fncSwitches(); !fault.empty()) {
-    return fault;
   }
   // A hand in view is dealt at once and booked at its end.
   const bool blnInView = blnBusy && dblFileHands_ == dblHands_ - 1;

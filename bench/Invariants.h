@@ -18,6 +18,10 @@ class Watch {
   /// asked of a program that has ended.
   std::string fncLook();
 
+  /// The same for what the user chooses in menus and toolbar: it is in the file as it is in memory.
+  /// Called behind fncLook.
+  std::string fncLookAtSwitches();
+
   std::int64_t Hands() const { return lngHandsSeen_; }
   std::int64_t Shoes() const { return lngShoesSeen_; }
 
@@ -32,7 +36,6 @@ class Watch {
   std::string fncForms(int seat);
   std::string fncClosed() const;
   std::string fncFile();
-  std::string fncSwitches();
   std::string fncCards();
   void prcNoteShoe();
   void prcCountHands();

@@ -48,6 +48,9 @@ void prcLook() {
   if (evening.Fault.empty()) {
     evening.Fault = evening.Watching.fncLook();
   }
+  if (evening.Fault.empty()) {
+    evening.Fault = evening.Watching.fncLookAtSwitches();
+  }
 }
 
 void prcNext() {
