@@ -5,7 +5,7 @@ endif()
 
 configure_file(packaging/velmora.6.in velmora.6 @ONLY)
 
-install(TARGETS velmora)
+install(TARGETS velmora BUNDLE DESTINATION .)
 install(FILES ${CMAKE_BINARY_DIR}/VELMORA.HLP DESTINATION ${CMAKE_INSTALL_DATADIR}/velmora)
 install(FILES packaging/velmora.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/example.velmora.Velmora.metainfo.xml

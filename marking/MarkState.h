@@ -43,7 +43,7 @@ struct Mark {
   bool TieLine = false;    ///< An ignored tie: a thin line without text.
   bool AboveCard = false;  ///< An ignored tie before the first result.
   std::string Caption;
-  std::string Spoken;  ///< The result in words, for the ear.
+  std::string Spoken;     ///< The result in words, for the ear.
   bool Negative = false;  ///< The hand lost units. A hand without units lost none.
 };
 

@@ -7,8 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "platform/UserInput.h"
 #include "platform/qt/ChildShell.h"
 #include "platform/qt/ControlViews.h"
+#include "platform/qt/Loop.h"
 #include "platform/qt/Painted.h"
 
 namespace qt {
@@ -52,8 +54,17 @@ class PaintedRole : public QAccessibleWidget {
   }
 
   void doAction(const QString& name) override {
-    if (name == pressAction() && painted_.fncView() != nullptr) {
-      prcKeyClick(*painted_.fncView());
+    ControlView* view = painted_.fncView();
+    Control* control = view != nullptr ? fncLive(*view) : nullptr;
+    if (name == pressAction() && control != nullptr && control->On->MouseDown != nullptr) {
+      // Such as a chip, which learns from its button whether to add or to take.
+      prcServe([control] {
+        if (fncSeen(*control) && fncUsable(*control) && fncUserPress(*control, {intLeftButton})) {
+          prcUserRelease(*control, {intLeftButton}, true);
+        }
+      });
+    } else if (name == pressAction() && view != nullptr) {
+      prcKeyClick(*view);
     } else {
       QAccessibleWidget::doAction(name);
     }

@@ -268,18 +268,37 @@ bool fncPlacedByLayout(ControlKind kind) {
   return kind == ControlKind::Toolbar || kind == ControlKind::ToolButton;
 }
 
-void prcUseAccessKey(ControlView& view) {
-  Control* control = fncLive(view);
-  if (control == nullptr || !fncSeen(*control) || !fncUsable(*control)) {
+/// The control that an access key means: of several in its window the next one behind the focus,
+/// else the first; none where none can be used.
+Control* fncMeant(const Window& window, char key) {
+  Control* first = nullptr;
+  bool blnBehind = false;
+  for (Control* control : window.Controls) {
+    const bool blnSame = control->AccessKey == key && control->Kind != ControlKind::Label;
+    if (blnSame && fncSeen(*control) && fncUsable(*control)) {
+      if (blnBehind && control != window.ActiveControl) {
+        return control;
+      }
+      first = first == nullptr ? control : first;
+    }
+    blnBehind = blnBehind || (blnSame && control == window.ActiveControl);
+  }
+  return first;
+}
+
+void prcUseAccessKey(const ControlView& pressed) {
+  const Control* live = fncLive(pressed);
+  Control* control = live != nullptr ? fncMeant(*live->Form, live->AccessKey) : nullptr;
+  if (control == nullptr) {
     return;
   }
   if (fncActiveWindow() != control->Form) {
     prcBringUp(*control->Form);
   }
-  if (control->Kind == ControlKind::Button) {
-    prcKeyClick(view);
-  } else {
+  if (control->Kind != ControlKind::Button) {
     prcServe([control] { fncSetFocus(*control); });
+  } else if (ControlView* view = fncViewOf(*control); view != nullptr) {
+    prcKeyClick(*view);
   }
 }
 

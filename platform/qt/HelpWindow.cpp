@@ -224,6 +224,7 @@ QWidget* HelpWindow::fncMakeIndex() {
   filter->setPlaceholderText(tr("Look for"));
   filter->setAccessibleName(tr("Look for"));
   filter->setClearButtonEnabled(true);
+  side->setFocusProxy(filter);
   QHelpIndexWidget* index = engine_.indexWidget();
   index->setAccessibleName(tr("Index"));
   auto* rows = new QVBoxLayout(side);

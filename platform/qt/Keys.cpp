@@ -178,7 +178,8 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
   const bool blnCtrl = event.modifiers().testFlag(Qt::ControlModifier);
   if (blnCtrl && (key == Qt::Key_Tab || key == Qt::Key_F6)) {
-    if (Window* next = fncNextChild(); next != nullptr) {
+    const bool blnModal = window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Start;
+    if (Window* next = blnModal ? nullptr : fncNextChild(); next != nullptr) {
       prcBringUp(*next);
     }
     return true;

@@ -279,15 +279,16 @@ void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& stat
   painter.restore();
   if (state.blnFocus) {
     const int inset = fncScaled(2);
-    prcDrawFocus(painter, rect.adjusted(inset, inset, -inset, -inset));
+    prcDrawFocus(painter, rect.adjusted(inset, inset, -inset, -inset),
+                 state.blnPrimary ? rgbInk : rgbDarkGold);
   }
 }
 
-void prcDrawFocus(QPainter& painter, const QRect& rect) {
+void prcDrawFocus(QPainter& painter, const QRect& rect, QRgb colour) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const double half = fncScaled(1.5) / 2.0;
-  painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), fncScaled(1.5)));
+  painter.setPen(QPen(QColor::fromRgb(colour), fncScaled(1.5)));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), 3 * fncScale(),
                           3 * fncScale());

@@ -13,8 +13,8 @@ inline constexpr QRgb rgbIvory = 0xFFF3EFE4;     ///< Bars and dialogs.
 inline constexpr QRgb rgbPaper = 0xFFFFFDF5;     ///< Boxes that take input.
 inline constexpr QRgb rgbInk = 0xFF26221A;       ///< Text on ivory.
 inline constexpr QRgb rgbFaded = 0xFF665F4F;     ///< Disabled text on ivory.
-inline constexpr QRgb rgbGold = 0xFFC9A227;      ///< Accents and the focus.
-inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;  ///< Outlines of the accents.
+inline constexpr QRgb rgbGold = 0xFFC9A227;      ///< Accents.
+inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;  ///< Outlines of the accents, and the focus.
 inline constexpr QRgb rgbFelt = 0xFF0E4A33;      ///< The ground of the night.
 inline constexpr QRgb rgbDarkFelt = 0xFF08301F;
 inline constexpr QRgb rgbOutline = 0xFFB5AA8E;
@@ -38,7 +38,7 @@ struct ButtonState {
 };
 void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& state);
 
-/// Draws the mark of keyboard focus around rect.
-void prcDrawFocus(QPainter& painter, const QRect& rect);
+/// Draws the mark of keyboard focus around rect: in ink where the ground is gold itself.
+void prcDrawFocus(QPainter& painter, const QRect& rect, QRgb colour = rgbDarkGold);
 
 }  // namespace qt

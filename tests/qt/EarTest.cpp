@@ -147,7 +147,15 @@ TEST_F(Ear, EveryControlOfEveryWindowIsNamed) {
   for (const Window* window : fncWindows()) {
     CheckTree(*window);
   }
-  user::WhileModal([] { CheckTree(frmStatistics.Form); });
+  QAccessible::queryAccessibleInterface(&real::Widget(*fncChips(0)[1]))
+      ->actionInterface()
+      ->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(dblPlayerTotal[0], 990) << "a chip pressed by a screen reader";
+  user::WhileModal([] {
+    CheckTree(frmStatistics.Form);
+    Key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(qt::fncActiveWindow(), &frmStatistics.Form) << "the way out of a dialog is its end";
+  });
   Key(Qt::Key_O, Qt::AltModifier);
   Key(Qt::Key_S);
   user::WhileModal([] { CheckTree(KasSitas.Form); });
