@@ -43,6 +43,7 @@ constexpr int intQuiet = 10'000;
 constexpr int intMoves = 500;
 constexpr int intStreamMoves = 2000;
 constexpr int intShoesMeasured = 5;
+constexpr int intSettingsOfHand = 5;  // Win and turnover of each seat, and the hands.
 
 void prcShuffled() {
   qt::prcServe([] { prcShuffleTable(); });
@@ -231,7 +232,7 @@ double fncBareWrites(int writes) {
 }
 
 struct ShoeFigures {
-  std::vector<double> Shuffle, Turns, Run, Writes, Count, Hands;
+  std::vector<double> Shuffle, Turns, Run, Writes, Replacements, Count, Hands;
 };
 
 void prcMeasureShoe(ShoeFigures& figures) {
@@ -258,7 +259,10 @@ void prcMeasureShoe(ShoeFigures& figures) {
   const int writes = fncRenames() - renamed;
   figures.Count.push_back(writes);
   figures.Hands.push_back(intHandsDealt[0]);
-  figures.Writes.push_back(fncBareWrites(writes));
+  // A hand writes its settings in one replacement.
+  const int settings = writes + (intSettingsOfHand - 1) * int{intHandsDealt[0]};
+  figures.Writes.push_back(fncBareWrites(settings));
+  figures.Replacements.push_back(fncBareWrites(writes));
 }
 
 }  // namespace
@@ -289,6 +293,7 @@ void prcShoes() {
   prcTell("run_hands", fncQuantile(figures.Hands, 0.5));
   prcTell("run_writes", fncQuantile(figures.Count, 0.5));
   prcTell("bare_writes", fncQuantile(figures.Writes, 0.5));
+  prcTell("bare_replacements", fncQuantile(figures.Replacements, 0.5));
 }
 
 void prcMemory() {
