@@ -101,7 +101,7 @@ void prcLayOutCount() {
   prcLayOut(w.Form, rows);
   w.lstCardsDealtCount.BackColor = clrWhite;
   w.lstCardsDealtCount.Face = {.Size = 9.75F, .Fixed = true};
-  w.lstCardsDealtCount.Spoken = "Count of cards dealt by suit";
+  w.lstCardsDealtCount.Spoken = "Count of cards dealt: Spades, Clubs, Diamonds, Hearts";
   w.chkOnTop.BackColor = clrWhite;
   w.chkOnTop.On = &evtCountOnTop;
 }
