@@ -15,7 +15,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 #include "shell/MDIForm1.h"
 
 namespace {

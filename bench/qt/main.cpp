@@ -6,7 +6,7 @@
 #include "bench/qt/Play.h"
 #include "platform/UserInput.h"
 #include "platform/platform.h"
-#include "platform/qt/Loop.h"
+#include "platform/qt/windows/Loop.h"
 #include "shell/Program.h"
 #include "shell/StartScreen.h"
 #include "table/BaccTable.h"

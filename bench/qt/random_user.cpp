@@ -9,7 +9,7 @@
 #include "bench/UserEvents.h"
 #include "marking/MarkState.h"
 #include "platform/Procedure.h"
-#include "platform/qt/Loop.h"
+#include "platform/qt/windows/Loop.h"
 #include "shell/MDIForm1.h"
 #include "shell/Program.h"
 #include "table/BaccTable.h"

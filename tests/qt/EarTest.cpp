@@ -11,9 +11,9 @@
 
 #include "betting/frmStatistics.h"
 #include "platform/UserInput.h"
-#include "platform/qt/Accessible.h"
-#include "platform/qt/OneInstance.h"
-#include "platform/qt/Screen.h"
+#include "platform/qt/machine/OneInstance.h"
+#include "platform/qt/views/Accessible.h"
+#include "platform/qt/windows/Screen.h"
 #include "shell/About.h"
 #include "shell/MDIForm1.h"
 #include "shell/Program.h"

@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/qt/HelpWindow.h"
+#include "platform/qt/machine/HelpWindow.h"
 #include "tests/conformance/Adapter.h"
 
 namespace {

@@ -17,8 +17,8 @@
 
 #include "assets/Pictures.h"
 #include "platform/Layout.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
 #include "tests/conformance/Adapter.h"
 #include "tests/qt/RealUser.h"
 

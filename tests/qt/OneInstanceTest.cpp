@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "platform/platform.h"
-#include "platform/qt/OneInstance.h"
+#include "platform/qt/machine/OneInstance.h"
 #include "tests/conformance/Adapter.h"
 #include "tests/qt/RealUser.h"
 

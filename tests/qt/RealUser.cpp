@@ -15,9 +15,9 @@
 
 #include "platform/Procedure.h"
 #include "platform/UserInput.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Screen.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
 #include "tests/conformance/Adapter.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdio>
 
 #include "platform/platform.h"
-#include "platform/qt/Session.h"
+#include "platform/qt/windows/Session.h"
 
 // The window tests bring up one application object for all of them; each test resets what it shows.
 

@@ -4,7 +4,7 @@
 #include <QListWidget>
 #include <QValidator>
 
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 
 // Boxes that are typed into, and lists.
 

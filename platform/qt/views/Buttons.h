@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QToolButton>
 
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 
 // Buttons whose state is the model's alone: the toolkit shows them and reports clicks by key and by
 // screen reader, but turns nothing over by itself.

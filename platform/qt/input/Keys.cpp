@@ -7,11 +7,11 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/InputRouter.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Screen.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/input/InputRouter.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

@@ -1,13 +1,13 @@
-#include "platform/qt/Buttons.h"
+#include "platform/qt/views/Buttons.h"
 
 #include <QPainter>
 #include <QStyleOption>
 
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Painted.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Painted.h"
 
 namespace qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/Scale.h"
+#include "platform/qt/looks/Scale.h"
 
 #include <algorithm>
 #include <cmath>

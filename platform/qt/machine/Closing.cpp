@@ -1,11 +1,11 @@
-#include "platform/qt/Closing.h"
+#include "platform/qt/machine/Closing.h"
 
 #include <QGuiApplication>
 #include <QSessionManager>
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/Loop.h"
+#include "platform/qt/windows/Loop.h"
 
 #if defined(Q_OS_UNIX)
 #include <fcntl.h>

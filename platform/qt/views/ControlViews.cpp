@@ -1,4 +1,4 @@
-#include "platform/qt/ControlViews.h"
+#include "platform/qt/views/ControlViews.h"
 
 #include <QScrollBar>
 #include <QShortcut>
@@ -9,16 +9,16 @@
 #include <cmath>
 
 #include "platform/UserInput.h"
-#include "platform/qt/Accessible.h"
-#include "platform/qt/Boxes.h"
-#include "platform/qt/Buttons.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Menus.h"
-#include "platform/qt/Painted.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Accessible.h"
+#include "platform/qt/views/Boxes.h"
+#include "platform/qt/views/Buttons.h"
+#include "platform/qt/views/Menus.h"
+#include "platform/qt/views/Painted.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

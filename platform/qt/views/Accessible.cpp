@@ -1,4 +1,4 @@
-#include "platform/qt/Accessible.h"
+#include "platform/qt/views/Accessible.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "platform/UserInput.h"
-#include "platform/qt/ChildShell.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Painted.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Painted.h"
+#include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 

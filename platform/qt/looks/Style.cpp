@@ -1,4 +1,4 @@
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Style.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/Parts.h"
-#include "platform/qt/Scale.h"
+#include "platform/qt/looks/Parts.h"
+#include "platform/qt/looks/Scale.h"
 
 namespace qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/Boxes.h"
+#include "platform/qt/views/Boxes.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -6,10 +6,10 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 

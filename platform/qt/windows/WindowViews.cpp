@@ -1,4 +1,4 @@
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/windows/WindowViews.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -9,12 +9,12 @@
 
 #include "platform/UserInput.h"
 #include "platform/platform.h"
-#include "platform/qt/Boxes.h"
-#include "platform/qt/ChildShell.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Boxes.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 

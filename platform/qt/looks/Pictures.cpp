@@ -1,4 +1,4 @@
-#include "platform/qt/Pictures.h"
+#include "platform/qt/looks/Pictures.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -12,7 +12,7 @@
 #include <tuple>
 
 #include "assets/Pictures.h"
-#include "platform/qt/Scale.h"
+#include "platform/qt/looks/Scale.h"
 
 namespace qt {
 

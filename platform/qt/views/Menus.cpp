@@ -1,4 +1,4 @@
-#include "platform/qt/Menus.h"
+#include "platform/qt/views/Menus.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -8,12 +8,12 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/Buttons.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Buttons.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 

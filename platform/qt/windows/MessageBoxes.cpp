@@ -8,10 +8,10 @@
 #include <memory>
 
 #include "platform/platform.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Screen.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
 
 namespace {
 

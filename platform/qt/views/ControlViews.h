@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 
 // The widgets that stand for controls, kind by kind.
 

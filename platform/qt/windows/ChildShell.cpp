@@ -1,17 +1,17 @@
-#include "platform/qt/ChildShell.h"
+#include "platform/qt/windows/ChildShell.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Screen.h"
-#include "platform/qt/Style.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/Parts.h"
+#include "platform/qt/looks/Parts.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
 
 namespace qt {
 

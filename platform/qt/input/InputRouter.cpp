@@ -1,4 +1,4 @@
-#include "platform/qt/InputRouter.h"
+#include "platform/qt/input/InputRouter.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -6,10 +6,10 @@
 #include <QMouseEvent>
 
 #include "platform/UserInput.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Screen.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

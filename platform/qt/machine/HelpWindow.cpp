@@ -1,4 +1,4 @@
-#include "platform/qt/HelpWindow.h"
+#include "platform/qt/machine/HelpWindow.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -19,9 +19,9 @@
 #include <cmath>
 
 #include "platform/platform.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

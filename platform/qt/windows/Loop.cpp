@@ -1,11 +1,11 @@
-#include "platform/qt/Loop.h"
+#include "platform/qt/windows/Loop.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 
 #include "platform/Procedure.h"
 #include "platform/UserInput.h"
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 
 namespace qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/Screen.h"
+#include "platform/qt/windows/Screen.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -8,10 +8,10 @@
 #include <unordered_set>
 #include <utility>
 
-#include "platform/qt/Accessible.h"
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Loop.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/views/Accessible.h"
+#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

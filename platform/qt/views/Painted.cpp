@@ -1,4 +1,4 @@
-#include "platform/qt/Painted.h"
+#include "platform/qt/views/Painted.h"
 
 #include <QFontMetrics>
 #include <QPaintEvent>
@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/ControlViews.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Scale.h"
-#include "platform/qt/Style.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/ControlViews.h"
 
 namespace qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/OneInstance.h"
+#include "platform/qt/machine/OneInstance.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -10,8 +10,8 @@
 #include <memory>
 
 #include "platform/platform.h"
-#include "platform/qt/Screen.h"
-#include "platform/qt/WindowViews.h"
+#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

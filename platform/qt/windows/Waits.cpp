@@ -1,0 +1,84 @@
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+
+#include "platform/Procedure.h"
+#include "platform/platform.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/WindowViews.h"
+
+// What the game asks of the screen: turns of the event loop, waits, modal windows, sizes, the end.
+
+namespace platform {
+
+void DoEvents() {
+  qt::prcThrowIfEnded();
+  qt::prcSyncIfDue();
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  qt::prcThrowIfEnded();
+}
+
+void WaitEvents(std::uint32_t milliseconds) {
+  qt::prcThrowIfEnded();
+  qt::prcSyncAll();
+  qt::prcThrowIfEnded();
+  static QTimer* alarm = nullptr;  // Its time-out is the event that ends the wait.
+  if (alarm == nullptr) {
+    alarm = new QTimer(qApp);
+    alarm->setSingleShot(true);
+    alarm->setTimerType(Qt::PreciseTimer);
+    QObject::connect(alarm, &QObject::destroyed, [] { alarm = nullptr; });
+  }
+  alarm->start(static_cast<int>(std::min(milliseconds, 1U << 30)));
+  QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+  qt::prcThrowIfEnded();
+}
+
+void RepaintNow(Control& control) {
+  if (control.Form != nullptr && !qt::fncEnded()) {
+    qt::prcPaintNow(*control.Form);
+  }
+}
+
+void RunModal(Window& window) {
+  qt::prcThrowIfEnded();
+  const Window* before = qt::fncActiveWindow();
+  const std::int32_t handle = window.hWnd;
+  {
+    const qt::Modal modal(window);
+    qt::prcSyncAll();
+    qt::prcBringUp(window);
+    qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
+    qt::prcSyncAll();
+  }
+  const auto& loaded = fncWindows();
+  const auto found = std::find(loaded.begin(), loaded.end(), before);
+  if (found != loaded.end() && (*found)->Visible) {
+    qt::prcBringUp(**found);
+  }
+}
+
+void Activate(Window& window) {
+  qt::prcSyncAll();
+  qt::prcBringUp(window);
+}
+
+double ScreenWidth() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return qt::fncTwips(screen != nullptr ? screen->size().width() : 1024);
+}
+
+double ScreenHeight() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return qt::fncTwips(screen != nullptr ? screen->size().height() : 700);
+}
+
+void End() {
+  qt::prcNoteEnd();
+  throw EndOfProgram{};
+}
+
+}  // namespace platform
