@@ -44,8 +44,7 @@ struct Window {
   std::string Caption;
   double Left = 0, Top = 0, Width = 0, Height = 0;
   double ScaleWidth = 0, ScaleHeight = 0;
-  /// Designed size of a child that cannot be resized: the screen gives it no less, and no place out
-  /// of sight.
+  /// Designed size of a child that cannot be resized: a stored one below it is mended.
   double MinWidth = 0, MinHeight = 0;
   bool FixedInner =
       false;  ///< ScaleWidth and ScaleHeight are the given ones; the border comes on top.
