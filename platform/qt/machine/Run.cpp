@@ -13,33 +13,47 @@ namespace qt {
 
 namespace {
 
-/// While it lives the toolkit is told of no desktop scale factor: the program is fitted to the
-/// pixels of the screen as it is, and a factor on top would only round type and lines to coarser
-/// steps. Programs started from here find the factor again.
-class ScreenPixels {
+struct Variable {
+  const char* Name;
+  const char* Value;     ///< None takes the variable away.
+  bool IfUnset = false;  ///< What the user has set stays.
+};
+
+/// What the toolkit is told while it comes up, whatever the desktop says. The program is fitted to
+/// the pixels of the screen as it is: a scale factor or a font resolution on top would only round
+/// type and lines to coarser steps, or make them too large for their places. And only X11 has the
+/// places of windows, which Wayland alone neither tells nor takes.
+constexpr std::array vrbRows {
+  Variable{"QT_ENABLE_HIGHDPI_SCALING", "0"}, Variable{"QT_SCALE_FACTOR", nullptr},
+      Variable{"QT_SCREEN_SCALE_FACTORS", nullptr}, Variable{"QT_FONT_DPI", "96"},
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+      Variable{"QT_QPA_PLATFORM", "xcb;wayland", true},
+#endif
+};
+
+/// While it lives the variables above hold. Programs started from here find their own again.
+class ToolkitVariables {
  public:
-  ScreenPixels() {
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    for (std::size_t i = 0; i < strNames.size(); ++i) {
-      bytKept.at(i) = qgetenv(strNames.at(i));
-      qunsetenv(strNames.at(i));
-    }
-    qputenv(strNames[0], "0");
-  }
-  ~ScreenPixels() {
-    qunsetenv(strNames[0]);
-    for (std::size_t i = 0; i < strNames.size(); ++i) {
-      if (!bytKept.at(i).isNull()) {
-        qputenv(strNames.at(i), bytKept.at(i));
+  ToolkitVariables() {
+    for (std::size_t i = 0; i < vrbRows.size(); ++i) {
+      bytKept.at(i) = qgetenv(vrbRows.at(i).Name);
+      if (!vrbRows.at(i).IfUnset || bytKept.at(i).isNull()) {
+        prcPut(vrbRows.at(i).Name, vrbRows.at(i).Value);
       }
     }
   }
-  Q_DISABLE_COPY_MOVE(ScreenPixels)
+  ~ToolkitVariables() {
+    for (std::size_t i = 0; i < vrbRows.size(); ++i) {
+      prcPut(vrbRows.at(i).Name, bytKept.at(i).isNull() ? nullptr : bytKept.at(i).constData());
+    }
+  }
+  Q_DISABLE_COPY_MOVE(ToolkitVariables)
 
  private:
-  static constexpr std::array<const char*, 3> strNames{
-      "QT_ENABLE_HIGHDPI_SCALING", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"};
-  std::array<QByteArray, 3> bytKept;
+  static void prcPut(const char* name, const char* value) {
+    value != nullptr ? qputenv(name, value) : qunsetenv(name);
+  }
+  std::array<QByteArray, vrbRows.size()> bytKept;
 };
 
 /// The program ends when its last window is gone, as after it has been closed from the start
@@ -61,9 +75,9 @@ int Run(int argc, char** argv, bool (*start)()) {
   QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-  std::optional<qt::ScreenPixels> pixels(std::in_place);
+  std::optional<qt::ToolkitVariables> variables(std::in_place);
   QApplication application(argc, argv);
-  pixels.reset();
+  variables.reset();
   qt::prcBringUpPlatform();
   qt::prcWatchOutside();
   bool blnStarted = false;
