@@ -180,9 +180,6 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       if (WindowView* view = fncWindowViewOf(&widget);
           view != nullptr && widget.isWindow() && view->Shell == &widget && !fncSyncing()) {
         Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
-        if (view->Source->Kind == WindowKind::Frame) {
-          prcRaiseFloats();
-        }
         if (window != nullptr) {
           prcActivate(*window);
         }

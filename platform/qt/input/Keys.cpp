@@ -184,6 +184,12 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     }
     return true;
   }
+  if (blnCtrl && key == Qt::Key_F4) {
+    if (window.Kind == WindowKind::Child && window.CloseBox) {
+      prcServe([&] { prcUserClose(window); });
+    }
+    return true;
+  }
   if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
     prcMoveFocus(window, key == Qt::Key_Backtab);
     return true;

@@ -159,10 +159,11 @@ void prcSyncOnce() {
   blnSyncing = true;
   prcDropUnloaded();
   prcAddLoaded();
-  // Frames last, so that they come up with everything in them.
-  for (const bool blnFrames : {false, true}) {
+  // The frame comes up with everything in it, and the windows that stand before it come after it.
+  for (const WindowKind kind : {WindowKind::Child, WindowKind::Frame, WindowKind::Float,
+                                WindowKind::Dialog, WindowKind::Start}) {
     for (const std::unique_ptr<WindowView>& view : vwWindows) {
-      if ((view->Source->Kind == WindowKind::Frame) == blnFrames) {
+      if (view->Source->Kind == kind) {
         prcSyncControls(*view);
         prcSyncWindow(*view);
       }
