@@ -65,6 +65,19 @@ void prcDrawIndicator(QPainter& painter, const QStyleOption& option, bool blnRou
   painter.restore();
 }
 
+/// The outline of a rectangle, of a line and with corners as broad as told at scale 1.
+void prcDrawOutline(QPainter& painter, const QRect& rect, QRgb colour, double line, double corner) {
+  const double width = fncScaled(line);
+  const double half = width / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor::fromRgb(colour), width));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), corner * fncScale(),
+                          corner * fncScale());
+  painter.restore();
+}
+
 class Dress : public QProxyStyle {
  public:
   Dress() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -153,7 +166,9 @@ class Dress : public QProxyStyle {
       return;
     }
     if (element == PE_FrameLineEdit) {
-      prcDrawBoxEdge(*painter, option->rect, (option->state & State_HasFocus) != 0);
+      const bool blnFocus = (option->state & State_HasFocus) != 0;
+      prcDrawOutline(*painter, option->rect, blnFocus ? rgbDarkGold : rgbOutline,
+                     blnFocus ? 1.5 : 1, 2);
       return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -259,14 +274,7 @@ void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& stat
 }
 
 void prcDrawFocus(QPainter& painter, const QRect& rect, QRgb colour) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double half = fncScaled(1.5) / 2.0;
-  painter.setPen(QPen(QColor::fromRgb(colour), fncScaled(1.5)));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), 3 * fncScale(),
-                          3 * fncScale());
-  painter.restore();
+  prcDrawOutline(painter, rect, colour, 1.5, 3);
 }
 
 }  // namespace qt
