@@ -1,7 +1,6 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <array>
-#include <optional>
+#include <vector>
 
 #include "platform/platform.h"
 #include "platform/qt/machine/Closing.h"
@@ -15,46 +14,35 @@ namespace {
 
 struct Variable {
   const char* Name;
-  const char* Value;     ///< None takes the variable away.
-  bool IfUnset = false;  ///< What the user has set stays.
+  QByteArray Value;  ///< A null one takes the variable away.
 };
 
 /// What the toolkit is told while it comes up, whatever the desktop says. The program is fitted to
 /// the pixels of the screen as it is: a scale factor or a font resolution on top would only round
-/// type and lines to coarser steps, or make them too large for their places. And only X11 has the
-/// places of windows, which Wayland alone neither tells nor takes.
-constexpr std::array vrbRows {
-  Variable{"QT_ENABLE_HIGHDPI_SCALING", "0"}, Variable{"QT_SCALE_FACTOR", nullptr},
-      Variable{"QT_SCREEN_SCALE_FACTORS", nullptr}, Variable{"QT_FONT_DPI", "96"},
+/// type and lines to coarser steps, or make them too large for their places. And where X11 is there
+/// beside Wayland it is taken, as Wayland neither tells nor takes the places of windows.
+std::vector<Variable> fncForToolkit() {
+  std::vector<Variable> rows{{"QT_ENABLE_HIGHDPI_SCALING", "0"},
+                             {"QT_SCALE_FACTOR", {}},
+                             {"QT_SCREEN_SCALE_FACTORS", {}},
+                             {"QT_FONT_DPI", "96"}};
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-      Variable{"QT_QPA_PLATFORM", "xcb;wayland", true},
+  if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    rows.push_back({"QT_QPA_PLATFORM", "xcb;wayland"});
+  }
 #endif
-};
+  return rows;
+}
 
-/// While it lives the variables above hold. Programs started from here find their own again.
-class ToolkitVariables {
- public:
-  ToolkitVariables() {
-    for (std::size_t i = 0; i < vrbRows.size(); ++i) {
-      bytKept.at(i) = qgetenv(vrbRows.at(i).Name);
-      if (!vrbRows.at(i).IfUnset || bytKept.at(i).isNull()) {
-        prcPut(vrbRows.at(i).Name, vrbRows.at(i).Value);
-      }
-    }
+/// Puts variables into the environment and returns what stood there.
+std::vector<Variable> fncExchange(const std::vector<Variable>& rows) {
+  std::vector<Variable> before;
+  for (const auto& [name, value] : rows) {
+    before.push_back({name, qgetenv(name)});
+    value.isNull() ? qunsetenv(name) : qputenv(name, value);
   }
-  ~ToolkitVariables() {
-    for (std::size_t i = 0; i < vrbRows.size(); ++i) {
-      prcPut(vrbRows.at(i).Name, bytKept.at(i).isNull() ? nullptr : bytKept.at(i).constData());
-    }
-  }
-  Q_DISABLE_COPY_MOVE(ToolkitVariables)
-
- private:
-  static void prcPut(const char* name, const char* value) {
-    value != nullptr ? qputenv(name, value) : qunsetenv(name);
-  }
-  std::array<QByteArray, vrbRows.size()> bytKept;
-};
+  return before;
+}
 
 /// The program ends when its last window is gone, as after it has been closed from the start
 /// screen.
@@ -75,9 +63,9 @@ int Run(int argc, char** argv, bool (*start)()) {
   QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-  std::optional<qt::ToolkitVariables> variables(std::in_place);
+  const std::vector<qt::Variable> before = qt::fncExchange(qt::fncForToolkit());
   QApplication application(argc, argv);
-  variables.reset();
+  qt::fncExchange(before);  // Programs started from here find the desktop's own.
   qt::prcBringUpPlatform();
   qt::prcWatchOutside();
   bool blnStarted = false;
