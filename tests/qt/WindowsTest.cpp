@@ -83,6 +83,23 @@ TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
   EXPECT_EQ(QApplication::focusWidget(), &real::Widget(BaccTable.duokkortos[0]));
 }
 
+TEST_F(Windows, AChildThatGoesLeavesTheInputToTheOther) {
+  const auto expectInput = [](const Window& window) {
+    user::Settle();
+    EXPECT_EQ(qt::fncActiveWindow(), &window);
+    EXPECT_EQ(QApplication::focusWidget(), &real::Ground(window));
+  };
+  Window& card = fncMarkCard(0)->Form;
+  user::Click(BaccTable.txtUnitValue);
+  BaccTable.Form.Visible = false;
+  expectInput(card);
+  BaccTable.Form.Visible = true;
+  platform::Activate(card);
+  fncUnload(card);
+  user::Settle();
+  EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form);
+}
+
 TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
   EXPECT_EQ(List().windowHandle()->transientParent(), nullptr) << "the frame may cover it";
   const QRect place = List().geometry();

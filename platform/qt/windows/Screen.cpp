@@ -155,6 +155,17 @@ void prcAddLoaded() {
   }
 }
 
+/// The input of a window that has gone is due to the child that the frame's belongs to; the toolkit
+/// would hand it to any widget, and the model not hear of it.
+void prcHandOnInput() {
+  if (wndActive == nullptr || !wndActive->Visible) {
+    const Window* next = fncFrameInput();
+    if (WindowView* view = next != nullptr ? fncViewOf(*next) : nullptr; view != nullptr) {
+      view->blnShown = true;
+    }
+  }
+}
+
 void prcSyncOnce() {
   blnSyncing = true;
   prcDropUnloaded();
@@ -169,6 +180,7 @@ void prcSyncOnce() {
       }
     }
   }
+  prcHandOnInput();
   prcFollowActive();
   prcTellEar();
   blnSyncing = false;

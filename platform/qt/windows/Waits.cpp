@@ -50,10 +50,6 @@ void RunModal(Window& window) {
   qt::prcBringUp(window);
   qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
   qt::prcSyncAll();
-  // The input goes back to the game, wherever the dialog was opened from.
-  if (Window* next = qt::fncFrameInput(); next != nullptr) {
-    qt::prcBringUp(*next);
-  }
 }
 
 void Activate(Window& window) {
