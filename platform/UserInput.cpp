@@ -153,6 +153,7 @@ void prcUserClick(Control& control) {
 
 void prcUserText(Control& box, std::string_view text) {
   box.Text = box.Kind == ControlKind::MaskedEdit ? fncMasked(box, text) : std::string(text);
+  box.SelLength = 0;  // What was selected has been typed over.
   if (box.On->Change != nullptr) {
     box.On->Change(box);
   }

@@ -1,13 +1,14 @@
 #include "platform/qt/windows/Screen.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QHash>
 #include <algorithm>
+#include <optional>
 #include <unordered_set>
 #include <utility>
 
+#include "platform/platform.h"
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/Loop.h"
@@ -17,7 +18,7 @@ namespace qt {
 
 namespace {
 
-constexpr int intFrameMilliseconds = 8;
+constexpr std::uint32_t lngFrameMilliseconds = 8;
 
 // The widgets' index stands first, so that it outlives the views, whose end still looks into it.
 QHash<const QWidget*, ControlView*> vwByWidget;
@@ -25,7 +26,7 @@ std::vector<std::unique_ptr<WindowView>> vwWindows;
 Window* wndActive = nullptr;
 Window* wndLastChild = nullptr;
 bool blnSyncing = false;
-QElapsedTimer clkSynced;
+std::optional<std::uint32_t> tckSynced;  // When all windows were last brought up to date.
 
 bool fncLoaded(const Window* window, std::int32_t handle) {
   return std::ranges::find(fncWindows(), window) != fncWindows().end() &&
@@ -184,7 +185,7 @@ void prcSyncOnce() {
   prcFollowActive();
   prcTellEar();
   blnSyncing = false;
-  clkSynced.start();
+  tckSynced = platform::TickCount();
 }
 
 /// The window to be resized or activated next; none if nothing is due. Of several that have come
@@ -253,7 +254,7 @@ void prcSyncAll() {
 }
 
 void prcSyncIfDue() {
-  if (!clkSynced.isValid() || clkSynced.elapsed() >= intFrameMilliseconds) {
+  if (!tckSynced || platform::TickCount() - *tckSynced >= lngFrameMilliseconds) {
     prcSyncAll();
   }
 }
@@ -275,7 +276,7 @@ void prcClearScreen() {
   vwByWidget.clear();
   wndActive = nullptr;
   wndLastChild = nullptr;
-  clkSynced.invalidate();
+  tckSynced.reset();
 }
 
 WindowView* fncViewOf(const Window& window) {
