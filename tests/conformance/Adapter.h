@@ -82,7 +82,7 @@ bool Ended();
 /// The screen's size in twips.
 void Screen(double width, double height);
 
-/// A step of a replay that comes out otherwise on this platform, and why.
+/// How a step of a replay begins that comes out otherwise on this platform, and why.
 struct Difference {
   const char *Replay, *Step, *Reason;
 };

@@ -407,7 +407,7 @@ std::vector<std::string> fncSteps(const std::string& text) {
 
 bool fncKnown(const std::string& replay, const std::string& step) {
   return std::ranges::any_of(user::Differences(), [&](const user::Difference& row) {
-    return replay == row.Replay && step.starts_with(std::string("> ") + row.Step + '\n');
+    return replay == row.Replay && step.starts_with(std::string("> ") + row.Step);
   });
 }
 

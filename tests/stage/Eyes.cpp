@@ -174,7 +174,7 @@ Window Seen(const Window& window) {
   const QRect place = shell.isWindow() ? shell.frameGeometry() : shell.geometry();
   seen.Visible = !shell.isHidden();
   seen.Maximised = shell.isMaximized();
-  seen.Topmost = shell.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+  seen.Topmost = view->Drawn.Topmost;  // What the window manager was asked for last.
   if (seen.Visible) {
     stage::prcSeePlace(seen, place, qt::fncPixelRect(seen.Left, seen.Top, seen.Width, seen.Height));
   }
