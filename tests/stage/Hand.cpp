@@ -33,9 +33,7 @@ struct Hand {
   Control* Held = nullptr;
   Qt::MouseButtons Down;
   QPointer<QWindow> On;  ///< Where the pointer was last, and its place.
-  QPoint Pointer;
   int Stamp = 0;  ///< Each press long after the last: no two make a double click.
-  bool blnAside = false;
   bool blnPainted = false;  ///< A card has been painted while the event was delivered.
   std::deque<std::function<void()>> Modal;
   std::deque<platform::Answer> Answers;
@@ -43,6 +41,7 @@ struct Hand {
   std::vector<QWidget*> Served;  ///< What is open and has been looked at, innermost last.
 };
 Hand hand;
+QPoint pntPointer;  // The pointer stays where it is from test to test.
 
 [[noreturn]] void prcOutOfReach(const std::string& what) {
   throw std::logic_error("the user cannot reach " + what);
@@ -86,12 +85,18 @@ void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
     hand.Down &= ~Qt::MouseButtons(button);
   }
   hand.On = &window;
-  hand.Pointer = global;
+  pntPointer = global;
   Paints paints;
   qt_handleMouseEvent(&window, window.mapFromGlobal(QPointF(global)), global, hand.Down, button,
                       type, {}, ++hand.Stamp);
   hand.blnPainted = paints.blnAny;
   TheClock().Flush();
+}
+
+/// A pointer that comes to where it is already moves nothing: it goes a little aside.
+void prcMoveTo(const QWidget& widget, QPoint at) {
+  const QPoint to = widget.mapToGlobal(at);
+  prcMouse(fncNative(widget), QEvent::MouseMove, to == pntPointer ? to - QPoint(1, 0) : to);
 }
 
 void prcClickAt(QWindow& window, QPoint global, Qt::MouseButton button = Qt::LeftButton) {
@@ -137,7 +142,7 @@ QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
 /// A button that is still down comes up where the pointer is.
 void prcLetGo() {
   if (hand.Down != Qt::NoButton && hand.On != nullptr) {
-    prcMouse(*hand.On, QEvent::MouseButtonRelease, hand.Pointer, Qt::LeftButton);
+    prcMouse(*hand.On, QEvent::MouseButtonRelease, pntPointer, Qt::LeftButton);
   }
   hand.Held = nullptr;
 }
@@ -385,22 +390,14 @@ void Hover(Control& control) {
   prcLetGo();
   Settle();
   const QWidget& widget = fncReach(control);
-  const QPoint at = fncMiddleSeen(widget, control.Name);
-  // A pointer that comes to where it is already moves nothing: every second one is a little aside.
-  hand.blnAside = !hand.blnAside;
-  const QPoint aside(at.x() + (hand.blnAside ? 1 : 0), at.y());
-  prcMouse(fncNative(widget), QEvent::MouseMove,
-           widget.mapToGlobal(fncOver(widget, aside) ? aside : at));
+  prcMoveTo(widget, fncMiddleSeen(widget, control.Name));
 }
 
 void Hover(Window& window) {
   prcLetGo();
   Settle();
   const QWidget& ground = *fncView(window).Ground;
-  hand.blnAside = !hand.blnAside;
-  prcMouse(
-      fncNative(ground), QEvent::MouseMove,
-      ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - (hand.blnAside ? 2 : 3))));
+  prcMoveTo(ground, QPoint(ground.width() - 2, ground.height() - 2));
 }
 
 bool Type(Control& box, const std::string& text) {
