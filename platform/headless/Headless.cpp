@@ -344,10 +344,7 @@ bool Type(Control& box, const std::string& text) {
 
 bool Tab(Window& window) {
   bool blnMoved = false;
-  prcDispatch([&] {
-    Control* next = fncNextStop(window, false);
-    blnMoved = next != nullptr && fncSetFocus(*next);
-  });
+  prcDispatch([&] { blnMoved = fncUserTab(window, false); });
   return blnMoved;
 }
 

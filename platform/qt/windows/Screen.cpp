@@ -119,8 +119,10 @@ void prcMatchStack(WindowView& home) {
 
 void prcSyncControls(WindowView& home) {
   prcMatchStack(home);
-  const bool blnFocusMoved = home.DrawnActive != home.Source->ActiveControl;
+  const bool blnFocusMoved =
+      home.DrawnActive != home.Source->ActiveControl || home.DrawnFocus != home.Source->FocusGiven;
   home.DrawnActive = home.Source->ActiveControl;
+  home.DrawnFocus = home.Source->FocusGiven;
   for (const std::unique_ptr<ControlView>& view : home.Controls) {
     if (!(view->Drawn == *view->Source)) {
       prcUpdateControl(*view, *view->Source);
