@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -251,6 +253,36 @@ TEST_F(Input, AdviceComesByTabAndGoesOverTheBareTableAlone) {
   }
   user::Hover(BaccTable.Form);
   EXPECT_FALSE(BaccTable.blnCardNeedShown);
+}
+
+TEST_F(Input, DoubleClicksDragsWheelsAndPastesHaveOneRuleEach) {
+  const Control& chip = BaccTable.lblBBetInc1[0];
+  for (int click = 0; click < 2; ++click) {
+    QTest::mouseClick(fncFrame(), Qt::LeftButton, {}, fncAt(chip));
+  }
+  EXPECT_EQ(lngBankerBet[0], 20) << "a double click is two clicks";
+  for (const int aside : {0, 200}) {
+    QTest::mousePress(fncFrame(), Qt::LeftButton, {}, fncAt(chip));
+    QTest::mouseMove(fncFrame(), fncAt(chip, 200));
+    QTest::mouseMove(fncFrame(), fncAt(chip, aside));
+    QTest::mouseRelease(fncFrame(), Qt::LeftButton, {}, fncAt(chip, aside));
+    EXPECT_EQ(lngBankerBet[0], 30) << "a click ends where it began";
+  }
+  const QPointF at(3, 3);
+  QWheelEvent wheel(at, real::Widget(box_).mapToGlobal(at), {}, {0, 120}, {}, {}, {}, false);
+  QApplication::sendEvent(&real::Widget(box_), &wheel);
+  EXPECT_EQ(box_.Text, "3");
+  user::Click(BaccTable.txtTieBet[0]);
+  QApplication::clipboard()->setText("1a2");
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(BaccTable.txtTieBet[0].Text, "12");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(static_cast<QLineEdit&>(real::Widget(BaccTable.txtTieBet[0])).text().toStdString(),
+            BaccTable.txtTieBet[0].Text);
+  user::Type(BaccTable.txtTieBet[0], "51");
+  user::WhileModal([] { QTest::keyClick(fncFrame(), Qt::Key_7); });
+  Mouse(chip, Qt::LeftButton);
+  EXPECT_EQ(BaccTable.txtTieBet[0].Text, "51") << "a message keeps keys from the box below it";
 }
 
 TEST_F(Input, EmptyPlacesOfAMaskShowThePromptWhileTyped) {

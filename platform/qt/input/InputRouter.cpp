@@ -96,7 +96,8 @@ bool InputRouter::eventFilter(QObject* object, QEvent* event) {
   // The toolkit drops what comes for a widget that has been hidden under the press.
   const bool blnHidden = held_.Widget != nullptr && !held_.Widget->isVisible();
   if (object->isWindowType() && blnHidden && event->type() == QEvent::MouseMove) {
-    return fncMoved(*held_.Widget, *static_cast<QMouseEvent*>(event));
+    prcEndLost(static_cast<QMouseEvent*>(event)->buttons());
+    return fncDragged(*static_cast<QMouseEvent*>(event));
   }
   if (object->isWindowType() && blnHidden && event->type() == QEvent::MouseButtonRelease) {
     fncReleased(*static_cast<QMouseEvent*>(event));
@@ -231,10 +232,11 @@ Control* InputRouter::fncHeldControl() const {
 
 bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
   prcEndLost(event.buttons());
-  if (held_.Button == Qt::NoButton) {
-    return fncHovered(widget, event);
-  }
-  const bool blnNative = held_.blnNative;
+  return held_.Button == Qt::NoButton ? fncHovered(widget, event) : fncDragged(event);
+}
+
+bool InputRouter::fncDragged(const QMouseEvent& event) {
+  const bool blnOurs = held_.Button != Qt::NoButton && !held_.blnNative;
   if (Control* control = fncHeldControl(); control != nullptr) {
     QWidget& own = *held_.Widget;
     const bool blnInside = own.rect().contains(own.mapFromGlobal(event.globalPosition()).toPoint());
@@ -243,7 +245,7 @@ bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
                                  fncShift(event.modifiers()));
     prcServe([&] { prcUserMove(*control, mouse); });
   }
-  return !blnNative;
+  return blnOurs;
 }
 
 bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {

@@ -46,6 +46,7 @@ class InputRouter : public QObject {
   bool fncPressed(QWidget& widget, const QMouseEvent& event);
   bool fncPressControl(Control& control, QWidget& widget, const QMouseEvent& event);
   bool fncMoved(QWidget& widget, const QMouseEvent& event);
+  bool fncDragged(const QMouseEvent& event);
   bool fncHovered(QWidget& widget, const QMouseEvent& event);
   bool fncReleased(const QMouseEvent& event);
 
