@@ -125,7 +125,10 @@ bool fncCheckFocus(Window& window) {
   }
   bool blnCancel = false;
   active->On->Validate(*active, blnCancel);
-  window.FocusGiven += blnCancel ? 1 : 0;
+  if (blnCancel) {
+    active->SelLength = static_cast<int>(active->Text.size());
+    ++window.FocusGiven;
+  }
   return !blnCancel;
 }
 
