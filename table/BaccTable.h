@@ -30,7 +30,7 @@ struct BaccTableWindow {
   Table<Control, 2> lblPWin, lblBWin, lblTWin, lblPLose, lblBLose, lblTLose;
   Control WinP, WinB, TieResultP, TieResultB;
   Control PTotal, BTotal, lblNaturalP, lblNaturalB;
-  Control FormLastHand, FormEndofShoe;
+  Control FormLastHand, FormEndofShoe;  ///< Labels, in spite of their names.
   Table<Control, 2> lblShuffleInProgress;
   Control prgShoe;
   Control fraShoeNumber, lblShoeNumber;
