@@ -32,8 +32,8 @@ namespace {
 struct Hand {
   Control* Held = nullptr;
   Qt::MouseButtons Down;
-  QPointer<QWindow> On;  ///< Where the pointer was last, and its place.
-  int Stamp = 0;  ///< Each press long after the last: no two make a double click.
+  QPointer<QWindow> On;     ///< Where the pointer was last, and its place.
+  int Stamp = 0;            ///< Each press long after the last: no two make a double click.
   bool blnPainted = false;  ///< A card has been painted while the event was delivered.
   std::deque<std::function<void()>> Modal;
   std::deque<platform::Answer> Answers;
