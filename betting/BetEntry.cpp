@@ -100,6 +100,8 @@ void prcInc(BetSide side, Integer Index, Integer intMultiple) {
     }
     At(60);
     bet.Box.Text = fncPlainNumberText(chips);
+    bet.Box.SelLength =
+        rules.SelLength;  // What is typed next replaces it, as in a box just reached.
     At(70);
     prcTakeOtherOff(side, Index, true);
     At(80);

@@ -156,6 +156,14 @@ void prcNeedUsable(Control& control) {
   }
 }
 
+/// A character goes into a box that has the focus: over what is selected, else behind its text.
+void prcTypeInto(Control& box, const std::string& key) {
+  if (box.Kind == ControlKind::MaskedEdit || box.Kind == ControlKind::TextBox) {
+    const auto selected = static_cast<std::size_t>(std::max(0, box.SelLength));
+    prcUserText(box, box.Text.substr(std::min(selected, box.Text.size())) + key);
+  }
+}
+
 }  // namespace
 
 namespace platform {
@@ -329,15 +337,12 @@ bool Type(Control& box, const std::string& text) {
   if (!Press(box)) {
     return false;
   }
-  std::string typed;
-  prcDispatch([&] { prcUserText(box, typed); });
+  prcDispatch([&] { prcUserText(box, ""); });
   for (const char key : text) {
     Key(*box.Form, std::string(1, key));
     if (box.Form->ActiveControl != &box) {
       return false;  // The window has made something else of the key.
     }
-    typed += key;
-    prcDispatch([&] { prcUserText(box, typed); });
   }
   return true;
 }
@@ -355,6 +360,9 @@ void Key(Window& window, const std::string& key, int shift) {
     }
     if (window.On->KeyPress != nullptr && key.size() == 1) {
       window.On->KeyPress(window, key.front());
+    }
+    if (window.hWnd != 0 && window.ActiveControl != nullptr && key.size() == 1) {
+      prcTypeInto(*window.ActiveControl, key);
     }
   });
 }

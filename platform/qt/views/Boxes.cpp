@@ -116,6 +116,9 @@ void EditView::prcShowText() {
   setCursorPosition(std::min(at, static_cast<int>(shown.size())));
   setValidator(filter);
   blnShowing_ = false;
+  if (blnPlain) {
+    prcSelect();  // The program has written over what was selected.
+  }
 }
 
 void EditView::prcReservePrompt(const Control& box, qsizetype typed) {
