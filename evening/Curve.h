@@ -14,7 +14,7 @@ inline constexpr std::array<double, 4> dblBandShares{0.05, 0.25, 0.75, 0.95};
 
 /// A seat behind a hand, in money. Everything but the stake moves along when money comes from
 /// elsewhere than from bets: by a changed stake or a reset of the statistics.
-struct CoursePoint {
+struct CurvePoint {
   double Money = 0;              ///< What it owns.
   double Stake = 0;              ///< The base line.
   double Expected = 0;           ///< What it would own without luck.
@@ -23,7 +23,7 @@ struct CoursePoint {
 
 /// One point for each hand, and in front of them the seat as it came to the first one; empty before
 /// that. The bands of hands seen before are kept.
-std::vector<CoursePoint> fncCourse(Integer intSeat);
+std::vector<CurvePoint> fncCurve(Integer intSeat);
 
 /// A stretch of hands, from the one behind which it begins to its last; From 0 is the start. Amount
 /// is money, or hands lost. Where there is none all are 0.
@@ -40,4 +40,4 @@ Stretch fncDeepestFall(Integer intSeat);
 Stretch fncLongestLosingRun(Integer intSeat);
 
 /// Forgets the bands that are kept.
-void prcForgetCourse();
+void prcForgetCurve();
