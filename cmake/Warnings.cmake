@@ -9,8 +9,14 @@ target_compile_options(
             # Rounding must compile to one instruction: nothing here looks at errno.
             -fno-math-errno)
 
-option(VELMORA_SANITIZE "Run under AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(VELMORA_SANITIZE "Run under AddressSanitizer and UndefinedBehaviorSanitizer; with clang, fuzz too" OFF)
+set(VELMORA_FUZZ OFF)
 if(VELMORA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # The fuzz targets take the game as the tests have it, so it is built for them once.
+    set(VELMORA_FUZZ ON)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+  endif()
 endif()
