@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "table/BaccTable.h"
+
 // The exact odds of a hand out of a full shoe, by the draw rules of the table.
 
 /// In how many of the orders of six cards out of a full shoe each side wins.
@@ -14,8 +16,8 @@ struct OddsRow {
 /// size is faultSubscript.
 const OddsRow& fncOdds(int decks);
 
-/// What a bet of 1 loses a hand on average; a Banker win pays 0.95, a tie 8 to 1, and a tie leaves
-/// the other bets alone.
-double fncBankerEdge(const OddsRow& row);
-double fncPlayerEdge(const OddsRow& row);
-double fncTieEdge(const OddsRow& row);
+/// What a won bet of 1 pays; from a Banker's win the casino's five percent are taken off.
+double fncPays(BetSide side);
+
+/// What a bet of 1 on a side loses a hand on average; a tie leaves the other bets alone.
+double fncEdge(const OddsRow& row, BetSide side);
