@@ -24,28 +24,24 @@ HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat);
 HandLaw fncHandLaw(const EveningHand& hand);
 
 /// The law of a sum of hands, each on its own: chances on a grid of money. The grid is exact until
-/// it would have more than Most points; then its step doubles, and results between two points are
-/// shared out between them so that their mean stays.
+/// it would need more than Most points; then its step doubles, and a result between two points is
+/// split among its neighbours so that mean, variance and skewness stay.
 struct SumLaw {
-  std::size_t Most = 1U << 14U;    ///< Points that the grid may have.
+  std::size_t Most = 1U << 11U;    ///< Points that the grid may have.
+  bool Exact = true;               ///< No result has been split.
   std::int64_t Low = 0;            ///< The first point, in twentieths.
-  std::int64_t Step = 0;           ///< From point to point; 0 while there is one point.
+  std::int64_t Step = 0;           ///< From point to point, in twentieths; 0 before the first bet.
   std::vector<double> Share{1.0};  ///< The chance of each point.
-  double Mean = 0, Variance = 0;   ///< Of the sum itself, in money; never rounded.
-  double Spread = 0;               ///< Variance that the sharing out has added, in money.
+  double Mean = 0, Variance = 0;   ///< Of the sum itself, in money; never rounded to the grid.
 };
 
 /// Adds one more hand to the sum.
 void prcAddHand(SumLaw& law, const HandLaw& hand);
 
-/// Whether the grid has held every result as it is so far.
-bool fncExact(const SumLaw& law);
+/// The share 0..1 of sums below one given in twentieths, and of those that are just it; the latter
+/// is 0 on a grid that is not exact.
+double fncShareBelow(const SumLaw& law, std::int64_t sum);
+double fncShareAt(const SumLaw& law, std::int64_t sum);
 
-/// How far a share of the law may be from the true one because of its grid; 0 for an exact one.
-double fncError(const SumLaw& law);
-
-/// The share 0..1 of sums below an amount of money.
-double fncShareBelow(const SumLaw& law, double dblMoney);
-
-/// The least sums below or at which these shares lie, in money; the shares rise.
-std::array<float, 4> fncQuantiles(const SumLaw& law, const std::array<double, 4>& shares);
+/// The least sums, in money, at or below which these shares lie. The shares rise.
+std::array<double, 4> fncQuantiles(const SumLaw& law, const std::array<double, 4>& shares);

@@ -17,7 +17,7 @@ struct Luck {
   std::array<double, 3> Staked{};  ///< A bet counts on every hand it stands.
   std::array<double, 3> Cost{};    ///< What the house edge takes of that on average.
   double Won = 0;                  ///< Wins less losses.
-  double Expected = 0;             ///< All three costs, as the loss they are: never above 0.
+  double Expected = 0;             ///< All three costs, as the loss they are.
   double Fortune = 0;              ///< Won less expected.
   double Deviation = 0;            ///< The standard deviation of what could have been won.
   double Deviations = 0;           ///< Fortune in standard deviations; 0 where nothing could vary.

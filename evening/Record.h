@@ -43,8 +43,12 @@ inline int fncTotalOf(const EveningHand& hand, Side side) {
 double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side);
 double fncStaked(const EveningHand& hand, Integer intSeat);
 
-/// What the hand won a seat, less what it lost, in money.
-double fncNet(const EveningHand& hand, Integer intSeat);
+/// What the bets of a seat win, less what they lose, in money: on a result 'B', 'P' or 'T', or as
+/// the hand came out.
+double fncNet(const EveningHand& hand, Integer intSeat, char result);
+inline double fncNet(const EveningHand& hand, Integer intSeat) {
+  return fncNet(hand, intSeat, hand.Result);
+}
 
 /// What a seat owned before the hand.
 inline double fncMoneyBefore(const EveningHand& hand, Integer intSeat) {

@@ -9,13 +9,11 @@
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
-#include "shell/CardsDealt.h"
 #include "shell/FrameMenus.h"
 #include "shell/SettingsStore.h"
 #include "shell/ShoeSize.h"
 #include "shell/StartScreen.h"
 #include "shell/Switches.h"
-#include "shell/frmSelectaShoe.h"
 #include "table/BaccTable.h"
 #include "table/TableState.h"
 
@@ -106,6 +104,16 @@ void prcCloseMarkCards() {
   }
 }
 
+/// The lists of cards dealt, and what else floats: each window keeps its place.
+void prcCloseFloats() {
+  const std::vector<Window*> open = fncWindows();
+  for (Window* window : open) {
+    if (window->Kind == WindowKind::Float) {
+      fncUnload(*window);
+    }
+  }
+}
+
 struct BrowserFailure {
   int Code;
   const char* Message;
@@ -132,11 +140,9 @@ void prcCloseFrame() {
     prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
     prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
     At(20);
-    fncUnload(frmCardsDealt.Form);
-    fncUnload(frmCardsDealtCount.Form);
+    prcCloseFloats();
     fncUnload(BaccTable.Form);
     prcCloseMarkCards();
-    fncUnload(frmSelectaShoe.Form);
     // The frame's own unload is what runs here.
     prcForgetWindow(MDIForm1.Form);
     At(30);
