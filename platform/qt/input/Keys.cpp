@@ -9,6 +9,7 @@
 #include "platform/UserInput.h"
 #include "platform/qt/input/InputRouter.h"
 #include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/WindowViews.h"
@@ -146,12 +147,19 @@ bool fncScrollKey(const Window& window, int key) {
   return false;
 }
 
-/// Alt and a letter in a floating window mean the frame's menus and the keys of the table, as the
-/// lists of cards have none of their own.
+/// Alt and a letter in a floating window mean the frame's menus and the keys of the table, and the
+/// keys of menu entries mean those, as the lists of cards have none of their own.
 bool fncFramesKey(const Window& window, const QKeyEvent& event) {
   const WindowView* frame = fncFrameView();
   auto* main = frame != nullptr ? qobject_cast<QMainWindow*>(frame->Shell) : nullptr;
-  if (window.Kind != WindowKind::Float || main == nullptr || event.modifiers() != Qt::AltModifier) {
+  if (window.Kind != WindowKind::Float || main == nullptr) {
+    return false;
+  }
+  if (QAction* entry = fncMenuEntryOf(event.key(), event.modifiers()); entry != nullptr) {
+    entry->trigger();
+    return true;
+  }
+  if (event.modifiers() != Qt::AltModifier) {
     return false;
   }
   const QKeySequence keys(static_cast<int>(Qt::ALT) | event.key());
