@@ -10,7 +10,7 @@ namespace {
 
 /// Points of a grid times hands that are reckoned without being felt, and the least and most points
 /// that a grid gets of them.
-constexpr std::size_t lngPointsAndHands = 20'000'000;
+constexpr std::size_t lngPointsAndHands = 8'000'000;
 constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 20U;
 
 /// The bets of a scope, hand by hand.
