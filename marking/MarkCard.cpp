@@ -126,7 +126,9 @@ void prcPlaceShape(MarkCardWindow& form, Control& shape, const Mark& mark) {
 
 void prcPlaceText(MarkCardWindow& form, Control& text, const Mark& mark) {
   text.Text = mark.Caption;
-  text.ForeColor = fncTextColour(mark.Negative);
+  if (mark.Lost) {
+    text.ForeColor = fncTextColour(*mark.Lost);
+  }
   if (!mark.TieLine) {
     text.Top = form.lblTBP.at(0).Top + (mark.Row - 1.0) * intRowPitch;
     prcAtColumn(text, form.lblTBP, mark.Column);

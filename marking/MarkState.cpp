@@ -117,7 +117,9 @@ void prcPlaceInRun(std::int64_t card, const Hand& hand, Mark& mark) {
   }
   prcScore(card, mark);
   mark.Row = std::abs(int{intRun[card]}) + intTieRun[card];
-  mark.Negative = varHandUnits[card] && *varHandUnits[card] < 0;
+  if (varHandUnits[card]) {
+    mark.Lost = *varHandUnits[card] < 0;
+  }
   mark.Caption = fncCaption(card, hand);
 }
 

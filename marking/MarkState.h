@@ -43,8 +43,8 @@ struct Mark {
   bool TieLine = false;    ///< An ignored tie: a thin line without text.
   bool AboveCard = false;  ///< An ignored tie before the first result.
   std::string Caption;
-  std::string Spoken;     ///< The result in words, for the ear.
-  bool Negative = false;  ///< The hand lost units. A hand without units lost none.
+  std::string Spoken;        ///< The result in words, for the ear.
+  std::optional<bool> Lost;  ///< Whether the hand lost units. Nothing for a hand without units.
 };
 
 /// Places the hand just dealt on card 0..8 by its running values, which it moves on, and the state

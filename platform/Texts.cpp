@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <climits>
 #include <clocale>
 #include <cmath>
 #include <optional>
@@ -62,6 +63,62 @@ char fncLower(char letter) {
 
 std::optional<CurrencyStyle> styleInForce;
 
+/// A place of the country's format; what it leaves open has a common answer.
+int fncGiven(char place, int common) { return place == CHAR_MAX ? common : place; }
+
+CurrencyForm fncForm(char precedes, char space, char signPlace, const char* sign) {
+  return {.blnSymbolFirst = fncGiven(precedes, 1) != 0,
+          .intSpace = fncGiven(space, 0),
+          .intSignPlace = fncGiven(signPlace, 1),
+          .strSign = sign};
+}
+
+/// The nearest whole number by the amount's first 15 digits: 28.499999999999996 is 28.5 in the mind
+/// of who counts.
+double fncWhole(double amount) {
+  std::array<char, 32> digits{};
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), amount,
+                                     std::chars_format::scientific, 14);
+  std::from_chars(digits.data(), written.ptr, amount);
+  return std::round(amount);
+}
+
+std::string fncGrouped(std::string digits, const CurrencyStyle& style) {
+  std::size_t at = digits.size();
+  for (std::size_t i = 0; i < style.strGroups.size();
+       i = std::min(i + 1, style.strGroups.size() - 1)) {
+    const char group = style.strGroups[i];
+    if (group <= 0 || group == CHAR_MAX || at <= static_cast<std::size_t>(group)) {
+      break;
+    }
+    at -= static_cast<std::size_t>(group);
+    digits.insert(at, style.strThousands);
+  }
+  return digits;
+}
+
+/// Digits with their symbol and sign. An empty sign leaves the blank beside it where that parts
+/// symbol and digits.
+std::string fncFormed(const std::string& digits, const std::string& symbol,
+                      const CurrencyForm& form) {
+  const std::string besideDigits = form.intSpace == 1 ? " " : "";
+  const std::string besideSign = form.intSpace == 2 ? " " : "";
+  const bool blnBrackets = form.intSignPlace == 0;
+  const bool blnSignFirst = form.intSignPlace == 1 || form.intSignPlace == 3;
+  const bool blnTouching =
+      !blnBrackets && (form.intSignPlace > 2 || form.blnSymbolFirst == blnSignFirst);
+  const auto with = [&](const std::string& piece) {
+    return blnSignFirst ? form.strSign + besideSign + piece : piece + besideSign + form.strSign;
+  };
+  const std::string unit = blnTouching ? with(symbol) : symbol;
+  const std::string text =
+      form.blnSymbolFirst ? unit + besideDigits + digits : digits + besideDigits + unit;
+  if (blnBrackets) {
+    return form.strSign.empty() ? text : "(" + text + ")";
+  }
+  return std::string(fncTrimmed(blnTouching ? text : with(text)));
+}
+
 }  // namespace
 
 double fncVal(std::string_view text) {
@@ -97,19 +154,24 @@ bool fncEqualNoCase(std::string_view one, std::string_view other) {
   return std::ranges::equal(one, other, {}, fncLower, fncLower);
 }
 
+CurrencyStyle fncCurrencyOf(const std::lconv& country) {
+  if (*country.currency_symbol == '\0') {
+    return {};
+  }
+  const char* const minus = *country.negative_sign == '\0' ? "-" : country.negative_sign;
+  return {.strSymbol = country.currency_symbol,
+          .strThousands = country.mon_thousands_sep,
+          .strGroups = country.mon_grouping,
+          .Positive = fncForm(country.p_cs_precedes, country.p_sep_by_space, country.p_sign_posn,
+                              country.positive_sign),
+          .Negative =
+              fncForm(country.n_cs_precedes, country.n_sep_by_space, country.n_sign_posn, minus)};
+}
+
 CurrencyStyle fncSystemCurrency() {
   const std::string before = std::setlocale(LC_MONETARY, nullptr);
-  CurrencyStyle style;
-  if (std::setlocale(LC_MONETARY, "") != nullptr) {
-    const std::lconv* country = std::localeconv();
-    if (*country->currency_symbol != '\0') {
-      style.strSymbol = country->currency_symbol;
-      style.strThousands = country->mon_thousands_sep;
-      style.blnSymbolFirst = country->p_cs_precedes == 1;
-      style.blnSpaced = country->p_sep_by_space == 1;
-      style.blnParentheses = country->n_sign_posn == 0;
-    }
-  }
+  const bool blnKnown = std::setlocale(LC_MONETARY, "") != nullptr;
+  const CurrencyStyle style = blnKnown ? fncCurrencyOf(*std::localeconv()) : CurrencyStyle{};
   std::setlocale(LC_MONETARY, before.c_str());
   return style;
 }
@@ -120,17 +182,8 @@ std::string fncCurrency(double amount) {
   if (!styleInForce) {
     styleInForce = fncSystemCurrency();
   }
-  const CurrencyStyle& style = *styleInForce;
-  const double whole = std::round(std::abs(amount));
-  std::string digits = fncPlainNumberText(whole);
-  for (auto at = static_cast<std::ptrdiff_t>(digits.size()) - 3; at > 0; at -= 3) {
-    digits.insert(static_cast<std::size_t>(at), style.strThousands);
-  }
-  const std::string gap = style.blnSpaced ? " " : "";
-  std::string text =
-      style.blnSymbolFirst ? style.strSymbol + gap + digits : digits + gap + style.strSymbol;
-  if (amount < 0 && whole > 0) {
-    text = style.blnParentheses ? "(" + text + ")" : "-" + text;
-  }
-  return text;
+  const double whole = fncWhole(amount);
+  const std::string digits = fncGrouped(fncPlainNumberText(std::abs(whole)), *styleInForce);
+  return fncFormed(digits, styleInForce->strSymbol,
+                   whole < 0 ? styleInForce->Negative : styleInForce->Positive);
 }

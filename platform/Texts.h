@@ -1,5 +1,6 @@
 #pragma once
 
+#include <clocale>
 #include <string>
 #include <string_view>
 
@@ -25,22 +26,34 @@ std::string fncPlainNumberText(double number);
 /// Whether two texts are equal without regard to the case of A to Z.
 bool fncEqualNoCase(std::string_view one, std::string_view other);
 
+/// How symbol and sign stand around an amount, counted as the C library counts them.
+struct CurrencyForm {
+  bool blnSymbolFirst = true;
+  int intSpace = 0;  ///< 1: between symbol and digits. 2: beside the sign. 0: none.
+  int intSignPlace =
+      1;  ///< 0: parentheses. 1, 2: before, behind all. 3, 4: the same of the symbol.
+  std::string strSign;
+};
+
 /// How the user's country writes money without decimal places.
 struct CurrencyStyle {
   std::string strSymbol = "$";
   std::string strThousands = ",";
-  bool blnSymbolFirst = true;
-  bool blnSpaced = false;
-  bool blnParentheses =
-      false;  ///< A negative amount stands in parentheses instead of behind a minus sign.
+  std::string strGroups =
+      "\3";  ///< Sizes of the groups of digits from the right; the last repeats.
+  CurrencyForm Positive;
+  CurrencyForm Negative{.strSign = "-"};
 };
 
-/// The style of the system's locale; the dollar form above where the locale names no currency, as
-/// in "C".
+/// The style of a country; the dollar form above where it names no currency, as "C" does.
+CurrencyStyle fncCurrencyOf(const std::lconv& country);
+
+/// The style of the system's locale.
 CurrencyStyle fncSystemCurrency();
 
 /// Replaces the style that fncCurrency uses from now on.
 void prcSetCurrency(const CurrencyStyle& style);
 
-/// amount in money as currency text with no decimal places; half a unit rounds away from zero.
+/// amount in money as currency text with no decimal places; half a unit rounds away from zero. What
+/// counts is the amount's first 15 digits, all that a sum of bets and wins has to tell.
 std::string fncCurrency(double amount);

@@ -19,7 +19,9 @@ constexpr const char* strDescription =
     "fun revealing the face of the cards as done in the casinos. Please spend some time reading "
     "the HELP screens for the many other features of Velmora.";
 
-constexpr ControlEvents evtOk{.Click = [](Control&) { fncUnload(KasSitas.Form); }};
+void cmdOK_Click(Control&) { fncUnload(KasSitas.Form); }
+
+constexpr ControlEvents evtOk{.Click = cmdOK_Click};
 
 void prcLayOutAbout() {
   KasSitasWindow& w = KasSitas;
@@ -38,7 +40,7 @@ void prcLayOutAbout() {
   w.cmdOK.On = &evtOk;
 }
 
-void prcLoadAbout(Window& form) {
+void Form_Load(Window& form) {
   Guarded("KasSitas_Form_Load", [&] {
     prcLayOutAbout();
     At(10);
@@ -50,7 +52,7 @@ void prcLoadAbout(Window& form) {
   });
 }
 
-constexpr WindowEvents evtAbout{.Load = prcLoadAbout};
+constexpr WindowEvents evtAbout{.Load = Form_Load};
 
 }  // namespace
 

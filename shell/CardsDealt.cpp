@@ -33,7 +33,11 @@ struct ListWindow {
   const char* LoadLabel;
   const char* UnloadLabel;
   const char* ClickLabel;
+  void (*LayOut)();
 };
+
+void prcLayOutCards();
+void prcLayOutCount();
 
 constexpr ListWindow wndCards{frmCardsDealt.Form,
                               frmCardsDealt.lstCardsDealt,
@@ -45,7 +49,8 @@ constexpr ListWindow wndCards{frmCardsDealt.Form,
                               "Show Cards Dealt",
                               "frmCardsDealt_Form_Load",
                               "frmCardsDealt_Unload",
-                              "chkOnTop_Click"};
+                              "chkOnTop_Click",
+                              prcLayOutCards};
 constexpr ListWindow wndCount{frmCardsDealtCount.Form,
                               frmCardsDealtCount.lstCardsDealtCount,
                               frmCardsDealtCount.chkOnTop,
@@ -56,14 +61,20 @@ constexpr ListWindow wndCount{frmCardsDealtCount.Form,
                               "Show Cards Dealt Count",
                               "frmCardsDealtCount_Form_Load",
                               "frmCardsDealtCount_Unload",
-                              "frmCardsDealtCount_chkOnTop_Click"};
+                              "frmCardsDealtCount_chkOnTop_Click",
+                              prcLayOutCount};
+
+const ListWindow& fncListWindow(const Window& form) {
+  return &form == &wndCards.Form ? wndCards : wndCount;
+}
 
 void prcEmpty(Control& list) {
   list.List.clear();
   list.ListIndex = -1;
 }
 
-void prcOnTopClick(const ListWindow& window) {
+void chkOnTop_Click(Control& box) {
+  const ListWindow& window = fncListWindow(*box.Form);
   Guarded(window.ClickLabel, [&] {
     At(10);
     window.Form.Topmost = window.OnTop.Value == 1;
@@ -72,8 +83,7 @@ void prcOnTopClick(const ListWindow& window) {
   });
 }
 
-constexpr ControlEvents evtCardsOnTop{.Click = [](Control&) { prcOnTopClick(wndCards); }};
-constexpr ControlEvents evtCountOnTop{.Click = [](Control&) { prcOnTopClick(wndCount); }};
+constexpr ControlEvents evtOnTop{.Click = chkOnTop_Click};
 
 void prcLayOutCards() {
   const Place rows[] = {
@@ -85,7 +95,7 @@ void prcLayOutCards() {
   frmCardsDealt.lstCardsDealt.BackColor = clrWhite;
   frmCardsDealt.lstCardsDealt.Spoken = "Cards dealt";
   frmCardsDealt.chkOnTop.BackColor = clrWhite;
-  frmCardsDealt.chkOnTop.On = &evtCardsOnTop;
+  frmCardsDealt.chkOnTop.On = &evtOnTop;
 }
 
 void prcLayOutCount() {
@@ -103,18 +113,19 @@ void prcLayOutCount() {
   w.lstCardsDealtCount.Face = {.Size = 9.75F, .Fixed = true};
   w.lstCardsDealtCount.Spoken = "Count of cards dealt: Spades, Clubs, Diamonds, Hearts";
   w.chkOnTop.BackColor = clrWhite;
-  w.chkOnTop.On = &evtCountOnTop;
+  w.chkOnTop.On = &evtOnTop;
 }
 
-void prcLoadWindow(const ListWindow& window, void (*prcLayOutControls)()) {
+void Form_Load(Window& form) {
+  const ListWindow& window = fncListWindow(form);
   Guarded(window.LoadLabel, [&] {
     At(10);
-    prcLayOutControls();
+    window.LayOut();
     prcEmpty(window.List);
     At(20);
-    prcReadPlace(window.Form, window.Section);
+    prcReadPlace(form, window.Section);
     At(30);
-    window.Form.Topmost = false;
+    form.Topmost = false;
     if (fncGetPrivateProfileString("Misc", window.OnTopKey) == "1") {
       prcSetValue(window.OnTop, 1);
     }
@@ -122,38 +133,29 @@ void prcLoadWindow(const ListWindow& window, void (*prcLayOutControls)()) {
 }
 
 /// The switch goes off with its window, wherever the closing comes from.
-void prcSwitchOff(const ListWindow& window) {
-  At(10);
-  window.Entry.Value = 0;
-  At(20);
-  prcSetButton(window.Button, 0);
-  At(30);
-  prcWriteSwitch("Card Options", window.SwitchKey, false);
-  At(40);
-  prcWritePlace(window.Form, window.Section);
-  At(50);
+void Form_Unload(Window& form, bool& blnCancel) {
+  const ListWindow& window = fncListWindow(form);
+  Guarded(window.UnloadLabel, [&] {
+    At(10);
+    window.Entry.Value = 0;
+    At(20);
+    prcSetButton(window.Button, 0);
+    At(30);
+    prcWriteSwitch("Card Options", window.SwitchKey, false);
+    At(40);
+    prcWritePlace(form, window.Section);
+    At(50);
+    if (&window == &wndCount) {
+      blnShowCardsDealtCount = false;
+      return;
+    }
+    // The rows of the shoe live in the list alone: the window only goes out of sight.
+    form.Visible = false;
+    blnCancel = true;
+  });
 }
 
-constexpr WindowEvents evtCards{.Load = [](Window&) { prcLoadWindow(wndCards, prcLayOutCards); },
-                                .Unload =
-                                    [](Window& form, bool& blnCancel) {
-                                      Guarded(wndCards.UnloadLabel, [&] {
-                                        prcSwitchOff(wndCards);
-                                        // The rows of the shoe live in the list alone: the window
-                                        // only goes out of sight.
-                                        form.Visible = false;
-                                        blnCancel = true;
-                                      });
-                                    }};
-
-constexpr WindowEvents evtCount{.Load = [](Window&) { prcLoadWindow(wndCount, prcLayOutCount); },
-                                .Unload =
-                                    [](Window&, bool&) {
-                                      Guarded(wndCount.UnloadLabel, [] {
-                                        prcSwitchOff(wndCount);
-                                        blnShowCardsDealtCount = false;
-                                      });
-                                    }};
+constexpr WindowEvents evtList{.Load = Form_Load, .Unload = Form_Unload};
 
 std::string fncCountRow(const CardsDealtRow& counts) {
   std::string row = counts.Name;
@@ -166,10 +168,10 @@ std::string fncCountRow(const CardsDealtRow& counts) {
 }
 
 void prcPrepareFloat(Window& form, const char* name, const char* caption, double width,
-                     double height, const WindowEvents& events) {
+                     double height) {
   form.Name = name;
   form.Kind = WindowKind::Float;
-  form.On = &events;
+  form.On = &evtList;
   form.Caption = caption;
   form.FixedInner = true;
   form.ScaleWidth = width;
@@ -204,7 +206,6 @@ void prcAddCardsDealt(const std::string& row) {
 }
 
 void prcPrepareCardsDealt() {
-  prcPrepareFloat(frmCardsDealt.Form, "frmCardsDealt", "Cards Dealt", 1920, 3375, evtCards);
-  prcPrepareFloat(frmCardsDealtCount.Form, "frmCardsDealtCount", "Cards Dealt Count", 2205, 3315,
-                  evtCount);
+  prcPrepareFloat(frmCardsDealt.Form, "frmCardsDealt", "Cards Dealt", 1920, 3375);
+  prcPrepareFloat(frmCardsDealtCount.Form, "frmCardsDealtCount", "Cards Dealt Count", 2205, 3315);
 }

@@ -21,7 +21,7 @@ namespace {
 /// Help with its contents and index, and not one topic.
 constexpr int intContentsAndIndex = 0;
 
-void prcLargeButtonsClick(Control& entry) {
+void mnuLargeButtons_Click(Control& entry) {
   At(10);
   prcInvert(entry);
   const bool blnLarge = entry.Value == 1;
@@ -33,7 +33,7 @@ void prcLargeButtonsClick(Control& entry) {
   prcSetMenusAndButtons();
 }
 
-void prcStatisticsClick(Control&) {
+void mnuStatistics_Click(Control&) {
   At(10);
   // The routine comes back only when the dialog has closed, and the closing sets the button up.
   prcMoveButton("Statistics");
@@ -41,21 +41,31 @@ void prcStatisticsClick(Control&) {
   prcStatistics();
 }
 
-void prcWebClick(Control&) { DisplayURL(std::string(strWebSite) + "download.htm", "Velmora"); }
+void mnuTarnlea_Click(Control&) { DisplayURL(std::string(strWebSite) + "download.htm", "Velmora"); }
 
-void prcContentsClick(Control&) { platform::ShowHelp(strHelpFile, intContentsAndIndex); }
+void mnuContents_Click(Control&) { platform::ShowHelp(strHelpFile, intContentsAndIndex); }
 
-void prcAboutClick(Control&) { prcShowModal(KasSitas.Form); }
+void mnuAbout_Click(Control&) { prcShowModal(KasSitas.Form); }
 
-void prcExitClick(Control&) { prcCloseFrame(); }
+void mnuLearn_Click(Control&) { prcLearn(); }
+void mnuCardFaceUpDown_Click(Control&) { prcCardFaceUpDown(); }
+void mnuShowCardValues_Click(Control&) { prcShowCardValues(); }
+void mnuShowCardsDealt_Click(Control&) { prcShowCardsDealt(); }
+void mnuShowCardsDealtCount_Click(Control&) { prcShowCardsDealtCount(); }
+void mnuShowScore_Click(Control&) { prcShowScore(); }
+void mnuShowNaturals_Click(Control&) { prcShowNaturals(); }
+void mnuPlayerBlue_Click(Control&) { prcPlayerBlue(); }
+void mnuDealDelay_Click(Control&) { prcDelay(); }
+void mnuDealAnimation_Click(Control&) { prcAnimation(); }
+void mnuArrows_Click(Control&) { prcSetRevealIcons(); }
+void mnuHands_Click(Control&) { prcSetRevealIcons(); }
+void mnuOptions_Click(Control&) { prcOptions(); }
+void mnuExit_Click(Control&) { MDIForm1_Unload(); }
 
-void prcRevealClick(Control&) { prcSetRevealIcons(); }
+enum class Rank : std::uint8_t { Title, Entry, Switch };
 
-void prcOptionsClick(Control&) { prcOptions(); }
-
-enum class Rank : std::uint8_t { Title, Entry };
-
-/// A menu's title, or an entry of the menu whose title stands above it. Separators have no click.
+/// A menu's title, or an entry of the menu whose title stands above it. A switch has a place for a
+/// check mark; separators have no click.
 struct MenuRow {
   Control& Entry;
   const char* Name;
@@ -66,55 +76,57 @@ struct MenuRow {
 
 constexpr MenuRow menuRows[] = {
     {MDIForm1.mnuFile, "mnuFile", "&File", Rank::Title},
-    {MDIForm1.mnuLearn, "mnuLearn", "&Learn", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuLearn, "mnuLearn", "&Learn", Rank::Switch, mnuLearn_Click},
     {MDIForm1.mnuSep5, "mnuSep5", "-", Rank::Entry},
-    {MDIForm1.mnuExit, "mnuExit", "E&xit", Rank::Entry, prcExitClick},
+    {MDIForm1.mnuExit, "mnuExit", "E&xit", Rank::Entry, mnuExit_Click},
     {MDIForm1.mnuCardOptions, "mnuCardOptions", "&Card Options", Rank::Title},
-    {MDIForm1.mnuCardFaceUpDown, "mnuCardFaceUpDown", "Cards Face &Up", Rank::Entry,
-     prcSwitchEntry},
-    {MDIForm1.mnuShowCardValues, "mnuShowCardValues", "Show Card &Values", Rank::Entry,
-     prcSwitchEntry},
-    {MDIForm1.mnuShowCardsDealt, "mnuShowCardsDealt", "Show Cards &Dealt", Rank::Entry,
-     prcSwitchEntry},
+    {MDIForm1.mnuCardFaceUpDown, "mnuCardFaceUpDown", "Cards Face &Up", Rank::Switch,
+     mnuCardFaceUpDown_Click},
+    {MDIForm1.mnuShowCardValues, "mnuShowCardValues", "Show Card &Values", Rank::Switch,
+     mnuShowCardValues_Click},
+    {MDIForm1.mnuShowCardsDealt, "mnuShowCardsDealt", "Show Cards &Dealt", Rank::Switch,
+     mnuShowCardsDealt_Click},
     {MDIForm1.mnuShowCardsDealtCount, "mnuShowCardsDealtCount", "Show Cards Dealt &Count",
-     Rank::Entry, prcSwitchEntry},
+     Rank::Switch, mnuShowCardsDealtCount_Click},
     {MDIForm1.mnuMarkingOptions, "mnuMarkingOptions", "&Marking Options", Rank::Title},
-    {MDIForm1.mnuShowScore, "mnuShowScore", "Show &Score", Rank::Entry, prcSwitchEntry},
-    {MDIForm1.mnuShowNaturals, "mnuShowNaturals", "Show &Naturals", Rank::Entry, prcSwitchEntry},
-    {MDIForm1.mnuPlayerBlue, "mnuPlayerBlue", "&Player Blue", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuShowScore, "mnuShowScore", "Show &Score", Rank::Switch, mnuShowScore_Click},
+    {MDIForm1.mnuShowNaturals, "mnuShowNaturals", "Show &Naturals", Rank::Switch,
+     mnuShowNaturals_Click},
+    {MDIForm1.mnuPlayerBlue, "mnuPlayerBlue", "&Player Blue", Rank::Switch, mnuPlayerBlue_Click},
     {MDIForm1.mnuShoeSize, "mnuShoeSize", "&Shoe Size", Rank::Title},
-    {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", Rank::Entry, prcSizeEntry},
-    {MDIForm1.mnuShoeSizeDecks[1], "mnuShoeSizeDecks", "&2 Decks", Rank::Entry, prcSizeEntry},
-    {MDIForm1.mnuShoeSizeDecks[2], "mnuShoeSizeDecks", "&4 Decks", Rank::Entry, prcSizeEntry},
-    {MDIForm1.mnuShoeSizeDecks[3], "mnuShoeSizeDecks", "&6 Decks", Rank::Entry, prcSizeEntry},
-    {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", Rank::Entry, prcSizeEntry},
+    {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", Rank::Switch,
+     mnuShoeSizeDecks_Click},
+    {MDIForm1.mnuShoeSizeDecks[1], "mnuShoeSizeDecks", "&2 Decks", Rank::Switch,
+     mnuShoeSizeDecks_Click},
+    {MDIForm1.mnuShoeSizeDecks[2], "mnuShoeSizeDecks", "&4 Decks", Rank::Switch,
+     mnuShoeSizeDecks_Click},
+    {MDIForm1.mnuShoeSizeDecks[3], "mnuShoeSizeDecks", "&6 Decks", Rank::Switch,
+     mnuShoeSizeDecks_Click},
+    {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", Rank::Switch,
+     mnuShoeSizeDecks_Click},
     {MDIForm1.mnuDealing, "mnuDealing", "&Dealing", Rank::Title},
-    {MDIForm1.mnuDealDelay, "mnuDealDelay", "&Delay When Face Up", Rank::Entry, prcSwitchEntry},
-    {MDIForm1.mnuDealAnimation, "mnuDealAnimation", "&Animation", Rank::Entry, prcSwitchEntry},
+    {MDIForm1.mnuDealDelay, "mnuDealDelay", "&Delay When Face Up", Rank::Switch,
+     mnuDealDelay_Click},
+    {MDIForm1.mnuDealAnimation, "mnuDealAnimation", "&Animation", Rank::Switch,
+     mnuDealAnimation_Click},
     {MDIForm1.mOptions, "mOptions", "&Options", Rank::Title},
-    {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", Rank::Entry,
-     prcLargeButtonsClick},
+    {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", Rank::Switch,
+     mnuLargeButtons_Click},
     {MDIForm1.mnuSep1, "mnuSep1", "-", Rank::Entry},
-    {MDIForm1.mnuArrows, "mnuArrows", "&Arrows to reveal cards", Rank::Entry, prcRevealClick},
-    {MDIForm1.mnuHands, "mnuHands", "&Hands to reveal cards", Rank::Entry, prcRevealClick},
+    {MDIForm1.mnuArrows, "mnuArrows", "&Arrows to reveal cards", Rank::Switch, mnuArrows_Click},
+    {MDIForm1.mnuHands, "mnuHands", "&Hands to reveal cards", Rank::Switch, mnuHands_Click},
     {MDIForm1.mnuSep3, "mnuSep3", "-", Rank::Entry},
-    {MDIForm1.mnuStatistics, "mnuStatistics", "&Statistics...", Rank::Entry, prcStatisticsClick},
+    {MDIForm1.mnuStatistics, "mnuStatistics", "&Statistics...", Rank::Entry, mnuStatistics_Click},
     {MDIForm1.mnuSep6, "mnuSep6", "-", Rank::Entry},
-    {MDIForm1.mnuOptions, "mnuOptions", "&Options...", Rank::Entry, prcOptionsClick},
+    {MDIForm1.mnuOptions, "mnuOptions", "&Options...", Rank::Entry, mnuOptions_Click},
     {MDIForm1.mnuWeb, "mnuWeb", "&Web", Rank::Title},
     {MDIForm1.mnuTarnlea, "mnuTarnlea", "&Get the latest version of Velmora...", Rank::Entry,
-     prcWebClick},
+     mnuTarnlea_Click},
     {MDIForm1.mnuHelp, "mnuHelp", "&Help", Rank::Title},
-    {MDIForm1.mnuContents, "mnuContents", "&Contents and Index", Rank::Entry, prcContentsClick},
+    {MDIForm1.mnuContents, "mnuContents", "&Contents and Index", Rank::Entry, mnuContents_Click},
     {MDIForm1.mnuSep2, "mnuSep2", "-", Rank::Entry},
-    {MDIForm1.mnuAbout, "mnuAbout", "&About Velmora", Rank::Entry, prcAboutClick},
+    {MDIForm1.mnuAbout, "mnuAbout", "&About Velmora", Rank::Entry, mnuAbout_Click},
 };
-
-/// Whether an entry has a place for a check mark, checked or not.
-bool fncTicks(const MenuRow& row) {
-  return row.Click == prcSwitchEntry || row.Click == prcSizeEntry ||
-         row.Click == prcLargeButtonsClick || row.Click == prcRevealClick;
-}
 
 void prcEntryClick(Control& entry) {
   const auto* const row =
@@ -178,7 +190,7 @@ void prcLayOutMenus() {
     }
     row.Entry.Container = menu;
     row.Entry.On = row.Click != nullptr ? &evtEntry : &evtNone;
-    row.Entry.Max = fncTicks(row) ? 1 : 0;
+    row.Entry.Max = row.Stands == Rank::Switch ? 1 : 0;
   }
   for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
     MDIForm1.mnuShoeSizeDecks[i].Index = i;

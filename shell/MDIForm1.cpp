@@ -26,7 +26,7 @@ namespace {
 constexpr double dblCardMargin = 500;
 constexpr double dblCardShift = 150;
 
-void prcTimerTick(Control& timer) {
+void Timer1_Timer(Control& timer) {
   Guarded("MDIForm1_Timer1_Timer", [&] {
     At(10);
     timer.Enabled = false;
@@ -37,7 +37,7 @@ void prcTimerTick(Control& timer) {
   });
 }
 
-constexpr ControlEvents evtTimer{.Timer = prcTimerTick};
+constexpr ControlEvents evtTimer{.Timer = Timer1_Timer};
 
 void prcLayOutFrame() {
   Window& form = MDIForm1.Form;
@@ -50,7 +50,7 @@ void prcLayOutFrame() {
   MDIForm1.Timer1.On = &evtTimer;
 }
 
-void prcLoadFrame(Window& form) {
+void MDIForm1_Load(Window& form) {
   Guarded("MDIForm1_Load", [&] {
     prcLayOutFrame();
     At(10);
@@ -73,7 +73,7 @@ void prcLoadFrame(Window& form) {
   });
 }
 
-void prcResizeFrame(Window& form) {
+void MDIForm_Resize(Window& form) {
   Guarded("MDIForm_Resize", [&] {
     At(10);
     if (blnTableLoaded) {
@@ -88,9 +88,9 @@ void prcResizeFrame(Window& form) {
   });
 }
 
-constexpr WindowEvents evtFrame{.Load = prcLoadFrame,
-                                .Unload = [](Window&, bool&) { prcCloseFrame(); },
-                                .Resize = prcResizeFrame};
+constexpr WindowEvents evtFrame{.Load = MDIForm1_Load,
+                                .Unload = [](Window&, bool&) { MDIForm1_Unload(); },
+                                .Resize = MDIForm_Resize};
 
 void prcCloseMarkCards() {
   // Each closing takes its window out of the collection.
@@ -132,7 +132,7 @@ constexpr int intLastFailure = 32;
 
 void prcShowFrame() { prcShow(MDIForm1.Form); }
 
-void prcCloseFrame() {
+void MDIForm1_Unload() {
   Guarded("MDIForm1_Unload", [] {
     At(10);
     prcWriteSetting("MDIForm1", "Top", MDIForm1.Form.Top);

@@ -31,7 +31,7 @@ void prcShowFrame();
 
 /// The way out of the program: stores the frame's place, closes every window in its order and ends
 /// the program.
-void prcCloseFrame();
+void MDIForm1_Unload();
 
 /// Turns mnuStatistics over and shows or hides the statistics, as a modal dialog.
 void prcStatistics();

@@ -61,15 +61,9 @@ void prcDecksButtonWarning(Integer decks, Control& button) {
   });
 }
 
-void prcSizeButton(Control& button) {
-  for (const int decks : intShoeSizes) {
-    if (&fncSizeButton(decks) == &button) {
-      prcDecksButtonWarning(decks, button);
-    }
-  }
-}
+void prcSizeButton(int decks) { prcDecksButtonWarning(decks, fncSizeButton(decks)); }
 
-void prcSizeEntry(Control& entry) {
+void mnuShoeSizeDecks_Click(Control& entry) {
   if (fncChangeWanted()) {
     At(20);
     const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));

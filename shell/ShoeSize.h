@@ -10,11 +10,11 @@ void prcDecks(Integer decks, Control& button);
 /// The same after the warning that a shoe is in play; taken back, the size in force stays marked.
 void prcDecksButtonWarning(Integer decks, Control& button);
 
-/// A click on a button Decks1 to Decks8.
-void prcSizeButton(Control& button);
+/// The same by the button of that size, for decks 1, 2, 4, 6 or 8.
+void prcSizeButton(int decks);
 
 /// A click on an entry of mnuShoeSizeDecks, Index 0..4.
-void prcSizeEntry(Control& entry);
+void mnuShoeSizeDecks_Click(Control& entry);
 
 /// Reads the size of all nine shoes from the settings file and marks that of the table's. One below
 /// 1 or above 8 counts as 8; one between the five sizes stays and marks nothing.

@@ -38,15 +38,25 @@ void prcLeave() {
   platform::End();
 }
 
-constexpr ControlEvents evtStart{.Click = [](Control&) { prcShowFrame(); }};
-constexpr ControlEvents evtHelp{.Click = [](Control&) { prcShowHelp(); }};
-constexpr ControlEvents evtQuit{.Click = [](Control&) { prcLeave(); }};
-constexpr ControlEvents evtNerodik{.Click = [](Control& box) {
+void cmdStart_Click(Control&) { prcShowFrame(); }
+
+void cmdHelp_Click(Control&) { prcShowHelp(); }
+
+void cmdQuit_Click(Control&) { prcLeave(); }
+
+void Nerodik_Click(Control& box) {
   prcWritePrivateProfileString("Misc", "Nerodik", box.Value == 1 ? "1" : "0");
-}};
-constexpr ControlEvents evtLink{
-    .Click = [](Control&) { DisplayURL(strWebSite, "Velmora"); },
-    .MouseMove = [](Control& link, const Mouse&) { link.MousePointer = Pointer::HandLink; }};
+}
+
+void Label6_Click(Control&) { DisplayURL(strWebSite, "Velmora"); }
+
+void Label6_MouseMove(Control& link, const Mouse&) { link.MousePointer = Pointer::HandLink; }
+
+constexpr ControlEvents evtStart{.Click = cmdStart_Click};
+constexpr ControlEvents evtHelp{.Click = cmdHelp_Click};
+constexpr ControlEvents evtQuit{.Click = cmdQuit_Click};
+constexpr ControlEvents evtNerodik{.Click = Nerodik_Click};
+constexpr ControlEvents evtLink{.Click = Label6_Click, .MouseMove = Label6_MouseMove};
 
 void prcDressTitle(Control& label, Colour colour) {
   label.Face = typTitle;
@@ -111,7 +121,7 @@ void prcPlacePoints() {
   }
 }
 
-void prcLoadPlauk(Window& form) {
+void Form_Load(Window& form) {
   Guarded("Plauk_Form_Load", [&] {
     prcLayOutPlauk();
     At(10);
@@ -135,7 +145,7 @@ void prcLoadPlauk(Window& form) {
   });
 }
 
-void prcPlaukKey(Window&, char chrKey) {
+void Form_KeyPress(Window&, char chrKey) {
   Guarded("Plauk_Form_KeyPress", [&] {
     At(10);
     switch (chrKey) {
@@ -157,8 +167,10 @@ void prcPlaukKey(Window&, char chrKey) {
   });
 }
 
+void Form_CloseAsked(Window&) { prcLeave(); }
+
 constexpr WindowEvents evtPlauk{
-    .Load = prcLoadPlauk, .CloseAsked = [](Window&) { prcLeave(); }, .KeyPress = prcPlaukKey};
+    .Load = Form_Load, .CloseAsked = Form_CloseAsked, .KeyPress = Form_KeyPress};
 
 }  // namespace
 

@@ -24,7 +24,6 @@ struct Switch {
   const char* Button;
   const char* Section;
   const char* Key;
-  const char* Routine;                   ///< Its label.
   bool* Flag = nullptr;                  ///< None where the check mark itself is the flag.
   void (*Effect)(bool blnOn) = nullptr;  ///< What changes at once, beyond what others read.
   void (*StartsOn)() = nullptr;          ///< What it does when it comes up on from the file.
@@ -50,32 +49,27 @@ constexpr std::array switches{
            .Button = "Learn",
            .Section = "File",
            .Key = "Learn",
-           .Routine = "MDIForm1_prcLearn",
            .Flag = &blnLearn,
            .Effect = prcShowLearnPanels},
     Switch{.Entry = MDIForm1.mnuCardFaceUpDown,
            .Button = "CardFaceUp",
            .Section = "Card Options",
            .Key = "Card Face Up",
-           .Routine = "MDIForm1_prcCardFaceUpDown",
            .Flag = &blnCardFaceUp},
     Switch{.Entry = MDIForm1.mnuShowCardValues,
            .Button = "CardValues",
            .Section = "Card Options",
            .Key = "Show Card Values",
-           .Routine = "MDIForm1_prcShowCardValues",
            .Flag = &blnShowCardValues},
     Switch{.Entry = MDIForm1.mnuShowCardsDealt,
            .Button = "CardsDealt",
            .Section = "Card Options",
            .Key = "Show Cards Dealt",
-           .Routine = "MDIForm1_prcShowCardsDealt",
            .Effect = prcCardsDealtShown},
     Switch{.Entry = MDIForm1.mnuShowCardsDealtCount,
            .Button = "CardsDealtCount",
            .Section = "Card Options",
            .Key = "Show Cards Dealt Count",
-           .Routine = "MDIForm1_prcShowCardsDealtCount",
            .Flag = &blnShowCardsDealtCount,
            .Effect = prcCountShown,
            .StartsOn = LoadlstCardsDealtCount},
@@ -83,57 +77,55 @@ constexpr std::array switches{
            .Button = "ShowScore",
            .Section = "Marking Options",
            .Key = "Show Score",
-           .Routine = "MDIForm1_prcShowScore",
            .Flag = &blnShowScore},
     Switch{.Entry = MDIForm1.mnuShowNaturals,
            .Button = "ShowNaturals",
            .Section = "Marking Options",
            .Key = "Show Naturals",
-           .Routine = "MDIForm1_prcShowNaturals",
            .Flag = &blnShowNaturals},
     Switch{.Entry = MDIForm1.mnuPlayerBlue,
            .Button = "PlayerBlue",
            .Section = "Player Blue",
            .Key = "PlayerBlue",
-           .Routine = "MDIForm1_prcPlayerBlue",
            .Flag = &blnPlayerBlue,
            .blnWarns = true},
     Switch{.Entry = MDIForm1.mnuDealDelay,
            .Button = "Delay",
            .Section = "Deal",
            .Key = "Delay",
-           .Routine = "MDIForm1_prcDelay",
            .Flag = &blnDealDelay,
            .Read = Turn::Last},
     Switch{.Entry = MDIForm1.mnuDealAnimation,
            .Button = "Animation",
            .Section = "Deal",
            .Key = "Animation",
-           .Routine = "MDIForm1_prcAnimation",
            .Flag = &blnDealAnimation,
            .Read = Turn::Last},
 };
 
-/// The routine of a switch. Returns whether the change went through.
-bool fncTurn(const Switch& row) {
-  return Guarded(row.Routine, [&] {
-    if (row.blnWarns && !fncChangeWanted()) {
-      return false;
+/// The routine of the switch that has this menu entry. A click on the toolbar has already moved the
+/// button, one on the menu has not: in the end it shows what the entry does.
+void prcTurn(Control& entry, const char* label) {
+  const auto* const row =
+      std::ranges::find_if(switches, [&](const Switch& other) { return &other.Entry == &entry; });
+  Guarded(label, [&] {
+    if (!row->blnWarns || fncChangeWanted()) {
+      At(10);
+      prcInvert(entry);
+      const bool blnOn = entry.Value == 1;
+      At(20);
+      prcWriteSwitch(row->Section, row->Key, blnOn);
+      At(30);
+      if (row->Flag != nullptr) {
+        *row->Flag = !*row->Flag;
+      }
+      At(40);
+      if (row->Effect != nullptr) {
+        row->Effect(blnOn);
+      }
     }
-    At(10);
-    prcInvert(row.Entry);
-    const bool blnOn = row.Entry.Value == 1;
-    At(20);
-    prcWriteSwitch(row.Section, row.Key, blnOn);
-    At(30);
-    if (row.Flag != nullptr) {
-      *row.Flag = !*row.Flag;
-    }
-    At(40);
-    if (row.Effect != nullptr) {
-      row.Effect(blnOn);
-    }
-    return true;
+    At(50);
+    prcSetButton(row->Button, entry.Value == 1 ? 1 : 0);
   });
 }
 
@@ -158,21 +150,18 @@ void prcReadSwitches(Turn turn) {
 
 void prcInvert(Control& entry) { entry.Value = entry.Value == 1 ? 0 : 1; }
 
-void prcSwitchButton(Control& button) {
-  const auto* const row = std::ranges::find(switches, std::string(button.Name), &Switch::Button);
-  if (!fncTurn(*row)) {
-    prcMoveButton(row->Button);
-  }
+void prcLearn() { prcTurn(MDIForm1.mnuLearn, "MDIForm1_prcLearn"); }
+void prcCardFaceUpDown() { prcTurn(MDIForm1.mnuCardFaceUpDown, "MDIForm1_prcCardFaceUpDown"); }
+void prcShowCardValues() { prcTurn(MDIForm1.mnuShowCardValues, "MDIForm1_prcShowCardValues"); }
+void prcShowCardsDealt() { prcTurn(MDIForm1.mnuShowCardsDealt, "MDIForm1_prcShowCardsDealt"); }
+void prcShowCardsDealtCount() {
+  prcTurn(MDIForm1.mnuShowCardsDealtCount, "MDIForm1_prcShowCardsDealtCount");
 }
-
-void prcSwitchEntry(Control& entry) {
-  const auto* const row =
-      std::ranges::find_if(switches, [&](const Switch& other) { return &other.Entry == &entry; });
-  if (fncTurn(*row)) {
-    At(20);
-    prcMoveButton(row->Button);
-  }
-}
+void prcShowScore() { prcTurn(MDIForm1.mnuShowScore, "MDIForm1_prcShowScore"); }
+void prcShowNaturals() { prcTurn(MDIForm1.mnuShowNaturals, "MDIForm1_prcShowNaturals"); }
+void prcPlayerBlue() { prcTurn(MDIForm1.mnuPlayerBlue, "MDIForm1_prcPlayerBlue"); }
+void prcDelay() { prcTurn(MDIForm1.mnuDealDelay, "MDIForm1_prcDelay"); }
+void prcAnimation() { prcTurn(MDIForm1.mnuDealAnimation, "MDIForm1_prcAnimation"); }
 
 bool fncChangeWanted() {
   if (!blnShuffled[intShoeNumber] || blnEndOfShoe[intShoeNumber]) {

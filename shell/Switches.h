@@ -5,12 +5,21 @@
 // The user's switches. Each has four faces that stay in step: the menu entry's check mark, the
 // toolbar button, the key in the settings file and a flag in memory.
 
-/// A click on the button of a switch has moved the button: the other three faces follow. Where the
-/// user takes the change back in the warning, the button moves back.
-void prcSwitchButton(Control& button);
+/// The routines of the switches, for the click of a menu entry and of a toolbar button alike: each
+/// turns over the entry's check mark, stores it, follows it with flag and button, and does what the
+/// switch changes at once.
+void prcLearn();
+void prcCardFaceUpDown();
+void prcShowCardValues();
+void prcShowCardsDealt();
+void prcShowCardsDealtCount();
+void prcShowScore();
+void prcShowNaturals();
+void prcDelay();
+void prcAnimation();
 
-/// A click on the menu entry of a switch: entry, key and flag change, then the button follows.
-void prcSwitchEntry(Control& entry);
+/// The same for Player Blue, which asks first while a shoe is in play; taken back, nothing changes.
+void prcPlayerBlue();
 
 /// Asks whether a change that acts from the next shoe on is wanted, if a shoe is in play. True goes
 /// on with it.

@@ -23,53 +23,56 @@ struct ToolRow {
   const char* Caption;
   bool blnCaptionWhenSmall;
   const char* ToolTip;
-  void (*Click)(Control& button);
+  void (*Routine)();
 };
 
-constexpr void (*prcReveal)(Control&) = [](Control&) { prcSetRevealIcons(); };
 constexpr ToolRow rowSeparator{"Separator", ButtonStyle::Separator, 0, "", true, "", nullptr};
 
 constexpr std::array<ToolRow, intToolButtons> toolRows{{
     {"Learn", ButtonStyle::Check, 1, "Learn", true, "Learn which cards are required to WIN",
-     prcSwitchButton},
+     prcLearn},
     rowSeparator,
     {"CardFaceUp", ButtonStyle::Check, 2, "Card Face Up", true, "Cards dealt face up if pressed",
-     prcSwitchButton},
+     prcCardFaceUpDown},
     {"CardValues", ButtonStyle::Check, 3, "", true, "Card values shown when revealing card face",
-     prcSwitchButton},
+     prcShowCardValues},
     {"CardsDealt", ButtonStyle::Check, 4, "Cards Dealt List", false, "Show list of all cards dealt",
-     prcSwitchButton},
+     prcShowCardsDealt},
     {"CardsDealtCount", ButtonStyle::Check, 5, "Cards Dealt Count", false,
-     "Show count of all cards dealt", prcSwitchButton},
+     "Show count of all cards dealt", prcShowCardsDealtCount},
     rowSeparator,
     {"ShowScore", ButtonStyle::Check, 6, "", true, "Show Score when pressed otherwise units bet",
-     prcSwitchButton},
+     prcShowScore},
     {"ShowNaturals", ButtonStyle::Check, 7, "", true, "Show Naturals as ovals on mark card",
-     prcSwitchButton},
+     prcShowNaturals},
     {"PlayerBlue", ButtonStyle::Check, 8, "", true, "Player is blue when pressed down",
-     prcSwitchButton},
+     prcPlayerBlue},
     rowSeparator,
-    {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe", prcSizeButton},
-    {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe", prcSizeButton},
-    {"Decks4", ButtonStyle::Group, 11, "", true, "4 Decks of cards per shoe", prcSizeButton},
-    {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe", prcSizeButton},
-    {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe", prcSizeButton},
+    {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe",
+     [] { prcSizeButton(1); }},
+    {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe",
+     [] { prcSizeButton(2); }},
+    {"Decks4", ButtonStyle::Group, 11, "", true, "4 Decks of cards per shoe",
+     [] { prcSizeButton(4); }},
+    {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe",
+     [] { prcSizeButton(6); }},
+    {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe",
+     [] { prcSizeButton(8); }},
     rowSeparator,
     {"Delay", ButtonStyle::Check, 14, "", true, "Delay between showing cards when face up",
-     prcSwitchButton},
-    {"Animation", ButtonStyle::Check, 15, "", true, "Animation", prcSwitchButton},
+     prcDelay},
+    {"Animation", ButtonStyle::Check, 15, "", true, "Animation", prcAnimation},
     rowSeparator,
-    {"RevealArrows", ButtonStyle::Group, 16, "", true, "Use arrows to reveal cards", prcReveal},
-    {"RevealHands", ButtonStyle::Group, 17, "", true, "Use hands to reveal cards", prcReveal},
+    {"RevealArrows", ButtonStyle::Group, 16, "", true, "Use arrows to reveal cards",
+     prcSetRevealIcons},
+    {"RevealHands", ButtonStyle::Group, 17, "", true, "Use hands to reveal cards",
+     prcSetRevealIcons},
     rowSeparator,
-    {"Statistics", ButtonStyle::Check, 18, "", true, "Show Player Statistics",
-     [](Control&) { prcStatistics(); }},
+    {"Statistics", ButtonStyle::Check, 18, "", true, "Show Player Statistics", prcStatistics},
     rowSeparator,
-    {"SelectaShoe", ButtonStyle::Check, 21, "", true, "Select a shoe to play",
-     [](Control&) { prcSelectaShoe(); }},
+    {"SelectaShoe", ButtonStyle::Check, 21, "", true, "Select a shoe to play", prcSelectaShoe},
     rowSeparator,
-    {"Options", ButtonStyle::Check, 20, "", true, "General Options",
-     [](Control&) { prcOptions(); }},
+    {"Options", ButtonStyle::Check, 20, "", true, "General Options", prcOptions},
 }};
 
 const ToolRow& fncRow(const std::string& key) {
@@ -86,12 +89,17 @@ Table<Control, intToolButtons>& fncButtons(const Control& toolbar) {
   return &toolbar == &MDIForm1.tlbrMDIForm2 ? MDIForm1.tlbrButtons2 : MDIForm1.tlbrButtons1;
 }
 
-constexpr ControlEvents evtToolButton{.Click = [](Control& button) {
+void tlbrMDIForm1_ButtonClick(Control& button) {
   Guarded("MDIForm1_tlbrMDIForm1_ButtonClick", [&] {
     At(10);
-    fncRow(button.Name).Click(button);
+    fncRow(button.Name).Routine();
   });
-}};
+}
+
+void tlbrMDIForm2_ButtonClick(Control& button) { tlbrMDIForm1_ButtonClick(button); }
+
+constexpr ControlEvents evtLargeButton{.Click = tlbrMDIForm1_ButtonClick};
+constexpr ControlEvents evtSmallButton{.Click = tlbrMDIForm2_ButtonClick};
 
 /// The group of a button runs from separator to separator.
 void prcReleaseGroup(Control& button) {
@@ -123,7 +131,9 @@ void prcLayOutToolbar(Control& toolbar, const char* name, double top, double hei
     buttons[i].Container = &toolbar;
     buttons[i].Style = row.Style;
     buttons[i].Picture = row.Image == 0 ? 0 : picToolbar + row.Image;
-    buttons[i].On = row.Style == ButtonStyle::Separator ? &evtNone : &evtToolButton;
+    buttons[i].On = row.Style == ButtonStyle::Separator ? &evtNone
+                    : blnLarge                          ? &evtLargeButton
+                                                        : &evtSmallButton;
   }
 }
 

@@ -112,11 +112,13 @@ void prcLayOutMarkCards(Window& form) {
   }
 }
 
-constexpr WindowEvents evtKaNori{.Load = [](Window& form) {
+void Form_Load(Window& form) {
   prcLayOut(form, {});
   prcLayOutBackground(form);
   prcLayOutMarkCards(form);
-}};
+}
+
+constexpr WindowEvents evtKaNori{.Load = Form_Load};
 
 }  // namespace
 

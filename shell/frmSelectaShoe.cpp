@@ -11,7 +11,7 @@ namespace {
 constexpr std::array<const char*, intShoes> strNumbers{"1", "2", "3", "4", "5", "6", "7", "8", "9"};
 constexpr int intShoesInRow = 3;
 
-void prcLayOutSelectaShoe(Window& form) {
+void Form_Load(Window& form) {
   SelectaShoeWindow& w = frmSelectaShoe;
   prcLayOut(form, {});
   for (int i = 0; i < intShoes; ++i) {
@@ -42,7 +42,7 @@ void prcLayOutSelectaShoe(Window& form) {
   w.sldAutoDeal.Max = w.sldAutoDeal.Value = 30;
 }
 
-constexpr WindowEvents evtSelectaShoe{.Load = prcLayOutSelectaShoe};
+constexpr WindowEvents evtSelectaShoe{.Load = Form_Load};
 
 }  // namespace
 

@@ -115,15 +115,18 @@ void Form_CloseAsked(Window&) {
                      "Velmora");
     return;
   }
-  prcCloseFrame();
+  MDIForm1_Unload();
 }
 
-constexpr WindowEvents evtBaccTable{
-    .Load = Form_Load,
-    .Unload = Form_Unload,
-    .CloseAsked = Form_CloseAsked,
-    .KeyDown = [](Window&, const std::string& strKey, int) { prcRevealKey(strKey); },
-    .MouseMove = [](Window&, const Mouse&) { BaccTable_MouseMove(); }};
+void Form_KeyDown(Window&, const std::string& strKey, int /*intShift*/) { prcRevealKey(strKey); }
+
+void Form_MouseMove(Window&, const Mouse&) { BaccTable_MouseMove(); }
+
+constexpr WindowEvents evtBaccTable{.Load = Form_Load,
+                                    .Unload = Form_Unload,
+                                    .CloseAsked = Form_CloseAsked,
+                                    .KeyDown = Form_KeyDown,
+                                    .MouseMove = Form_MouseMove};
 
 }  // namespace
 

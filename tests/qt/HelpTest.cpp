@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
+#include <set>
 
+#include "platform/qt/looks/Scale.h"
 #include "platform/qt/machine/HelpWindow.h"
 #include "tests/conformance/Adapter.h"
 
@@ -33,6 +36,27 @@ TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
   EXPECT_EQ(fncShown(), help);
   EXPECT_TRUE(user::Boxes().empty());
   delete help;
+}
+
+TEST(Help, PicturesAreSmoothAtEveryScale) {
+  const double before = qt::fncScale();
+  for (const double scale : {1.0, 1.5}) {
+    qt::prcSetScale(scale);
+    user::Reset();
+    platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
+    qt::HelpPages& pages = fncShown()->fncPages();
+    const QUrl table(QStringLiteral("pictures/table.png"));
+    const auto shown = pages.loadResource(QTextDocument::ImageResource, table).value<QImage>();
+    std::set<QRgb> colours;
+    for (int y = 0; y < shown.height(); ++y) {
+      for (int x = 0; x < shown.width(); ++x) {
+        colours.insert(shown.pixel(x, y));
+      }
+    }
+    EXPECT_GT(colours.size(), 2000U) << "colours of a palette, dithered, at scale " << scale;
+    delete fncShown();
+  }
+  qt::prcSetScale(before);
 }
 
 TEST(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {

@@ -28,7 +28,7 @@ namespace {
 
 struct Felt {
   Window Form;
-  Control picGround, pctBack, pctFace, lblBottom, lblOver;
+  Control picGround, pctBack, pctFace, lblBottom, lblOver, shpMat;
 };
 Felt felt;
 
@@ -50,6 +50,7 @@ const Place plcFelt[] = {
     {&felt.lblBottom, "lblCardBottom", 0, ControlKind::Label, 1500, 2940, 1065, 135, "",
      "To reveal card"},
     {&felt.lblOver, "lblOver", -1, ControlKind::Label, 3000, 300, 2000, 300, "WIN"},
+    {&felt.shpMat, "shpCardDealBG", 0, ControlKind::Shape, 3000, 900, 2505, 3165},
 };
 
 class Looks : public testing::Test {
@@ -123,6 +124,18 @@ TEST_F(Looks, APullIsPaintedWithinItsMove) {
   EXPECT_EQ(real::Widget(felt.pctBack).height(), qt::fncPixels(840));
   EXPECT_EQ(face.intPaints, 1) << "both repaints are one";
   user::Release(felt.lblBottom, 150, -600);
+}
+
+TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {
+  for (const Colour& colour : {Colour{0, 0, 255}, Colour{255, 64, 64}}) {
+    felt.shpMat.Dress = Look::Mat;
+    felt.shpMat.FillColor = colour;
+    user::Settle();
+    const QRect inside = qt::fncPixelRect(3000, 900, 2505, 3165).adjusted(6, 6, -6, -6);
+    QImage plain(inside.size(), QImage::Format_RGB32);
+    plain.fill(QColor(colour.Red, colour.Green, colour.Blue));
+    EXPECT_EQ(fncShot().copy(inside), plain);
+  }
 }
 
 TEST_F(Looks, NamesTipsAndCursors) {

@@ -342,12 +342,12 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       {"put", Put},
       {"country",
        [](Words& w) {
-         const bool blnEuro = fncNext<std::string>(w) == "euro";
-         prcSetCurrency({.strSymbol = blnEuro ? "€" : "$",
-                         .strThousands = blnEuro ? "." : ",",
-                         .blnSymbolFirst = !blnEuro,
-                         .blnSpaced = blnEuro,
-                         .blnParentheses = !blnEuro});
+         CurrencyStyle country;
+         country.Negative.intSignPlace = 0;
+         if (fncNext<std::string>(w) == "euro") {
+           country = {"€", ".", "\3", {false, 1, 1, ""}, {false, 1, 1, "-"}};
+         }
+         prcSetCurrency(country);
        }},
       {"browser", [](Words& w) { headless::OpenAddressReturns(fncNext<int>(w)); }},
       {"other", [](Words&) { headless::OtherInstanceRuns(true); }},

@@ -49,11 +49,6 @@ std::string HelpFolder() {
   return QDir::toNativeSeparators(blnInstalled ? shared : own).toStdString();
 }
 
-bool FileExists(const std::string& path) {
-  const QFileInfo file(QString::fromStdString(path));
-  return file.isFile() && file.isReadable();
-}
-
 int OpenAddress(const std::string& address) {
   const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
   if (!url.isValid() || url.scheme().isEmpty()) {

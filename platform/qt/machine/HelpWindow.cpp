@@ -47,12 +47,14 @@ QString fncSpaces() {
       .arg(fncScaled(3));
 }
 
-/// A picture of a page, at the program's scale but no wider than the room it has.
+/// A picture of a page, at the program's scale but no wider than the room it has. It comes with a
+/// palette, which would leave nothing to a smooth scaling but to dither.
 QImage fncFittedPicture(const QImage& picture, int room, double ratio) {
   const double width = picture.width() / dblPictureScale * fncScale();
   const double wanted = std::clamp(width, 1.0, std::max(1.0, double(room)));
-  QImage fitted = picture.scaledToWidth(static_cast<int>(std::lround(wanted * ratio)),
-                                        Qt::SmoothTransformation);
+  QImage fitted =
+      picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+          .scaledToWidth(static_cast<int>(std::lround(wanted * ratio)), Qt::SmoothTransformation);
   fitted.setDevicePixelRatio(ratio);
   return fitted;
 }

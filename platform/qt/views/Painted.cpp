@@ -3,7 +3,6 @@
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QRadialGradient>
 #include <algorithm>
 #include <cmath>
 
@@ -117,21 +116,14 @@ void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& r
   prcDrawPicture(painter, control, rect);
 }
 
-/// The fill of a shape. A mat is its colour as cloth under a lamp: full in the middle, deep towards
-/// the edge.
-QBrush fncFill(const Control& control, const QRect& rect) {
-  if (control.FillColor.Clear) {
-    return Qt::NoBrush;
+/// The outline of a shape. A mat, which has none of its own, is deeper at its rim.
+QPen fncOutline(const Control& control) {
+  if (control.Dress == Look::Mat) {
+    return {fncColour(control.FillColor).darker(150), double(fncScaled(3))};
   }
-  const QColor colour = fncColour(control.FillColor);
-  if (control.Dress != Look::Mat) {
-    return colour;
-  }
-  QRadialGradient cloth(QRectF(rect).center(), std::max(rect.width(), rect.height()) * 0.72);
-  cloth.setColorAt(0, colour.darker(135));
-  cloth.setColorAt(0.55, colour.darker(200));
-  cloth.setColorAt(1, colour.darker(330));
-  return cloth;
+  return control.BorderColor.Clear
+             ? QPen(Qt::NoPen)
+             : QPen(fncColour(control.BorderColor), fncScaled(control.BorderWidth));
 }
 
 void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
@@ -141,10 +133,11 @@ void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) 
     painter.drawPixmap(rect.topLeft(), fncShadow(size, painter.device()->devicePixelRatioF()));
     return;
   }
-  const int width = control.BorderColor.Clear ? 0 : fncScaled(control.BorderWidth);
-  painter.setPen(width == 0 ? QPen(Qt::NoPen) : QPen(fncColour(control.BorderColor), width));
-  painter.setBrush(fncFill(control, rect));
-  const double half = width / 2.0;
+  const QPen outline = fncOutline(control);
+  painter.setPen(outline);
+  painter.setBrush(control.FillColor.Clear ? QBrush(Qt::NoBrush)
+                                           : QBrush(fncColour(control.FillColor)));
+  const double half = outline.style() == Qt::NoPen ? 0 : outline.widthF() / 2;
   const QRectF inner = QRectF(rect).adjusted(half, half, -half, -half);
   painter.setRenderHint(QPainter::Antialiasing, control.Form2D != ShapeForm::Rectangle);
   switch (control.Form2D) {
