@@ -134,7 +134,8 @@ bool EditView::fncRefuses(const QString& typed) const {
 }
 
 bool EditView::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride && window() == fncFrameView()->Shell) {
+  const WindowView* frame = fncFrameView();
+  if (event->type() == QEvent::ShortcutOverride && frame != nullptr && window() == frame->Shell) {
     // A box would keep some keys of the frame's menus to itself, such as Ctrl+Z.
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (fncMenuEntryOf(key.key(), key.modifiers()) != nullptr) {
