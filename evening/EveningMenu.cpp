@@ -45,7 +45,7 @@ void prcAdd(Control& entry, const char* name, const char* caption) {
 }  // namespace
 
 void prcLayOutEveningMenu() {
-  prcAdd(mnuEvening, "mnuEvening", "&Evening");
+  prcAdd(mnuEvening, "mnuEvening", "Even&ing");
   for (const EveningRow& row : eveningRows) {
     prcAdd(row.Entry, row.Name, row.Caption);
     row.Entry.Container = &mnuEvening;
