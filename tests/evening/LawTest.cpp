@@ -118,26 +118,27 @@ TEST(Law, OfTenThousandEvenBetsIsTheBinomialOne) {
   }
 }
 
-TEST(Luck, OfTwoHandsByHand) {
-  // Seat 0 wins 5 chips of 10 on the Banker and then loses them; seat 1 wins a Tie bet never.
-  colEveningHands = {fncHand('B', {0, 5, 0}, 10, 8, {1, 0, 0}), fncHand('P', {0, 5, 0}, 10, 8)};
-  const Luck seat = fncLuck({.Seat = 0});
-  const double b = 0.458597, p = 0.446247, t = 0.095156;
-  EXPECT_EQ(seat.Hands, 2);
-  EXPECT_EQ(seat.Staked[betBanker], 100);
-  EXPECT_NEAR(seat.Cost[betBanker], 100 * 0.010579, 1e-4);
-  EXPECT_DOUBLE_EQ(seat.Won, -2.5);
-  EXPECT_NEAR(seat.Expected, -1.0579, 1e-4);
-  EXPECT_NEAR(seat.Deviation, std::sqrt(2 * (b * 47.5 * 47.5 + p * 2500 - 0.52895 * 0.52895)),
-              1e-3);
-  EXPECT_NEAR(seat.Deviations, (-2.5 + 1.0579) / seat.Deviation, 1e-5);
-  // Less than -2.5: two losses, or a loss and a tie. More: any win without a loss.
-  EXPECT_NEAR(seat.Worse, p * p + 2 * p * t, 2e-6);
-  EXPECT_NEAR(seat.Better, b * b + 2 * b * t + t * t, 2e-6);
-  EXPECT_EQ(seat.Error, 0);
+TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
+  // Seat 0 bets $100 on the Banker of three hands, seat 1 a chip on the first tie.
+  colEveningHands = {fncHand('B', {0, 10, 0}, 10, 8, {1, 0, 0}), fncHand('P', {0, 10, 0}),
+                     fncHand('B', {0, 10, 0})};
+  const Luck luck = fncLuck({.Seat = 0});
+  EXPECT_EQ(luck.Hands, 3);
+  EXPECT_EQ(luck.Staked[betBanker], 300);
+  EXPECT_NEAR(luck.Cost[betBanker], 3.17, 0.005);
+  EXPECT_DOUBLE_EQ(luck.Won, 90);
+  EXPECT_NEAR(luck.Expected, -3.17, 0.005);
+  EXPECT_NEAR(luck.Fortune, 93.17, 0.005);
+  EXPECT_NEAR(luck.Deviation, 160.63, 0.005);
+  EXPECT_NEAR(luck.Deviations, 0.58, 0.005);
+  EXPECT_NEAR(luck.Worse, 0.549505, 1e-6);
+  EXPECT_NEAR(luck.Better,
+              0.458597 * 0.458597 * (0.458597 + 3 * 0.095156) + 3 * 0.458597 * 0.095156 * 0.095156,
+              2e-6);
+  EXPECT_EQ(luck.Error, 0);
   EXPECT_EQ(fncLuck({.Seat = 1}).Hands, 1);
   EXPECT_EQ(fncLuck({.Seat = 1}).Won, -10);
-  EXPECT_EQ(fncLuck({}).Won, -12.5);
+  EXPECT_EQ(fncLuck({}).Won, 80);
   EXPECT_EQ(fncLuck({.Seat = -1, .Shoe = 2}).Hands, 0);
   colEveningHands.clear();
 }
