@@ -55,10 +55,10 @@ TEST_F(EveningBets, AreRepeatedAsOfTheLastHandWithABet) {
   Bet(betPlayer, 1, "3");
   DealResult("P");
   EXPECT_EQ(Table(), "0/0/0 $930, 0/0/3 $1,000");
-  Bet(betPlayer, 0, "7");  // Goes for the Banker bet of the last hand.
+  Bet(betPlayer, 0, "93");  // All of the money, which the bets of the last hand need.
   Repeat();
   Repeat();
-  EXPECT_EQ(AllTakenBack(), (Steps{"2/5/0 $860, 0/0/3 $1,000", "0/0/7 $860, 0/0/3 $1,000",
+  EXPECT_EQ(AllTakenBack(), (Steps{"2/5/0 $860, 0/0/3 $1,000", "0/0/93 $0, 0/0/3 $1,000",
                                    "0/0/0 $930, 0/0/3 $1,000"}));
   Deal();  // Seat 0 sits out.
   Repeat();
