@@ -5,6 +5,7 @@
 
 #include "marking/MarkCard.h"
 #include "marking/MarkState.h"
+#include "platform/Places.h"
 #include "platform/Procedure.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
@@ -53,6 +54,7 @@ void prcPlaceForm(Window& form) {
   form.Height = std::min(MDIForm1.Form.Height - form.Top - dblBelowCard, dblMostHeight);
   At(50);
   form.Left = (MDIForm1.Form.Width - form.Width) / 2 - dblLeftShift;
+  prcMendPlace(form);
 }
 
 /// Rules every third row below the headings, so that the eye finds its row.
@@ -234,10 +236,7 @@ void prcShuffleOwnShoe(MarkCardWindow& form, const Integer& shoe) {
 }  // namespace
 
 void prcBelowTable(Window& form) {
-  // A table without a stored size comes up as large as it is designed.
-  const Window& table = BaccTable.Form;
-  const double bottom = table.Top + std::max(table.Height, table.MinHeight);
-  form.Top = std::max(form.Top, bottom);
+  form.Top = std::max(form.Top, BaccTable.Form.Top + BaccTable.Form.Height);
 }
 
 void prcPrepareMarkCard(MarkCardWindow& form) {

@@ -171,7 +171,7 @@ CurrencyStyle fncCurrencyOf(const std::lconv& country) {
 CurrencyStyle fncSystemCurrency() {
   const std::string before = std::setlocale(LC_MONETARY, nullptr);
   const bool blnKnown = std::setlocale(LC_MONETARY, "") != nullptr;
-  const CurrencyStyle style = blnKnown ? fncCurrencyOf(*std::localeconv()) : CurrencyStyle{};
+  CurrencyStyle style = blnKnown ? fncCurrencyOf(*std::localeconv()) : CurrencyStyle{};
   std::setlocale(LC_MONETARY, before.c_str());
   return style;
 }

@@ -63,23 +63,31 @@ void prcTurnOver(Control& control) {
   }
 }
 
-/// Runs the check of the box that has the focus although the focus stays: what is clicked takes
-/// none.
-bool fncCheckFocused(Window& window, const Control& clicked) {
-  Control* active = window.ActiveControl;
-  if (active == nullptr || active == &clicked || active->On->Validate == nullptr ||
-      !fncTakesFocus(*active)) {
-    return true;
+/// The next control in Tab order behind the focused one, or before it; none if the window has no
+/// stop.
+Control* fncNextStop(const Window& window, bool blnBackwards) {
+  std::vector<Control*> stops;
+  for (Control* control : window.Controls) {
+    if (control->TabStop && fncTakesFocus(*control) && fncSeen(*control) && fncUsable(*control)) {
+      stops.push_back(control);
+    }
   }
-  bool blnCancel = false;
-  active->On->Validate(*active, blnCancel);
-  return !blnCancel;
+  if (stops.empty()) {
+    return nullptr;
+  }
+  const auto at = std::ranges::find(stops, window.ActiveControl);
+  if (at == stops.end()) {
+    return blnBackwards ? stops.back() : stops.front();
+  }
+  const auto place = static_cast<std::size_t>(at - stops.begin());
+  return stops[(place + (blnBackwards ? stops.size() - 1 : 1)) % stops.size()];
 }
 
-/// Whether the box that has the focus lets a control be clicked; the focus moves there if the
-/// control takes it.
-bool fncFocusAllows(Control& control) {
-  return fncTakesFocus(control) ? fncSetFocus(control) : fncCheckFocused(*control.Form, control);
+void prcClicked(Control& control) {
+  prcTurnOver(control);
+  if (control.On->Click != nullptr) {
+    control.On->Click(control);
+  }
 }
 
 }  // namespace
@@ -111,11 +119,14 @@ bool fncUsable(const Control& control) {
   return true;
 }
 
+bool fncUserReach(Control& control) {
+  const auto open = [&] { return fncSeen(control) && fncUsable(control); };
+  return open() && (fncTakesFocus(control) ? fncSetFocus(control) : fncCheckFocus(*control.Form)) &&
+         open();
+}
+
 bool fncUserPress(Control& control, const Mouse& mouse) {
-  if (!fncSeen(control) || !fncUsable(control)) {
-    return false;
-  }
-  if (!fncFocusAllows(control) || !fncSeen(control) || !fncUsable(control)) {
+  if (!fncUserReach(control)) {
     return false;
   }
   if (control.On->MouseDown != nullptr) {
@@ -136,31 +147,38 @@ void prcUserRelease(Control& control, const Mouse& mouse, bool blnInside) {
   }
   // Keys may have gone to a box while the button was held: what they typed is checked before the
   // click acts on it.
-  if (blnInside && fncClicksWith(control, mouse.Button) && fncFocusAllows(control)) {
-    prcUserClick(control);
+  if (blnInside && fncClicksWith(control, mouse.Button) && fncUserReach(control)) {
+    prcClicked(control);
   }
 }
 
 void prcUserClick(Control& control) {
-  if (!fncSeen(control) || !fncUsable(control)) {
-    return;
-  }
-  prcTurnOver(control);
-  if (control.On->Click != nullptr) {
-    control.On->Click(control);
+  if (fncUserPress(control, {intLeftButton})) {
+    prcUserRelease(control, {intLeftButton}, true);
   }
 }
 
 void prcUserText(Control& box, std::string_view text) {
+  if (!fncUserReach(box)) {
+    return;
+  }
   box.Text = box.Kind == ControlKind::MaskedEdit ? fncMasked(box, text) : std::string(text);
+  box.SelLength = 0;  // What was selected has been typed over.
   if (box.On->Change != nullptr) {
     box.On->Change(box);
   }
 }
 
-void prcUserValue(Control& control, double value) { prcSetValue(control, value); }
+void prcUserValue(Control& control, double value) {
+  if (fncUserReach(control)) {
+    prcSetValue(control, value);
+  }
+}
 
 void prcUserClose(Window& window) {
+  if (!fncCheckFocus(window)) {
+    return;
+  }
   if (window.On->CloseAsked != nullptr) {
     window.On->CloseAsked(window);
   } else {
@@ -168,20 +186,11 @@ void prcUserClose(Window& window) {
   }
 }
 
-Control* fncNextStop(const Window& window, bool blnBackwards) {
-  std::vector<Control*> stops;
-  for (Control* control : window.Controls) {
-    if (control->TabStop && fncTakesFocus(*control) && fncSeen(*control) && fncUsable(*control)) {
-      stops.push_back(control);
-    }
+bool fncUserTab(Window& window, bool blnBackwards) {
+  Control* next = fncNextStop(window, blnBackwards);
+  const bool blnMoved = next != nullptr && fncSetFocus(*next);
+  if (window.On->KeyDown != nullptr) {
+    window.On->KeyDown(window, "Tab", blnBackwards ? intShiftMask : 0);
   }
-  if (stops.empty()) {
-    return nullptr;
-  }
-  const auto at = std::ranges::find(stops, window.ActiveControl);
-  if (at == stops.end()) {
-    return blnBackwards ? stops.back() : stops.front();
-  }
-  const auto place = static_cast<std::size_t>(at - stops.begin());
-  return stops[(place + (blnBackwards ? stops.size() - 1 : 1)) % stops.size()];
+  return blnMoved;
 }

@@ -6,15 +6,20 @@
 
 #include "platform/Window.h"
 
-// What the user does, told to the model in one way for every platform: the value is written into
-// the control, then the handlers run, with the rules of focus that all windows share.
+// What the user does, told to the model in one way for every platform. Whatever reaches a control,
+// by mouse, key or assistive tool, comes by the same road: the control must be there to be used,
+// the box that has the focus in its window is checked, the focus moves if the control takes it, a
+// refusal voids all that would follow, and only then values change and handlers run.
 
 /// Runs one event's handlers. A fault that no procedure has told is told here; the end of the
 /// program stops here.
 void prcDispatch(const std::function<void()>& handlers);
 
-/// A button goes down on a control. The box that has the focus is checked first, and the focus
-/// moves if the control takes it. Returns whether the press stands; if not, nothing of the click
+/// The road itself: a set-focus from outside, and the beginning of everything else. Returns whether
+/// the control may be used; if not, nothing more may follow.
+bool fncUserReach(Control& control);
+
+/// A button goes down on a control. Returns whether the press stands; if not, nothing of the click
 /// may follow.
 bool fncUserPress(Control& control, const Mouse& mouse);
 
@@ -22,21 +27,22 @@ bool fncUserPress(Control& control, const Mouse& mouse);
 void prcUserMove(Control& control, const Mouse& mouse);
 
 /// The button of a press comes up; blnInside says that it does over the control, which makes it a
-/// click.
+/// click: a check box or check button turns over, an option or group button goes down and its
+/// fellows come up, and the Click handler runs.
 void prcUserRelease(Control& control, const Mouse& mouse, bool blnInside);
 
-/// A click as such, by mouse, key or screen reader: a check box or check button turns over, an
-/// option or group button goes down and its fellows come up, and the Click handler runs. A hidden
-/// or disabled control is left alone.
+/// A whole click without a mouse, by key, menu or assistive tool: that of the left button.
 void prcUserClick(Control& control);
 
-/// The text of a box as the user has left it; what its mask does not admit is dropped.
+/// The text of a box as the user has left it, typed, pasted or set by an assistive tool; what its
+/// mask does not admit is dropped.
 void prcUserText(Control& box, std::string_view text);
 
 /// A scroll bar or slider is moved to a value.
 void prcUserValue(Control& control, double value);
 
-/// The user or the system asks a window to close.
+/// The user or the system asks a window to close, which leaves the box that has its focus: a
+/// refusal keeps the window.
 void prcUserClose(Window& window);
 
 /// Whether a control and all that holds it, its window too, is visible.
@@ -45,6 +51,6 @@ bool fncSeen(const Control& control);
 /// Whether a control and all that holds it is enabled.
 bool fncUsable(const Control& control);
 
-/// The next control in Tab order behind the focused one, or before it; none if the window has no
-/// stop.
-Control* fncNextStop(const Window& window, bool blnBackwards);
+/// The Tab key: the focus goes to the next control in the order of the stack behind the focused
+/// one, or before it. Returns whether it got there.
+bool fncUserTab(Window& window, bool blnBackwards);

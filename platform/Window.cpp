@@ -18,23 +18,6 @@ bool fncHasCheckedValue(ControlKind kind) {
   return kind == ControlKind::CheckBox || kind == ControlKind::OptionButton;
 }
 
-/// Whether the window's active control lets the focus go: its check may refuse.
-bool fncReleaseFocus(Window& window) {
-  Control* active = window.ActiveControl;
-  if (active == nullptr || !fncTakesFocus(*active)) {
-    window.ActiveControl = nullptr;
-    return true;
-  }
-  if (active->On->Validate != nullptr) {
-    bool blnCancel = false;
-    active->On->Validate(*active, blnCancel);
-    if (blnCancel) {
-      return false;
-    }
-  }
-  return true;
-}
-
 }  // namespace
 
 const std::vector<Window*>& fncWindows() { return wndLoaded; }
@@ -135,6 +118,20 @@ bool fncTakesFocus(const Control& control) {
   }
 }
 
+bool fncCheckFocus(Window& window) {
+  Control* active = window.ActiveControl;
+  if (active == nullptr || active->On->Validate == nullptr || !fncTakesFocus(*active)) {
+    return true;
+  }
+  bool blnCancel = false;
+  active->On->Validate(*active, blnCancel);
+  if (blnCancel) {
+    active->SelLength = static_cast<int>(active->Text.size());
+    ++window.FocusGiven;
+  }
+  return !blnCancel;
+}
+
 bool fncSetFocus(Control& control) {
   Window& window = *control.Form;
   if (!fncTakesFocus(control)) {
@@ -143,7 +140,10 @@ bool fncSetFocus(Control& control) {
   if (window.ActiveControl == &control) {
     return true;
   }
-  if (!fncReleaseFocus(window)) {
+  if (window.ActiveControl != nullptr && !fncTakesFocus(*window.ActiveControl)) {
+    window.ActiveControl = nullptr;
+  }
+  if (!fncCheckFocus(window)) {
     return false;
   }
   // Between the two nobody has the focus: a lost-focus handler that takes it back must not run the
@@ -156,6 +156,7 @@ bool fncSetFocus(Control& control) {
     return false;
   }
   window.ActiveControl = &control;
+  ++window.FocusGiven;
   if (control.On->GotFocus != nullptr) {
     control.On->GotFocus(control);
   }

@@ -26,7 +26,7 @@ struct WindowEvents {
   void (*Activate)(Window&) = nullptr;
   void (*Resize)(Window&) = nullptr;
   /// strKey is "F12" and the like for a named key, or one typed character; intShift is made of the
-  /// mask bits.
+  /// mask bits. "Tab" comes when it has moved the focus.
   void (*KeyDown)(Window&, const std::string& strKey, int intShift) = nullptr;
   /// A printable key, before the focused control gets it.
   void (*KeyPress)(Window&, char chrKey) = nullptr;
@@ -44,8 +44,7 @@ struct Window {
   std::string Caption;
   double Left = 0, Top = 0, Width = 0, Height = 0;
   double ScaleWidth = 0, ScaleHeight = 0;
-  /// Designed size of a child that cannot be resized: the screen gives it no less, and no place out
-  /// of sight.
+  /// Designed size of a child that cannot be resized: a stored one below it is mended.
   double MinWidth = 0, MinHeight = 0;
   bool FixedInner =
       false;  ///< ScaleWidth and ScaleHeight are the given ones; the border comes on top.
@@ -65,6 +64,9 @@ struct Window {
   std::vector<Control*>
       Timers;  ///< Those of them that are timers, so that a turn need not look at all.
   Control* ActiveControl = nullptr;
+  /// Grows whenever a control gets the focus or a refusal keeps it there: a box then has its text
+  /// selected anew.
+  std::uint32_t FocusGiven = 0;
 };
 
 /// The loaded windows, in the order of their loading.
@@ -103,6 +105,10 @@ void prcForgetWindow(Window& window);
 
 /// Brings a window to the front of the window order.
 void prcToFront(Window& window);
+
+/// Runs the check of the box that has the focus, as comes before anything that the user does
+/// elsewhere. Returns whether it lets go; after a refusal its text is selected, to be typed over.
+bool fncCheckFocus(Window& window);
 
 /// Moves the focus within the control's window. The check of the box that has it runs first and may
 /// refuse; its lost-focus handler may take it back. Returns whether the control has the focus

@@ -119,7 +119,9 @@ void pctCardBack_Click(Integer Index) {
   Guarded("Baccarat table pctCardBack_Click", [&] {
     const Integer shoe = intShoeNumber;
     At(10);
-    if (!blnCardClickable[Index]) {
+    // A strip held beyond the turn of its card goes on pulling, and would show the total of two
+    // cards over that of three.
+    if (!blnCardClickable[Index] || !BaccTable.pctCardBack[Index].Visible) {
       return;
     }
     At(20);
@@ -159,6 +161,12 @@ void pctCardBack_MouseMove(Integer Index) {
     At(10);
     prcAdviseOnce(Index);
   });
+}
+
+void prcAdviseChosen(Integer Index) {
+  // As if the mouse had left the card before: its advice must not stay for this one.
+  BaccTable_MouseMove();
+  prcAdviseOnce(Index);
 }
 
 void lblCardBottom_MouseMove(Integer Index, float Y) {

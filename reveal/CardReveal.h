@@ -16,8 +16,12 @@ inline constexpr int intCardHigh = 1440;
 /// Face values from here up have the narrow marks beside a frame, and so the plain patches.
 inline constexpr int intFirstPicture = 11;
 
-/// Turns the card, if it may be turned: patches, back, totals and naturals of its side.
+/// Turns the card, if it may be turned and still lies hidden: patches, back, totals and naturals of
+/// its side.
 void pctCardBack_Click(Integer Index);
+
+/// The advice of a card chosen by key, whatever advice has been shown before.
+void prcAdviseChosen(Integer Index);
 
 /// Gives advice in learn mode, once until the mouse has been over the bare table.
 void pctCardBack_MouseMove(Integer Index);

@@ -1,6 +1,5 @@
 #include "reveal/KeyboardReveal.h"
 
-#include "learn/CardNeed.h"
 #include "reveal/CardReveal.h"
 #include "table/BaccTable.h"
 #include "table/TableState.h"
@@ -38,13 +37,8 @@ int fncNeighbour(int from, int direction) {
 }
 
 void prcChoose(int n) {
-  if (!fncWaits(n) || !fncSetFocus(BaccTable.pctCardBack[n])) {
-    return;
-  }
-  if (blnLearn && BaccTable.blnCardsPlaced) {
-    // As if the mouse had left the card before: its advice must not stay for this one.
-    BaccTable_MouseMove();
-    CardNeed(n);
+  if (fncWaits(n) && fncSetFocus(BaccTable.pctCardBack[n])) {
+    prcAdviseChosen(n);
   }
 }
 
@@ -58,6 +52,8 @@ void prcRevealKey(const std::string& strKey) {
     if (const int n = fncChosen(); fncWaits(n)) {
       pctCardBack_Click(n);
     }
+  } else if (strKey == "Tab") {
+    prcChoose(fncChosen());
   } else if (strKey.size() == 1) {
     prcChoose(strKey.front() - '1');
   }

@@ -1,6 +1,6 @@
 #include "shell/SettingsStore.h"
 
-#include <utility>
+#include <algorithm>
 #include <vector>
 
 #include "platform/Procedure.h"
@@ -42,44 +42,62 @@ constexpr const char* strFirstSettings =
 const std::string strNotKept =
     "Settings and statistics cannot be kept. This file can be neither read nor made:\r\n";
 
-/// Writes that wait for the end of prcWriteTogether.
-std::vector<ProfileKey> keyKept;
-bool blnKeeping = false;
+/// Writes that are not in the file: those that wait for the end of prcWriteTogether, and those that
+/// it has refused, which hold for this run and are tried again with every later one.
+std::vector<ProfileKey> keyWaiting;
+bool blnTogether = false;
 
-void prcWriteKept() {
-  blnKeeping = false;
-  const std::vector<ProfileKey> keys = std::exchange(keyKept, {});
-  if (!keys.empty()) {
-    fncWriteProfile(strIniFile, keys, strFirstSettings);
+std::vector<ProfileKey>::iterator fncWaiting(const std::string& strSection,
+                                             const std::string& strKey) {
+  return std::ranges::find_if(keyWaiting, [&](const ProfileKey& key) {
+    return fncEqualNoCase(key.Section, strSection) && fncEqualNoCase(key.Key, strKey);
+  });
+}
+
+void prcWriteWaiting() {
+  if (!keyWaiting.empty() && fncWriteProfile(strIniFile, keyWaiting, strFirstSettings)) {
+    keyWaiting.clear();
   }
 }
 
 }  // namespace
 
 void prcWriteTogether(const std::function<void()>& work) {
-  blnKeeping = true;
+  blnTogether = true;
+  const auto write = [] {
+    blnTogether = false;
+    prcWriteWaiting();
+  };
   try {
     work();
   } catch (...) {
-    prcWriteKept();
+    write();
     throw;
   }
-  prcWriteKept();
+  write();
 }
 
 std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey) {
   return Guarded("ZNEW fncGetPrivateProfileString", [&] {
     At(10);
-    return fncReadProfile(strIniFile, strSection, strKey, "No", strFirstSettings)
-        .substr(0, intLongestValue);
+    const auto waiting = fncWaiting(strSection, strKey);
+    const std::string value =
+        waiting != keyWaiting.end()
+            ? waiting->Value.substr(waiting->Value.starts_with(' ') ? 1 : 0)  // A number's blank.
+            : fncReadProfile(strIniFile, strSection, strKey, "No", strFirstSettings);
+    return value.substr(0, intLongestValue);
   });
 }
 
 void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,
                                   const std::string& strValue) {
-  keyKept.push_back({strSection, strKey, strValue});
-  if (!blnKeeping) {
-    prcWriteKept();
+  if (const auto waiting = fncWaiting(strSection, strKey); waiting != keyWaiting.end()) {
+    waiting->Value = strValue;
+  } else {
+    keyWaiting.push_back({strSection, strKey, strValue});
+  }
+  if (!blnTogether) {
+    prcWriteWaiting();
   }
 }
 
@@ -104,6 +122,7 @@ std::string fncHelpFilePath() { return platform::HelpFolder() + "/VELMORA.HLP"; 
 void prcFixPaths() {
   strIniFile = platform::DataFolder() + "/VELMORA.INI";
   strHelpFile = fncHelpFilePath();
+  keyWaiting.clear();
   if (!fncCreateProfile(strIniFile, strFirstSettings)) {
     platform::MsgBox(strNotKept + strIniFile, platform::Icon::Exclamation);
   }

@@ -6,6 +6,7 @@
 #include "betting/Funds.h"
 #include "learn/CardNeed.h"
 #include "marking/MarkCard.h"
+#include "platform/Places.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
@@ -25,6 +26,7 @@ void prcApplyPlace() {
   form.Top = fncGetSetting(strSection, "Top");
   form.Height = fncGetSetting(strSection, "Height");
   form.Width = fncGetSetting(strSection, "Width");
+  prcMendPlace(form);
   form.Left = (MDIForm1.Form.Width - form.Width) / 2;
 }
 

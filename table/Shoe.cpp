@@ -175,6 +175,7 @@ void prcShuffleTable() {
     prcTableStatus(intShoeNumber);
     At(170);
     if (BaccTable.Form.Visible) {
+      platform::Activate(BaccTable.Form);
       fncSetFocus(BaccTable.duokkortos[0]);
     }
   });

@@ -19,9 +19,9 @@ namespace {
 constexpr std::uint32_t lngLongestHand = 120'000;
 
 void prcWaitUntilIdle() {
-  const std::uint32_t start = headless::Now();
-  while (blnBusy && !headless::Ended() && headless::Now() - start < lngLongestHand) {
-    headless::Wait(100);
+  const std::uint32_t start = user::Now();
+  while (blnBusy && !user::Ended() && user::Now() - start < lngLongestHand) {
+    user::Wait(100);
   }
 }
 
@@ -49,7 +49,7 @@ TestFolder::~TestFolder() {
 }
 
 void prcFreshGame(const std::string& folder) {
-  headless::Reset(folder);
+  user::Reset(folder);
   prcResetTableState();
   prcResetMarkState();
   strIniFile = folder + "/VELMORA.INI";
@@ -106,8 +106,8 @@ std::string Game::Contents() {
 }
 
 void Game::Start() {
-  platform::Run(0, nullptr, fncStartProgram);
-  headless::Wait(10);
+  user::Run(fncStartProgram);
+  user::Wait(10);
   ShowNoCardsSlowly();
 }
 
@@ -119,11 +119,11 @@ void Game::ShowNoCardsSlowly() {
 void Game::Shuffle(std::uint64_t seed) {
   headless::Seed(seed);
   if (!blnEndOfShoe[intShoeNumber]) {
-    headless::Answer(platform::Answer::Ok);
+    user::Answer(platform::Answer::Ok);
   }
-  ASSERT_TRUE(headless::Click(BaccTable.maisyk));
+  ASSERT_TRUE(user::Click(BaccTable.maisyk));
   prcWaitUntilIdle();
-  headless::ForgetBoxes();
+  user::ForgetBoxes();
 }
 
 void Game::NextCards(const std::vector<int>& values) {
@@ -140,14 +140,14 @@ void Game::NextResult(const std::string& result) {
 
 bool Game::Bet(BetSide side, int seat, const std::string& chips) {
   Control& box = fncBet(side, seat).Box;
-  return headless::Type(box, chips) && headless::Tab(BaccTable.Form);
+  return user::Type(box, chips) && user::Tab(BaccTable.Form);
 }
 
 void Game::Deal(int hands) {
   if (hands != 1) {
-    ASSERT_TRUE(headless::Type(BaccTable.mskHandsAtaTime, std::to_string(hands)));
+    ASSERT_TRUE(user::Type(BaccTable.mskHandsAtaTime, std::to_string(hands)));
   }
-  ASSERT_TRUE(headless::Click(BaccTable.duokkortos[0]));
+  ASSERT_TRUE(user::Click(BaccTable.duokkortos[0]));
   prcWaitUntilIdle();
 }
 
@@ -156,6 +156,4 @@ void Game::DealResult(const std::string& result) {
   Deal();
 }
 
-std::string Game::LastBox() {
-  return headless::Boxes().empty() ? "" : headless::Boxes().back().Text;
-}
+std::string Game::LastBox() { return user::Boxes().empty() ? "" : user::Boxes().back().Text; }

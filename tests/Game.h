@@ -6,13 +6,13 @@
 #include <vector>
 
 #include "betting/BetEntry.h"
-#include "platform/headless/Headless.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
 #include "table/TableState.h"
+#include "tests/conformance/Adapter.h"
 
-// The whole game on the headless platform: a fresh folder, the program started as its user starts
+// The whole game on either platform: a fresh folder, the program started as its user starts
 // it, and a shoe whose next cards a test can choose.
 
 /// A folder of its own for a test's settings file, gone with the test.
@@ -28,7 +28,7 @@ class TestFolder {
   std::string path_;
 };
 
-/// Puts every table of the game and the headless platform back to the start of the program, before
+/// Puts every table of the game and the platform back to the start of the program, before
 /// any window.
 void prcFreshGame(const std::string& folder);
 

@@ -1,6 +1,7 @@
 #include "platform/headless/Headless.h"
 
 #include <algorithm>
+#include <cmath>
 #include <deque>
 #include <map>
 #include <stdexcept>
@@ -27,12 +28,8 @@ struct State {
   std::deque<platform::Answer> Answers;
   std::vector<headless::Box> Boxes;
   std::map<std::uint32_t, std::uint64_t> TimerDue;  // By the timer's serial.
-  std::vector<std::string> Repaints, Opened, HelpShown;
-  std::uint64_t Seed = 1;
-  int OpenCode = 33;
-  bool blnOtherInstance = false;
+  std::vector<std::string> Repaints;
   double ScreenWidth = 15360, ScreenHeight = 10500;
-  std::string Folder;
 };
 
 State state;
@@ -125,6 +122,34 @@ void prcRunModalScript() {
   prcRun(event);
 }
 
+/// In the middle of the screen, in whole pixels of the design.
+void prcCentre(Window& window) {
+  const bool blnNoPlace = window.Left == 0 && window.Top == 0;
+  if (window.Centred || window.Kind == WindowKind::Start ||
+      (window.Kind == WindowKind::Dialog && blnNoPlace)) {
+    const auto middle = [](double screen, double size) {
+      return 15 * (std::floor((screen / 15 - 1) / 2) - std::floor(size / 15 / 2));
+    };
+    window.Left = middle(state.ScreenWidth, window.Width);
+    window.Top = middle(state.ScreenHeight, window.Height);
+  }
+}
+
+/// A child's inner size: less its border, and its title bar if it has one.
+void prcKeepInner(Window& window) {
+  const double border = 2 * 15 * (window.Sizable ? 4 : window.TitleBar ? 1 : 0);
+  const double width = window.Width - border;
+  const double height = window.Height - border - (window.TitleBar ? 15 * 22 : 0);
+  if (width == window.ScaleWidth && height == window.ScaleHeight) {
+    return;
+  }
+  window.ScaleWidth = width;
+  window.ScaleHeight = height;
+  if (window.On->Resize != nullptr) {
+    prcDispatch([&] { window.On->Resize(window); });
+  }
+}
+
 void prcNeedUsable(Control& control) {
   if (!fncSeen(control) || !fncUsable(control)) {
     throw std::logic_error(std::string("the user cannot reach ") + control.Name);
@@ -161,8 +186,6 @@ void WaitEvents(std::uint32_t milliseconds) {
 
 std::uint32_t TickCount() { return state.Start + static_cast<std::uint32_t>(state.Clock); }
 
-std::uint64_t RandomSeed() { return state.Seed++; }
-
 Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
               Answer standard) {
   prcThrowIfEnded();
@@ -197,19 +220,6 @@ void Activate(Window& window) {
 
 double ScreenWidth() { return state.ScreenWidth; }
 double ScreenHeight() { return state.ScreenHeight; }
-std::string DataFolder() { return state.Folder; }
-std::string HelpFolder() { return state.Folder; }
-
-int OpenAddress(const std::string& address) {
-  state.Opened.push_back(address);
-  return state.OpenCode;
-}
-
-void ShowHelp(const std::string& file, int context) {
-  state.HelpShown.push_back(file + "#" + std::to_string(context));
-}
-
-bool ActivateOtherInstance() { return state.blnOtherInstance; }
 
 void End() {
   state.blnEnded = true;
@@ -226,7 +236,7 @@ void Reset(const std::string& folder, std::uint32_t start) {
   }
   state = State{};
   state.Start = start;
-  state.Folder = folder;
+  ResetMachine(folder);
   prcSetCurrency(CurrencyStyle{});
 }
 
@@ -257,22 +267,29 @@ void WhileModal(std::function<void()> event) { state.Modal.push_back(std::move(e
 void Answer(platform::Answer answer) { state.Answers.push_back(answer); }
 const std::vector<Box>& Boxes() { return state.Boxes; }
 void ForgetBoxes() { state.Boxes.clear(); }
-void Seed(std::uint64_t seed) { state.Seed = seed; }
 std::uint64_t Turns() { return state.Turns; }
 std::vector<std::string>& Repaints() { return state.Repaints; }
 bool Ended() { return state.blnEnded; }
-std::vector<std::string>& Opened() { return state.Opened; }
-void OpenAddressReturns(int code) { state.OpenCode = code; }
-std::vector<std::string>& HelpShown() { return state.HelpShown; }
-void OtherInstanceRuns(bool blnRuns) { state.blnOtherInstance = blnRuns; }
 
 void Screen(double width, double height) {
   state.ScreenWidth = width;
   state.ScreenHeight = height;
 }
 
+void PlaceWindows() {
+  for (const std::vector<Window*> loaded = fncWindows(); Window * window : loaded) {
+    if (window->FixedInner) {
+      window->Width = window->ScaleWidth;
+      window->Height = window->ScaleHeight;
+    }
+    if (window->Visible) {
+      window->Kind == WindowKind::Child ? prcKeepInner(*window) : prcCentre(*window);
+    }
+  }
+}
+
 bool Press(Control& control, float x, float y, int button) {
-  prcNeedUsable(control);
+  Hover(control);  // The pointer gets there first.
   bool blnStands = false;
   prcDispatch([&] { blnStands = fncUserPress(control, {button, 0, x, y}); });
   return blnStands;
@@ -312,16 +329,22 @@ bool Type(Control& box, const std::string& text) {
   if (!Press(box)) {
     return false;
   }
-  prcDispatch([&] { prcUserText(box, text); });
+  std::string typed;
+  prcDispatch([&] { prcUserText(box, typed); });
+  for (const char key : text) {
+    Key(*box.Form, std::string(1, key));
+    if (box.Form->ActiveControl != &box) {
+      return false;  // The window has made something else of the key.
+    }
+    typed += key;
+    prcDispatch([&] { prcUserText(box, typed); });
+  }
   return true;
 }
 
 bool Tab(Window& window) {
   bool blnMoved = false;
-  prcDispatch([&] {
-    Control* next = fncNextStop(window, false);
-    blnMoved = next != nullptr && fncSetFocus(*next);
-  });
+  prcDispatch([&] { blnMoved = fncUserTab(window, false); });
   return blnMoved;
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/headless/PaperMachine.h"
 #include "platform/platform.h"
 
 // The platform without a screen: a virtual clock that moves only while the program waits, a
@@ -52,9 +53,6 @@ void Answer(platform::Answer answer);
 const std::vector<Box>& Boxes();
 void ForgetBoxes();
 
-/// The seeds that RandomSeed gives: this one, then each the next number.
-void Seed(std::uint64_t seed);
-
 /// Turns of the event loop since Reset, and controls that were repainted at once, by name and index
 /// ("pctCardBack(0)").
 std::uint64_t Turns();
@@ -63,17 +61,12 @@ std::vector<std::string>& Repaints();
 /// The program has ended.
 bool Ended();
 
-/// Addresses opened and help topics shown ("file#context") since Reset, and what OpenAddress is to
-/// return.
-std::vector<std::string>& Opened();
-void OpenAddressReturns(int code);
-std::vector<std::string>& HelpShown();
-
-/// Another instance runs, as far as the program can see.
-void OtherInstanceRuns(bool blnRuns);
-
 /// The screen's size in twips.
 void Screen(double width, double height);
+
+/// Gives windows that are up what a screen gives them: a place in the middle where they have none
+/// of their own, and the inner size; the resize handler runs where that has changed.
+void PlaceWindows();
 
 // The scripted user. Each call fails the test by an exception when the control is not there to be
 // used.

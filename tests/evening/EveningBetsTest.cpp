@@ -17,7 +17,7 @@ class EveningBets : public Game {
   /// Picks an entry of the menu.
   static void Pick(std::string_view entry) {
     const std::vector<Control*>& all = MDIForm1.Form.Controls;
-    headless::Click(**std::ranges::find(all, entry, [](const Control* c) { return c->Name; }));
+    user::Click(**std::ranges::find(all, entry, [](const Control* c) { return c->Name; }));
   }
   static void Repeat() { Pick("mnuRepeatBets"); }
   static void TakeBack() { Pick("mnuTakeBack"); }
@@ -63,15 +63,15 @@ TEST_F(EveningBets, AreRepeatedAsOfTheLastHandWithABet) {
   Deal();  // Seat 0 sits out.
   Repeat();
   EXPECT_EQ(Table().substr(0, 5), "2/5/0");
-  EXPECT_TRUE(headless::Boxes().empty());
+  EXPECT_TRUE(user::Boxes().empty());
 }
 
 TEST_F(EveningBets, AreTakenBackStepByStepToTheOpeningOfTheTable) {
-  headless::Click(BaccTable.lblBBetInc5[0]);
-  headless::Click(BaccTable.lblBBetInc2[0]);
-  headless::Click(BaccTable.lblTBetInc1[1]);
-  headless::Click(BaccTable.lblPBetInc1[0]);
-  headless::Type(BaccTable.txtTieBet[0], "9");  // Not left yet: booked, then taken back.
+  user::Click(BaccTable.lblBBetInc5[0]);
+  user::Click(BaccTable.lblBBetInc2[0]);
+  user::Click(BaccTable.lblTBetInc1[1]);
+  user::Click(BaccTable.lblPBetInc1[0]);
+  user::Type(BaccTable.txtTieBet[0], "9");  // Not left yet: booked, then taken back.
   TakeBack();
   EXPECT_EQ(AllTakenBack(),
             (Steps{"0/0/1 $990, 1/0/0 $990", "0/7/0 $930, 1/0/0 $990", "0/7/0 $930, 0/0/0 $1,000",
@@ -79,7 +79,7 @@ TEST_F(EveningBets, AreTakenBackStepByStepToTheOpeningOfTheTable) {
   Bet(betBanker, 0, "5");
   DealResult("B");
   Bet(betBanker, 0, "5");  // Left as it is: no step.
-  headless::Click(BaccTable.lblBBetInc0[0]);
+  user::Click(BaccTable.lblBBetInc0[0]);
   EXPECT_EQ(AllTakenBack(), (Steps{"0/0/0 $1,048, 0/0/0 $1,000", "0/5/0 $998, 0/0/0 $1,000"}));
 }
 
@@ -93,7 +93,7 @@ TEST_F(EveningBets, AreDoubledAsOneStepAndRefusedAsAClickIs) {
   dblPlayerTotal[0] = 5000;
   Double();
   EXPECT_EQ(LastBox(), "Bet must be 0 to 100");
-  EXPECT_EQ(headless::Boxes().size(), 2U);
+  EXPECT_EQ(user::Boxes().size(), 2U);
   EXPECT_EQ(AllTakenBack(), (Steps{"16/60/0 $4,920, 0/0/0 $1,000", "8/60/0 $5,000, 0/0/0 $1,000",
                                    "4/60/0 $5,040, 0/0/0 $1,000", "2/30/0 $5,360, 0/0/0 $1,000",
                                    "0/30/0 $5,380, 0/0/0 $1,000", "0/0/0 $5,680, 0/0/0 $1,000"}));
@@ -102,12 +102,12 @@ TEST_F(EveningBets, AreDoubledAsOneStepAndRefusedAsAClickIs) {
 TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
   Bet(betBanker, 0, "5");
   DealResult("P");
-  headless::Type(BaccTable.txtBankerBet[0], "200");
+  user::Type(BaccTable.txtBankerBet[0], "200");
   Repeat();
   EXPECT_EQ(LastBox(), "Banker bet must be 0 to 100");
   EXPECT_EQ(lngBankerBet[0], 0);
   Bet(betBanker, 0, "4");
-  headless::After(1000, [] {
+  user::After(1000, [] {
     Repeat();
     TakeBack();
     Double();
@@ -119,12 +119,12 @@ TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
 TEST_F(EveningBets, OfBeforeAResetAreNotBroughtBack) {
   Bet(betBanker, 0, "5");
   Bet(betBanker, 0, "8");
-  headless::WhileModal([] {
-    headless::Answer(platform::Answer::Ok);
-    headless::Click(frmStatistics.cmdResetStats);
-    headless::Close(frmStatistics.Form);
+  user::WhileModal([] {
+    user::Answer(platform::Answer::Ok);
+    user::Click(frmStatistics.cmdResetStats);
+    user::Close(frmStatistics.Form);
   });
-  headless::Click(MDIForm1.mnuStatistics);
+  user::Click(MDIForm1.mnuStatistics);
   TakeBack();
   EXPECT_EQ(Table(), "0/0/0 $1,000, 0/0/0 $1,000");
 }

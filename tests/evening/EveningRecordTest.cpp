@@ -31,11 +31,11 @@ class EveningRecord : public Game {
   }
   /// Opens the statistics, where the user does something.
   static void InStatistics(const std::function<void()>& act) {
-    headless::WhileModal([act] {
+    user::WhileModal([act] {
       act();
-      headless::Close(frmStatistics.Form);
+      user::Close(frmStatistics.Form);
     });
-    headless::Click(MDIForm1.mnuStatistics);
+    user::Click(MDIForm1.mnuStatistics);
   }
 };
 
@@ -43,7 +43,7 @@ TEST_F(EveningRecord, HoldsEachSettledHandWithTheMoneyBeforeAndBehindIt) {
   Bet(betBanker, 0, "5");
   Bet(betTie, 0, "1");
   Bet(betPlayer, 1, "2");
-  headless::After(2000, [] { EXPECT_TRUE(colEveningHands.empty()) << "not settled yet"; });
+  user::After(2000, [] { EXPECT_TRUE(colEveningHands.empty()) << "not settled yet"; });
   NextCards({3, 13, 2, 4, 6, 2});  // 5 draws 6 and has 1; 4 draws against it and has 6.
   Deal();
   DealResult("T");
@@ -78,13 +78,13 @@ TEST_F(EveningRecord, StepsWithTheStakeAndMarksAReset) {
   Bet(betBanker, 0, "5");
   DealResult("P");
   InStatistics([] {
-    headless::Type(frmStatistics.mskSteak[0], "1500");
-    headless::Tab(frmStatistics.Form);
+    user::Type(frmStatistics.mskSteak[0], "1500");
+    user::Tab(frmStatistics.Form);
   });
   DealResult("P");
   InStatistics([] {
-    headless::Answer(platform::Answer::Ok);
-    headless::Click(frmStatistics.cmdResetStats);
+    user::Answer(platform::Answer::Ok);
+    user::Click(frmStatistics.cmdResetStats);
   });
   Bet(betBanker, 0, "1");
   DealResult("B");
@@ -98,10 +98,10 @@ TEST_F(EveningRecord, StepsWithTheStakeAndMarksAReset) {
 
 TEST_F(EveningRecord, LosesTheBetsOfAHandInWhichTheStatisticsAreReset) {
   Bet(betBanker, 0, "5");
-  headless::After(1000, [] {
+  user::After(1000, [] {
     InStatistics([] {
-      headless::Answer(platform::Answer::Ok);
-      headless::Click(frmStatistics.cmdResetStats);
+      user::Answer(platform::Answer::Ok);
+      user::Click(frmStatistics.cmdResetStats);
     });
   });
   DealResult("P");

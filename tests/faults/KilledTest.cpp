@@ -12,6 +12,7 @@
 #include "bench/Endurance.h"
 #include "betting/frmStatistics.h"
 #include "platform/Texts.h"
+#include "platform/headless/Headless.h"
 #include "shell/SettingsStore.h"
 #include "tests/Game.h"
 

@@ -10,6 +10,7 @@
 #include <random>
 
 #include "betting/TableLimits.h"
+#include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "tests/Game.h"
 

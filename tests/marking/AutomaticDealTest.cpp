@@ -1,5 +1,6 @@
 #include "marking/MarkCard.h"
 #include "marking/MarkState.h"
+#include "platform/headless/Headless.h"
 #include "tests/Game.h"
 
 namespace {

@@ -2,26 +2,20 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
-#include <fstream>
 #include <set>
 
 #include "betting/frmStatistics.h"
 #include "platform/UserInput.h"
-#include "platform/qt/machine/OneInstance.h"
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/windows/Screen.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
-#include "shell/Program.h"
-#include "shell/SettingsStore.h"
 #include "shell/StartScreen.h"
 #include "table/BaccTable.h"
-#include "tests/conformance/Adapter.h"
+#include "tests/qt/Evening.h"
 #include "tests/qt/RealUser.h"
 
 // The whole game by keyboard and by ear: what a screen reader finds in each window, and what it is
@@ -31,31 +25,11 @@ namespace {
 
 std::string strHeard;  // A line for each reading.
 
-class Ear : public testing::Test {
+class Ear : public Evening {
  protected:
   void SetUp() override {
-    user::Reset();
-    before_ = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
-    QFile::remove(fncStartSettings());
     strHeard = "\n";
-    ASSERT_TRUE(fncStartProgram());
-    strIniFile = folder_.filePath("VELMORA.INI").toStdString();
-    std::ofstream(strIniFile)
-        << "[File]\nLearn=True\n[Card Options]\nCard Face Up=False\n[Deal]\nDelay=False\n"
-           "Animation=False\n[Shoe Size]\nDecks=4\n[frmBaccTable]\nHeight=5400\nWidth=10770\n"
-           "[Misc]\nUnitValue=10\n[Player1Stats]\nStake=1000\n[Player2Stats]\nStake=1000\n";
-    user::Settle();
-  }
-  void TearDown() override {
-    user::Reset();
-    QFile::remove(fncStartSettings());
-    qt::prcGiveUpLock();
-    before_.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", before_);
-  }
-
-  static QString fncStartSettings() {
-    return QString::fromStdString(platform::DataFolder() + "/VELMORA.INI");
+    Evening::SetUp();
   }
 
   /// A key to whatever has the focus, as the user presses it.
@@ -127,10 +101,6 @@ class Ear : public testing::Test {
       }
     }
   }
-
- private:
-  QTemporaryDir folder_;
-  QByteArray before_;
 };
 
 TEST_F(Ear, EveryControlOfEveryWindowIsNamed) {

@@ -45,7 +45,9 @@ void prcAnswer(QMessageBox& box) {
   QString text = box.text();
   text.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
   boxShown.push_back(
-      {text.toStdString(), box.windowTitle().toStdString(), fncIconOf(box.icon()), blnCancel});
+      {text.toStdString(), box.windowTitle().toStdString(), fncIconOf(box.icon()), blnCancel,
+       box.defaultButton() == box.button(QMessageBox::Cancel) ? platform::Answer::Cancel
+                                                              : platform::Answer::Ok});
   if (ansNext.empty()) {
     QTest::keyClick(&box, Qt::Key_Return);
     return;
@@ -148,7 +150,7 @@ QPoint Global(const Control& control, float x, float y) {
 
 namespace user {
 
-void Reset() {
+void Reset(const std::string& /*folder*/) {
   qt::prcForgetEnd();
   for (const std::vector<Window*> loaded = fncWindows(); Window * window : loaded) {
     prcForgetWindow(*window);
@@ -193,15 +195,16 @@ void Release(Control& control, float x, float y, int button) {
   QTest::mouseRelease(&fncWindow(control), fncButton(button), {}, fncInWindow(control, x, y));
 }
 
-void Click(Control& control, int button) {
+bool Click(Control& control, int button) {
   Settle();
   if (control.Kind == ControlKind::MenuEntry) {
     real::Action(control).trigger();
-    return;
+    return true;
   }
   const QPoint at = fncInWindow(control, static_cast<float>(control.Width / 2),
                                 static_cast<float>(control.Height / 2));
   QTest::mouseClick(&fncWindow(control), fncButton(button), {}, at);
+  return true;
 }
 
 void Hover(Control& control) {
@@ -219,10 +222,10 @@ void Hover(Window& window) {
   QTest::mouseMove(handle, handle->mapFromGlobal(corner));
 }
 
-void Type(Control& box, const std::string& text) {
+bool Type(Control& box, const std::string& text) {
   Click(box);
   if (box.Form->ActiveControl != &box) {
-    return;
+    return false;
   }
   QWidget& widget = real::Widget(box);
   QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
@@ -230,14 +233,16 @@ void Type(Control& box, const std::string& text) {
     QTest::keyClick(&widget, Qt::Key_Delete);
   }
   QTest::keyClicks(&widget, QString::fromStdString(text));
+  return true;
 }
 
-void Tab(Window& window) {
+bool Tab(Window& window) {
   Settle();
   real::Key(window, Qt::Key_Tab);
+  return true;
 }
 
-void Key(Window& window, const std::string& key) {
+void Key(Window& window, const std::string& key, int /*shift*/) {
   Settle();
   real::Key(window, QKeySequence(QString::fromStdString(key))[0].key());
 }

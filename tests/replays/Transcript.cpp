@@ -9,7 +9,6 @@
 #include "marking/MarkCard.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
-#include "platform/headless/Headless.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
 #include "tests/Game.h"
@@ -113,7 +112,7 @@ Transcript::Words Transcript::fncWords(const Control& c) {
           "text " + fncColour(c.ForeColor),
           "fill " + fncColour(c.FillColor),
           "picture " + std::to_string(int{c.Picture}),
-          "selects " + std::to_string(c.SelLength),
+          "selects " + std::to_string(std::min(c.SelLength, static_cast<int>(c.Text.size()))),
           std::string("pointer ") + strPointers[static_cast<std::size_t>(c.MousePointer)],
           std::to_string(c.List.size()) + " rows, row " + std::to_string(c.ListIndex) + ": " +
               (c.List.empty() ? "" : fncQuoted(c.List.back()))};
@@ -131,7 +130,7 @@ Transcript::Looks Transcript::fncLooks() {
   for (const Window* window : fncWindows()) {
     for (const Control* control : window->Controls) {
       if (fncWatched(*control)) {
-        looks[{fncFullName(*control), int{control->Index}}] = fncWords(*control);
+        looks[{fncFullName(*control), int{control->Index}}] = fncWords(user::Seen(*control));
         controls_.push_back({control, control->Visible, control->Text});
       }
     }
@@ -146,7 +145,7 @@ bool Transcript::Moved() const {
 }
 
 std::string Transcript::See(const std::string& name) {
-  const Control& control = fncNamed(name);
+  const Control control = user::Seen(fncNamed(name));
   Control plain;
   plain.Kind = control.Kind;
   const Words words = fncWords(control), usual = fncWords(plain);
@@ -166,13 +165,13 @@ void Transcript::prcTell(const std::string& what, const std::string& now) {
 
 void Transcript::prcTellScreen() {
   static const char* const icons[]{"", "stop", "!", "i"};
-  for (const headless::Box& box : headless::Boxes()) {
-    std::string choice = box.Buttons == platform::Buttons::OkCancel ? " OK/Cancel" : "";
+  for (const user::Box& box : user::Boxes()) {
+    std::string choice = box.blnCancel ? " OK/Cancel" : "";
     choice += box.Standard == platform::Answer::Cancel ? ", Cancel" : "";
     prcLine("box " + std::string(icons[static_cast<std::size_t>(box.Icon)]) + "[" + box.Title +
             choice + "]: " + fncPiped(box.Text));
   }
-  headless::ForgetBoxes();
+  user::ForgetBoxes();
   for (auto* calls : {&headless::Opened(), &headless::HelpShown()}) {
     for (const std::string& call : *calls) {
       prcLine("opens " + call.substr(call.find("VELMORA.HLP") == std::string::npos
@@ -182,30 +181,34 @@ void Transcript::prcTellScreen() {
     calls->clear();
   }
   std::string windows, focus;
-  for (const Window* window : fncWindows()) {
-    windows += std::string(" ") + window->Name + (window->Visible ? "" : "(hidden)") +
-               (window->Topmost ? "(top)" : "");
-    if (window->ActiveControl != nullptr) {
-      focus += " " + fncIndexed(window->ActiveControl->Name, window->ActiveControl->Index);
+  // The end takes all windows off the screen, those too that the program had no time to close.
+  for (const Window* loaded : user::Ended() ? std::vector<Window*>() : fncWindows()) {
+    const Window window = user::Seen(*loaded);
+    windows += std::string(" ") + window.Name + (window.Visible ? "" : "(hidden)") +
+               (window.Topmost ? "(top)" : "");
+    if (window.ActiveControl != nullptr && fncSeen(*window.ActiveControl) &&
+        fncUsable(*window.ActiveControl)) {
+      focus += " " + fncIndexed(window.ActiveControl->Name, window.ActiveControl->Index);
     }
-  }
-  for (const Window* window : fncWindows()) {
-    prcTell(window->Name, "at " + fncPair(window->Left, ",", window->Top) + ", size " +
-                              fncPair(window->Width, "x", window->Height) +
-                              (window->Maximised ? ", maximised" : ""));
+    prcTell(window.Name, "at " + fncPair(window.Left, ",", window.Top) + ", size " +
+                             fncPair(window.Width, "x", window.Height) +
+                             (window.Maximised ? ", maximised" : ""));
   }
   prcTell("windows", windows.empty() ? "" : windows.substr(1));
   prcTell("focus", focus.empty() ? "" : focus.substr(1));
-  prcTell("program", headless::Ended() ? "ended" : blnBusy ? "busy" : "waits");
+  prcTell("program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
 }
 
 void Transcript::prcTellControls() {
   if (watched_.empty() && blnTableLoaded) {
     std::string labels;
     for (const Control* control : BaccTable.Form.Controls) {
-      if (control->Kind == ControlKind::Label && control->Visible && control->Announce &&
-          control->ToolTip.empty()) {  // The money has a line of its own.
-        labels += " " + fncIndexed(control->Name, control->Index) + "=" + fncPiped(control->Text);
+      // The money has a line of its own.
+      if (control->Kind != ControlKind::Label || !control->Announce || !control->ToolTip.empty()) {
+        continue;
+      }
+      if (const Control seen = user::Seen(*control); seen.Visible) {
+        labels += " " + fncIndexed(seen.Name, seen.Index) + "=" + fncPiped(seen.Text);
       }
     }
     prcTell("table", labels.empty() ? "" : labels.substr(1));
@@ -251,13 +254,14 @@ void Transcript::prcTellMoney() {
     std::string bets;
     for (const BetSide side : {betTie, betBanker, betPlayer}) {
       const BetControls bet = fncBet(side, i);
-      bets += (side == betTie ? "" : "/") + bet.Box.Text +
-              (bet.Value.Visible ? "(" + bet.Value.Text + ")" : "");
+      const Control value = user::Seen(bet.Value);
+      bets += (side == betTie ? "" : "/") + user::Seen(bet.Box).Text +
+              (value.Visible ? "(" + value.Text + ")" : "");
     }
-    prcTell("seat " + std::to_string(i + 1), BaccTable.lblPlayerTotal[i].Text + " = " +
-                                                 fncNumber(dblPlayerTotal[i]) + ", won " +
-                                                 BaccTable.lblPlayerWinnings[i].Text + " = " +
-                                                 fncNumber(dblPlayerWin[i]) + ", bets " + bets);
+    prcTell("seat " + std::to_string(i + 1),
+            user::Seen(BaccTable.lblPlayerTotal[i]).Text + " = " + fncNumber(dblPlayerTotal[i]) +
+                ", won " + user::Seen(BaccTable.lblPlayerWinnings[i]).Text + " = " +
+                fncNumber(dblPlayerWin[i]) + ", bets " + bets);
   }
 }
 
@@ -266,27 +270,29 @@ void Transcript::prcTellMarks() {
   if (card == nullptr) {
     return;
   }
-  prcTell("card", "at " + fncPair(card->Picture1.Left, ",", card->Picture1.Top) + ", high " +
-                      fncNumber(card->Picture1.Height));
-  const Control& heading = card->lblBP.at(0);
+  const Control picture = user::Seen(card->Picture1);
+  prcTell("card",
+          "at " + fncPair(picture.Left, ",", picture.Top) + ", high " + fncNumber(picture.Height));
+  const Control heading = user::Seen(card->lblBP.at(0));
+  const auto& [last, lastHeading] = *card->lblBP.rbegin();
   prcTell("headings", !heading.Visible ? "none"
-                                       : heading.Text + card->lblBP.rbegin()->second.Text + " to " +
-                                             std::to_string(card->lblBP.rbegin()->first));
-  if (!card->shpTBP.at(0).Visible) {
+                                       : heading.Text + user::Seen(lastHeading).Text + " to " +
+                                             std::to_string(last));
+  if (!user::Seen(card->shpTBP.at(0)).Visible) {
     // A new shoe: marks that come again where they were are told again.
     std::erase_if(last_, [](const auto& told) {
       return told.first != "mark 0" &&
              (told.first.starts_with("mark ") || told.first.starts_with("total "));
     });
   }
-  for (const auto& [n, total] : card->lblTotal) {
-    if (total.Visible) {
+  for (const auto& [n, control] : card->lblTotal) {
+    if (const Control total = user::Seen(control); total.Visible) {
       prcTell("total " + std::to_string(n),
               total.Text + " at " + fncNumber(total.Left) + ", " + fncColour(total.ForeColor));
     }
   }
-  for (const auto& [n, shape] : card->shpTBP) {
-    const Control& text = card->lblTBP.at(n);
+  for (const auto& [n, control] : card->shpTBP) {
+    const Control shape = user::Seen(control), text = user::Seen(card->lblTBP.at(n));
     // A line does not stand in a row of its own.
     const std::string place = fncNumber((shape.Left - 60) / intColumnPitch) +
                               (text.Visible ? "," + fncNumber((shape.Top - 510) / intRowPitch + 1)

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "platform/UserInput.h"
+#include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "shell/Program.h"
 #include "shell/frmKaNori.h"

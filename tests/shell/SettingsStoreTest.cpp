@@ -75,7 +75,9 @@ TEST_F(SettingsStore, AWriteThatFailsLosesNothing) {
 
   std::filesystem::create_directory(beside);  // Nothing can be written beside the file.
   prcWritePrivateProfileString("Deal", "Delay", "True");
+  prcWriteSetting("Player1Stats", "Stake", 500);
   EXPECT_EQ(Contents(), before);
+  EXPECT_EQ(fncGetPrivateProfileString("DEAL", "delay"), "True") << "it holds for this run";
   std::filesystem::remove(beside);
 
   if (std::filesystem::exists("/dev/full")) {
@@ -86,6 +88,7 @@ TEST_F(SettingsStore, AWriteThatFailsLosesNothing) {
 
   prcWritePrivateProfileString("Deal", "Delay", "True");
   EXPECT_EQ(Stored("Deal", "Delay"), "True");
+  EXPECT_EQ(Stored("Player1Stats", "Stake"), "500") << "written as soon as the file lets";
 }
 
 TEST_F(SettingsStore, NumbersKeepTheirFormAndTheirFraction) {

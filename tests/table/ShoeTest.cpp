@@ -2,6 +2,7 @@
 #include <set>
 
 #include "platform/Texts.h"
+#include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "table/Cards.h"
 #include "table/Random.h"

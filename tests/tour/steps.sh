@@ -15,6 +15,26 @@ enter_table() {
   picture frame
 }
 
+# The count of cards lies before the frame from the start. A click on the frame covers it, unless it is kept on top; and
+# no switch moves it.
+count_window() {
+  local box='^check box<T>Keep on top' wanted
+  for wanted in 1 0; do
+    click "$box"
+    expect Misc CardsDealtCountOnTop $wanted "\"Keep on top\" of the count of cards cannot be reached"
+    click_table $bare_felt
+  done
+  click "$box"
+  sleep 1
+  expect Misc CardsDealtCountOnTop 0 "a click on the frame does not cover the count of cards"
+  for wanted in False True False; do
+    click '<T>Show count of all cards dealt<T>'
+    expect "Card Options" "Show Cards Dealt Count" $wanted "the toolbar does not switch the count of cards"
+  done
+  expect frmCardsDealtCount Left 300 "the count of cards has moved by itself"
+  expect frmCardsDealtCount Top 1800 "the count of cards has moved by itself"
+}
+
 # A fast machine may be done before anybody looks.
 shuffle_shoe() {
   click "$shuffle_button"
@@ -126,16 +146,21 @@ read_statistics() {
   wait_gone 5 'Turnover' "OK does not close the statistics"
 }
 
-# When a window closes, one of the lists of cards may get the focus; keys for the menu are for the frame.
-menu_keys() {
-  click_table $bare_felt
-  keys "$@"
+# The entry that is marked in the open menu looks the same whatever font resolution the desktop tells.
+open_options() {
+  local entry
+  keys alt+o
+  wait_for 5 'Large Buttons' "the menu does not open by its key"
+  picture menu
+  entry=$(line '<T>Large Buttons' | awk -F '\t' '{ print $8 "x" $9 "+" $6 "+" $7 }')
+  maim --hidecursor -g "$entry" "$pictures/entry.png"
+  if [ "$resolution" != 96 ]; then
+    cmp "$pictures/entry.png" "$pictures/../entry.png" || fail "the menus follow the desktop's font resolution"
+  fi
 }
 
 change_toolbar() {
-  menu_keys alt+o
-  wait_for 5 'Large Buttons' "the menu does not open by its key"
-  picture menu
+  open_options
   keys l
   expect Options "Large Buttons" False "the menu does not change the toolbar"
   picture small-toolbar
@@ -143,21 +168,21 @@ change_toolbar() {
 }
 
 read_help() {
-  menu_keys alt+h c
+  keys alt+h c
   wait_for 10 'Contents' "the help does not open"
   picture help
   keys alt+F4
 }
 
 read_about() {
-  menu_keys alt+h a
+  keys alt+h a
   wait_for 5 'Improve your Betting Strategy' "About does not show"
   picture about
   keys Return
 }
 
 leave_program() {
-  menu_keys alt+f x
+  keys alt+f x
   wait "$program" || fail "the program did not end well"
 }
 
@@ -178,6 +203,7 @@ come_back() {
 
 full_tour() {
   enter_table
+  count_window
   shuffle_shoe
   bet_on_both_seats
   deal_ten_hands
@@ -205,6 +231,7 @@ short_tour() {
   squeeze_hand
   turn_the_rest 1
   read_statistics
+  change_toolbar
   read_help
   leave_program
 }

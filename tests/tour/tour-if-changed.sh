@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Plays the tour on screens of four sizes, two of them with a scale factor of the desktop, unless it has passed
-# with just this program and these steps.
+# Plays the tour on screens of four sizes, two of them with a scale factor of the desktop, and once more at a font
+# resolution of the desktop, unless it has passed with just this program and these steps.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 passed=build/tour/passed
@@ -10,7 +10,7 @@ if [ -f "$passed" ] && [ "$(cat "$passed")" = "$now" ]; then
   exit 0
 fi
 tests/tour/tour.sh
-for screen in 1920x1080 2560x1440@1.25 3840x2160@2; do
+for screen in 1366x768:192 1920x1080 2560x1440@1.25 3840x2160@2; do
   tests/tour/tour.sh "$screen" short
 done
 echo "$now" >"$passed"

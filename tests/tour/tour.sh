@@ -2,8 +2,8 @@
 # The tour: the real program on a virtual display, driven by a real mouse and keyboard from the start screen to the
 # end of a shoe. Leaves numbered pictures in build/tour and prints their paths; fails with a sentence when a step has
 # no effect, or when something is drawn at another scale than fits the screen, or beyond its edge.
-#   tests/tour/tour.sh [WIDTHxHEIGHT[@FACTOR] [full|short [PRESET]]]
-# The screen is 1366x768 when left out, the desktop's own scale factor 1, the build release.
+#   tests/tour/tour.sh [WIDTHxHEIGHT[@FACTOR][:DPI] [full|short [PRESET]]]
+# The screen is 1366x768 when left out, the desktop's own scale factor 1, its font resolution 96, the build release.
 set -eEuo pipefail
 trap 'echo "The tour stopped in $BASH_SOURCE, line $LINENO: $BASH_COMMAND" >&2' ERR
 cd "$(dirname "$0")/../.."
@@ -11,9 +11,10 @@ cd "$(dirname "$0")/../.."
 screen=${1:-1366x768}
 length=${2:-full}
 preset=${3:-release}
-size=${screen%@*}
-factor=1
-[ "$size" = "$screen" ] || factor=${screen#*@}
+IFS='@:' read -r size factor <<<"${screen%:*}"
+factor=${factor:-1}
+resolution=96
+[[ $screen != *:* ]] || resolution=${screen#*:}
 build=$PWD/build/$preset
 eyes=$build/tests/tour/velmora_eyes
 pictures=$PWD/build/tour
@@ -66,6 +67,7 @@ export DISPLAY
 jwm -f tests/tour/jwmrc 2>/dev/null &
 jobs_to_end+=($!)
 look || fail "there is no accessibility bus"
+xprop -root -f RESOURCE_MANAGER 8s -set RESOURCE_MANAGER "Xft.dpi:	$resolution"
 
 start_program() {
   "$home/velmora" 2>"$pictures/velmora.log" &

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
@@ -15,7 +16,8 @@ namespace qt {
 
 namespace {
 
-/// Kinds whose widget goes on with a press by itself: it places the caret, drags, or selects a row.
+/// Kinds whose widget goes on with a press by itself: it places the caret, drags, or selects a row;
+/// a toolbar holds a button of the toolkit's own.
 bool fncNative(ControlKind kind) {
   switch (kind) {
     case ControlKind::TextBox:
@@ -24,53 +26,20 @@ bool fncNative(ControlKind kind) {
     case ControlKind::HScrollBar:
     case ControlKind::VScrollBar:
     case ControlKind::Slider:
-      return true;
-    default:
-      return false;
-  }
-}
-
-/// Whether the mouse means something at a control; otherwise what holds it is meant.
-bool fncAnswersMouse(const Control& control) {
-  const ControlEvents& on = *control.On;
-  if (on.Click != nullptr || on.MouseDown != nullptr || on.MouseMove != nullptr ||
-      on.MouseUp != nullptr) {
-    return true;
-  }
-  switch (control.Kind) {
-    case ControlKind::Label:
-    case ControlKind::Shape:
-    case ControlKind::Line:
-    case ControlKind::Frame:
     case ControlKind::Toolbar:
-    case ControlKind::ProgressBar:
-      return false;
-    case ControlKind::Picture:
-      return control.TabStop;
-    default:
       return true;
+    default:
+      return false;
   }
 }
 
-/// Whether a widget shows a label or picture, over which the mouse is not on bare ground though
-/// nothing answers it.
-bool fncCovers(const QWidget& widget) {
-  const ControlView* view = fncControlViewOf(&widget);
-  const Control* control = view != nullptr ? fncLive(*view) : nullptr;
-  return control != nullptr &&
-         (control->Kind == ControlKind::Label || control->Kind == ControlKind::Picture);
-}
-
-/// The control that the mouse means at a widget; none on bare ground.
+/// The control under the mouse; none on bare ground.
 Control* fncMeant(const QWidget& widget) {
   const ControlView* view = fncControlViewOf(&widget);
-  Control* control = view != nullptr ? fncLive(*view) : nullptr;
-  while (control != nullptr && !fncAnswersMouse(*control)) {
-    control = control->Container;
-  }
-  return control;
+  return view != nullptr ? fncLive(*view) : nullptr;
 }
 
+/// A button as the model calls it; 0 for those that mean nothing.
 int fncButton(Qt::MouseButton button) {
   switch (button) {
     case Qt::LeftButton:
@@ -110,11 +79,6 @@ void prcShowDown(QWidget* widget, bool blnDown) {
   }
 }
 
-/// Boxes that select their text on focus keep it selected when a click brings the focus.
-bool fncKeepsSelection(const Control& control, bool blnHadFocus) {
-  return !blnHadFocus && control.SelLength > 0;
-}
-
 }  // namespace
 
 int fncShift(Qt::KeyboardModifiers modifiers) {
@@ -129,16 +93,30 @@ bool InputRouter::eventFilter(QObject* object, QEvent* event) {
   if (object->isWidgetType()) {
     return fncWidgetEvent(*static_cast<QWidget*>(object), event);
   }
-  if (!object->isWindowType() || !fncHeldIsHidden()) {
-    return false;
+  // The toolkit drops what comes for a widget that has been hidden under the press.
+  const bool blnHidden = held_.Widget != nullptr && !held_.Widget->isVisible();
+  if (object->isWindowType() && blnHidden && event->type() == QEvent::MouseMove) {
+    prcEndLost(static_cast<QMouseEvent*>(event)->buttons());
+    return fncDragged(*static_cast<QMouseEvent*>(event));
   }
-  if (event->type() == QEvent::MouseMove) {
-    return fncMovedOnWindow(*static_cast<QMouseEvent*>(event));
-  }
-  if (event->type() == QEvent::MouseButtonRelease) {
+  if (object->isWindowType() && blnHidden && event->type() == QEvent::MouseButtonRelease) {
     fncReleased(*static_cast<QMouseEvent*>(event));
   }
   return false;
+}
+
+bool InputRouter::fncMouseEvent(QWidget& widget, const QMouseEvent& event) {
+  if (fncWindowViewOf(&widget) == nullptr) {
+    return false;
+  }
+  if (event.type() == QEvent::MouseMove) {
+    return fncMoved(widget, event);
+  }
+  if (fncButton(event.button()) == 0) {
+    return true;
+  }
+  return event.type() == QEvent::MouseButtonRelease ? fncReleased(event)
+                                                    : fncPressed(widget, event);
 }
 
 bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
@@ -146,13 +124,17 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      blnTaken = fncPressed(widget, *static_cast<QMouseEvent*>(event));
-      break;
     case QEvent::MouseMove:
-      blnTaken = fncMoved(widget, *static_cast<QMouseEvent*>(event));
-      break;
     case QEvent::MouseButtonRelease:
-      blnTaken = fncReleased(*static_cast<QMouseEvent*>(event));
+      blnTaken = fncMouseEvent(widget, *static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::FocusIn:
+      // Not by the model: an assistive tool has set it, or the toolkit.
+      if (ControlView* view = fncControlViewOf(&widget); view != nullptr && !fncSyncing()) {
+        if (view->Source != view->Home.Source->ActiveControl) {
+          prcAct(*view, [](Control& control) { fncUserReach(control); });
+        }
+      }
       break;
     case QEvent::KeyPress:
       blnTaken = fncKeyPressed(widget, *static_cast<QKeyEvent*>(event));
@@ -180,9 +162,6 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       if (WindowView* view = fncWindowViewOf(&widget);
           view != nullptr && widget.isWindow() && view->Shell == &widget && !fncSyncing()) {
         Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
-        if (view->Source->Kind == WindowKind::Frame) {
-          prcRaiseFloats();
-        }
         if (window != nullptr) {
           prcActivate(*window);
         }
@@ -199,10 +178,11 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
 
 bool InputRouter::fncPressed(QWidget& widget, const QMouseEvent& event) {
   WindowView* home = fncWindowViewOf(&widget);
-  if (home == nullptr || fncLive(*home) == nullptr) {
+  if (fncLive(*home) == nullptr) {
     return false;
   }
-  if (held_.Target != nullptr || swallowed_ != Qt::NoButton) {
+  prcEndLost(event.buttons() & ~Qt::MouseButtons(event.button()));
+  if (held_.Button != Qt::NoButton) {
     return !held_.blnNative;  // A second button during a press.
   }
   if (fncActiveWindow() != home->Source && home->Source->Kind != WindowKind::Frame) {
@@ -217,73 +197,60 @@ bool InputRouter::fncPressControl(Control& control, QWidget& widget, const QMous
   if (own == nullptr) {
     return false;
   }
-  held_ = {&control, control.Serial, own, event.button(), fncNative(control.Kind)};
-  const bool blnHadFocus = control.Form->ActiveControl == &control;
+  // A box that selects its text as it gets the focus keeps it so: this press is not the toolkit's.
+  const bool blnSelects = control.Form->ActiveControl != &control;
+  held_ = {&control, control.Serial, own, event.button(), false};
   const Mouse mouse = fncMouse(*own, event.globalPosition(), fncButton(event.button()),
                                fncShift(event.modifiers()));
   bool blnStands = false;
   prcServe([&] { blnStands = fncUserPress(control, mouse); });
-  const bool blnUp = !QGuiApplication::mouseButtons().testFlag(event.button());
   if (!blnStands || fncHeldControl() == nullptr) {
-    held_ = {};
-    swallowed_ = blnUp ? Qt::NoButton : event.button();
+    held_.Target = nullptr;
     return true;
   }
-  if (blnUp) {
-    // The button came up while the handlers showed something: the press leads to no click.
-    prcRelease(std::exchange(held_, {}), QPointF(-1e6, -1e6), fncShift(event.modifiers()));
-    return true;
-  }
-  if (held_.blnNative) {
-    return &widget != own ? false : fncKeepsSelection(control, blnHadFocus);
-  }
+  held_.blnNative =
+      fncNative(control.Kind) && !(blnSelects && &widget == own && control.SelLength > 0);
   if (event.button() == Qt::LeftButton) {
     prcShowDown(own, true);
   }
-  return true;
+  const bool blnNative = held_.blnNative;
+  prcEndLost(QGuiApplication::mouseButtons());
+  return !blnNative;
+}
+
+void InputRouter::prcEndLost(Qt::MouseButtons down) {
+  if (held_.Button != Qt::NoButton && !down.testFlag(held_.Button)) {
+    prcRelease(QPointF(-1e6, -1e6), 0);
+  }
 }
 
 Control* InputRouter::fncHeldControl() const {
-  if (held_.Target == nullptr || held_.Widget == nullptr) {
-    return nullptr;
-  }
-  const ControlView* view = fncControlViewOf(held_.Widget);
-  Control* control = view != nullptr ? fncLive(*view) : nullptr;
-  return control == held_.Target && control->Serial == held_.Serial ? control : nullptr;
-}
-
-bool InputRouter::fncHeldIsHidden() const {
-  return held_.Target != nullptr && (held_.Widget == nullptr || !held_.Widget->isVisible());
-}
-
-bool InputRouter::fncMovedOnWindow(const QMouseEvent& event) {
-  if (Control* control = fncHeldControl(); control != nullptr) {
-    const Mouse mouse = fncMouse(*held_.Widget, event.globalPosition(), fncButtons(event.buttons()),
-                                 fncShift(event.modifiers()));
-    prcServe([&] { prcUserMove(*control, mouse); });
-  }
-  return true;
+  Control* control = held_.Widget != nullptr ? fncMeant(*held_.Widget) : nullptr;
+  return control != nullptr && control == held_.Target && control->Serial == held_.Serial ? control
+                                                                                          : nullptr;
 }
 
 bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
-  if (swallowed_ != Qt::NoButton) {
-    return true;
+  prcEndLost(event.buttons());
+  return held_.Button == Qt::NoButton ? fncHovered(widget, event) : fncDragged(event);
+}
+
+bool InputRouter::fncDragged(const QMouseEvent& event) {
+  const bool blnOurs = held_.Button != Qt::NoButton && !held_.blnNative;
+  if (Control* control = fncHeldControl(); control != nullptr) {
+    QWidget& own = *held_.Widget;
+    const bool blnInside = own.rect().contains(own.mapFromGlobal(event.globalPosition()).toPoint());
+    prcShowDown(&own, blnInside && held_.Button == Qt::LeftButton);
+    const Mouse mouse = fncMouse(own, event.globalPosition(), fncButtons(event.buttons()),
+                                 fncShift(event.modifiers()));
+    prcServe([&] { prcUserMove(*control, mouse); });
   }
-  if (held_.Target == nullptr) {
-    return fncHovered(widget, event);
-  }
-  const bool blnNative = held_.blnNative;
-  fncMovedOnWindow(event);
-  if (held_.Widget != nullptr && held_.Button == Qt::LeftButton && !blnNative) {
-    prcShowDown(held_.Widget, held_.Widget->rect().contains(
-                                  held_.Widget->mapFromGlobal(event.globalPosition()).toPoint()));
-  }
-  return !blnNative;
+  return blnOurs;
 }
 
 bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   WindowView* home = fncWindowViewOf(&widget);
-  Window* window = home != nullptr ? fncLive(*home) : nullptr;
+  Window* window = fncLive(*home);
   if (window == nullptr || (home->Shell == &widget && home->Ground != &widget)) {
     return false;
   }
@@ -296,9 +263,6 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
     }
     return !fncNative(control->Kind);
   }
-  if (fncCovers(widget)) {
-    return true;
-  }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);
     prcServe([&] { window->On->MouseMove(*window, mouse); });
@@ -307,30 +271,24 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
 }
 
 bool InputRouter::fncReleased(const QMouseEvent& event) {
-  if (swallowed_ != Qt::NoButton) {
-    if (swallowed_ == event.button()) {
-      swallowed_ = Qt::NoButton;
-    }
-    return true;
+  const bool blnOurs = held_.Button != Qt::NoButton && !held_.blnNative;
+  if (held_.Button == event.button()) {
+    prcRelease(event.globalPosition(), fncShift(event.modifiers()));
   }
-  if (held_.Target == nullptr || held_.Button != event.button()) {
-    return held_.Target != nullptr && !held_.blnNative;
-  }
-  const bool blnNative = held_.blnNative;
-  if (fncHeldControl() != nullptr) {
-    prcRelease(std::exchange(held_, {}), event.globalPosition(), fncShift(event.modifiers()));
-  }
-  held_ = {};
-  return !blnNative;
+  return blnOurs;
 }
 
-void InputRouter::prcRelease(const Held& held, QPointF global, int shift) {
+void InputRouter::prcRelease(QPointF global, int shift) {
+  Control* control = fncHeldControl();
+  const Held held = std::exchange(held_, {});
+  if (control == nullptr) {
+    return;
+  }
   QWidget* widget = held.Widget;
   prcShowDown(widget, false);
   const bool blnInside =
       widget->isVisible() && widget->rect().contains(widget->mapFromGlobal(global).toPoint());
   const Mouse mouse = fncMouse(*widget, global, fncButton(held.Button), shift);
-  Control* control = held.Target;
   prcServe([&] { prcUserRelease(*control, mouse, blnInside); });
 }
 

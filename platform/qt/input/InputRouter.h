@@ -30,28 +30,33 @@ class InputRouter : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  /// A press under way: its control by address and serial, and the widget that it began on.
+  /// A press under way: its control by address and serial, and the widget that it began on. A press
+  /// that was refused has no control: nothing of it passes until its button comes up.
   struct Held {
     Control* Target = nullptr;
     std::uint32_t Serial = 0;
     QPointer<QWidget> Widget;
-    Qt::MouseButton Button = Qt::NoButton;
-    bool blnNative = false;  ///< The toolkit's widget follows the press by itself.
+    Qt::MouseButton Button = Qt::NoButton;  ///< None while there is no press.
+    bool blnNative = false;                 ///< The toolkit's widget follows the press by itself.
   };
 
+  // Each tells whether the event goes no further.
+  bool fncWidgetEvent(QWidget& widget, QEvent* event);
+  bool fncMouseEvent(QWidget& widget, const QMouseEvent& event);
   bool fncPressed(QWidget& widget, const QMouseEvent& event);
   bool fncPressControl(Control& control, QWidget& widget, const QMouseEvent& event);
   bool fncMoved(QWidget& widget, const QMouseEvent& event);
-  bool fncMovedOnWindow(const QMouseEvent& event);
-  bool fncReleased(const QMouseEvent& event);
+  bool fncDragged(const QMouseEvent& event);
   bool fncHovered(QWidget& widget, const QMouseEvent& event);
-  void prcRelease(const Held& held, QPointF global, int shift);
+  bool fncReleased(const QMouseEvent& event);
+
+  /// Ends a press whose button is no longer down: it came up while something else had the mouse,
+  /// such as a message answered by key. It leads to no click.
+  void prcEndLost(Qt::MouseButtons down);
+  void prcRelease(QPointF global, int shift);
   Control* fncHeldControl() const;
-  bool fncHeldIsHidden() const;
-  bool fncWidgetEvent(QWidget& widget, QEvent* event);
 
   Held held_;
-  Qt::MouseButton swallowed_ = Qt::NoButton;  ///< A void click: nothing of it passes.
 };
 
 /// A key goes down in the widget that has the focus. Returns whether that was all of it, so that

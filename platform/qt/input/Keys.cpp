@@ -3,12 +3,11 @@
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QShortcut>
 #include <algorithm>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/input/InputRouter.h"
-#include "platform/qt/views/ControlViews.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
@@ -49,14 +48,6 @@ bool fncModifierAlone(int key) {
          key == Qt::Key_unknown;
 }
 
-void prcMoveFocus(Window& window, bool blnBackwards) {
-  prcServe([&] {
-    if (Control* next = fncNextStop(window, blnBackwards); next != nullptr) {
-      fncSetFocus(*next);
-    }
-  });
-}
-
 /// The option before or behind one in its group, round about; none if there is no other.
 Control* fncFellow(const Control& option, bool blnBackwards) {
   std::vector<Control*> group;
@@ -72,12 +63,6 @@ Control* fncFellow(const Control& option, bool blnBackwards) {
   }
   const auto place = static_cast<std::size_t>(at - group.begin());
   return group[(place + (blnBackwards ? group.size() - 1 : 1)) % group.size()];
-}
-
-void prcClick(Control& control) {
-  if (ControlView* view = fncViewOf(control); view != nullptr) {
-    prcKeyClick(*view);
-  }
 }
 
 /// The button of a window that answers Enter or Escape.
@@ -111,7 +96,7 @@ bool fncAnswerKey(Window& window, Control* focused, int key) {
   if (answering == nullptr) {
     return false;
   }
-  prcClick(*answering);
+  prcAct(*answering, prcUserClick);
   return true;
 }
 
@@ -140,45 +125,78 @@ bool fncScrollKey(const Window& window, int key) {
     const bool blnBar =
         bar->Kind == ControlKind::HScrollBar || bar->Kind == ControlKind::VScrollBar;
     if (blnBar && fncSeen(*bar) && fncUsable(*bar) && fncScrolled(*bar, key) != bar->Value) {
-      prcServe([bar, key] { prcUserValue(*bar, fncScrolled(*bar, key)); });
+      prcAct(*bar, [key](Control& moved) { prcUserValue(moved, fncScrolled(moved, key)); });
       return true;
     }
   }
   return false;
 }
 
-/// Alt and a letter in a floating window mean the frame's menus and the keys of the table, and the
-/// keys of menu entries mean those, as the lists of cards have none of their own.
-bool fncFramesKey(const Window& window, const QKeyEvent& event) {
+/// The control of a window that an access key means: of several the next one behind the focus, else
+/// the first; none where none can be used.
+Control* fncMeant(const Window& window, int key) {
+  Control* first = nullptr;
+  bool blnBehind = false;
+  for (Control* control : window.Controls) {
+    if (control->AccessKey != key || control->Kind == ControlKind::Label || !fncSeen(*control) ||
+        !fncUsable(*control)) {
+      continue;
+    }
+    if (blnBehind) {
+      return control;
+    }
+    first = first == nullptr ? control : first;
+    blnBehind = control == window.ActiveControl;
+  }
+  return first;
+}
+
+/// Opens the menu of the frame with this key. The toolkit does so by itself where the frame has the
+/// input, not where a list of cards has it.
+bool fncMenuKey(int key) {
   const WindowView* frame = fncFrameView();
   auto* main = frame != nullptr ? qobject_cast<QMainWindow*>(frame->Shell) : nullptr;
-  if (window.Kind != WindowKind::Float || main == nullptr) {
-    return false;
-  }
-  if (QAction* entry = fncMenuEntryOf(event.key(), event.modifiers()); entry != nullptr) {
-    entry->trigger();
-    return true;
-  }
-  if (event.modifiers() != Qt::AltModifier) {
-    return false;
-  }
-  const QKeySequence keys(static_cast<int>(Qt::ALT) | event.key());
-  for (QAction* menu : main->menuBar()->actions()) {
+  const QKeySequence keys(static_cast<int>(Qt::ALT) | key);
+  for (QAction* menu : main != nullptr ? main->menuBar()->actions() : QList<QAction*>()) {
     if (menu->isVisible() && QKeySequence::mnemonic(menu->text()) == keys) {
       main->activateWindow();
       main->menuBar()->setActiveAction(menu);
       return true;
     }
   }
-  for (QShortcut* shortcut : main->findChildren<QShortcut*>()) {
-    const auto* owner = qobject_cast<QWidget*>(shortcut->parent());
-    if (shortcut->key() == keys && owner != nullptr && owner->isVisible() && owner->isEnabled()) {
-      main->activateWindow();
-      emit shortcut->activated();
-      return true;
+  return false;
+}
+
+/// Alt and a letter or digit: a control of the window that has the input, else of a window in the
+/// frame, else a menu. A dialog is alone.
+bool fncAccessKey(const Window& window, const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier) {
+    return false;
+  }
+  Control* meant = fncMeant(window, event.key());
+  const bool blnAlone = window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Start;
+  for (const Window* other : fncWindows()) {
+    if (meant == nullptr && !blnAlone && other->Kind == WindowKind::Child) {
+      meant = fncMeant(*other, event.key());
     }
   }
-  return false;
+  if (meant == nullptr) {
+    return window.Kind == WindowKind::Float && fncMenuKey(event.key());
+  }
+  prcAct(*meant, [](Control& control) {
+    control.Kind == ControlKind::Button ? prcUserClick(control) : void(fncUserReach(control));
+  });
+  return true;
+}
+
+/// The keys of the frame's menu entries, in a floating window; in the frame the toolkit knows them.
+bool fncEntryKey(const Window& window, const QKeyEvent& event) {
+  QAction* entry =
+      window.Kind == WindowKind::Float ? fncMenuEntryOf(event.key(), event.modifiers()) : nullptr;
+  if (entry != nullptr) {
+    entry->trigger();
+  }
+  return entry != nullptr;
 }
 
 /// The keys that mean the same in every window. Returns whether the key was one.
@@ -192,11 +210,17 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     }
     return true;
   }
-  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
-    prcMoveFocus(window, key == Qt::Key_Backtab);
+  if (blnCtrl && key == Qt::Key_F4) {
+    if (window.Kind == WindowKind::Child && window.CloseBox) {
+      prcServe([&] { prcUserClose(window); });
+    }
     return true;
   }
-  if (fncFramesKey(window, event)) {
+  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+    prcServe([&] { fncUserTab(window, key == Qt::Key_Backtab); });
+    return true;
+  }
+  if (fncAccessKey(window, event) || fncEntryKey(window, event)) {
     return true;
   }
   Control* focused = window.ActiveControl;
@@ -211,7 +235,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   }
   if (key == Qt::Key_Space && fncClickedBySpace(focused->Kind)) {
     if (!event.isAutoRepeat()) {
-      prcClick(*focused);
+      prcAct(*focused, prcUserClick);
     }
     return true;
   }
@@ -219,7 +243,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     const bool blnBack = key == Qt::Key_Left || key == Qt::Key_Up;
     if (blnBack || key == Qt::Key_Right || key == Qt::Key_Down) {
       if (Control* fellow = fncFellow(*focused, blnBack); fellow != nullptr) {
-        prcClick(*fellow);
+        prcAct(*fellow, prcUserClick);
       }
       return true;
     }

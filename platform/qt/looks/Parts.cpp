@@ -111,17 +111,6 @@ void prcDrawScrollBar(QPainter& painter, const QStyleOptionSlider& option, const
       option.sliderValue < option.maximum);
 }
 
-void prcDrawBoxEdge(QPainter& painter, const QRect& rect, bool blnFocus) {
-  const double line = fncScaled(blnFocus ? 1.5 : 1);
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor::fromRgb(blnFocus ? rgbDarkGold : rgbOutline), line));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(rect).adjusted(line / 2, line / 2, -line / 2, -line / 2),
-                          2 * fncScale(), 2 * fncScale());
-  painter.restore();
-}
-
 QSize fncPartSize(QStyle::ContentsType part, const QStyleOption* option, QSize size,
                   const QWidget* widget) {
   switch (part) {

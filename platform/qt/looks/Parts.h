@@ -20,9 +20,6 @@ void prcDrawArrow(QPainter& painter, const QRect& rect, Qt::ArrowType way, const
 void prcDrawScrollBar(QPainter& painter, const QStyleOptionSlider& option, const QWidget* widget,
                       const QStyle& style);
 
-/// Draws the outline of a box that takes input; stronger when it has the focus.
-void prcDrawBoxEdge(QPainter& painter, const QRect& rect, bool blnFocus);
-
 /// The size a part of the toolkit gets for its contents, of the one that the toolkit itself gives
 /// it.
 QSize fncPartSize(QStyle::ContentsType part, const QStyleOption* option, QSize size,

@@ -70,16 +70,10 @@ QPixmap fncDrawShadow(QSize size, double ratio) {
   return picture;
 }
 
-const QPixmap& fncKept(const Key& key, QPixmap (*draw)(int, QSize, double), QSize size,
-                       double ratio) {
-  const auto known = pixKept.find(key);
-  return known != pixKept.end()
-             ? known->second
-             : pixKept.emplace(key, draw(std::get<0>(key), size, ratio)).first->second;
-}
-
-Key fncKey(int number, QSize size, double ratio) {
-  return {number, size.width(), size.height(), static_cast<int>(std::lround(ratio * 1000))};
+/// The picture kept for a number and size; empty until it is drawn.
+QPixmap& fncKept(int number, QSize size, double ratio) {
+  return pixKept[{number, size.width(), size.height(),
+                  static_cast<int>(std::lround(ratio * 1000))}];
 }
 
 QCursor fncHand(int number, int hotX, int hotY) {
@@ -97,7 +91,11 @@ bool fncIsCard(int number) { return number >= 1 && number <= picCardBack; }
 QSize fncCardSize() { return {fncPixels(intCardWidthTwips), fncPixels(intCardHeightTwips)}; }
 
 const QPixmap& fncPicture(int number, QSize size, double ratio) {
-  return fncKept(fncKey(number, size, ratio), fncDraw, size, ratio);
+  QPixmap& kept = fncKept(number, size, ratio);
+  if (kept.isNull()) {
+    kept = fncDraw(number, size, ratio);
+  }
+  return kept;
 }
 
 QSize fncPictureSize(int number) {
@@ -113,8 +111,11 @@ QSize fncPictureSize(int number) {
 }
 
 const QPixmap& fncShadow(QSize size, double ratio) {
-  const auto draw = [](int, QSize of, double at) { return fncDrawShadow(of, at); };
-  return fncKept(fncKey(intShadowNumber, size, ratio), draw, size, ratio);
+  QPixmap& kept = fncKept(intShadowNumber, size, ratio);
+  if (kept.isNull()) {
+    kept = fncDrawShadow(size, ratio);
+  }
+  return kept;
 }
 
 int fncShadowMargin() { return fncScaled(5); }

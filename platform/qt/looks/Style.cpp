@@ -23,40 +23,13 @@ struct MetricRow {
   int Pixels;  ///< At scale 1.
 };
 
+/// Where the program differs from the toolkit's own measures. The others are the toolkit's, and
+/// grow all the same.
 constexpr MetricRow mtrRows[] = {
-    {QStyle::PM_IndicatorWidth, 14},
-    {QStyle::PM_IndicatorHeight, 14},
-    {QStyle::PM_ExclusiveIndicatorWidth, 14},
-    {QStyle::PM_ExclusiveIndicatorHeight, 14},
-    {QStyle::PM_CheckBoxLabelSpacing, 5},
-    {QStyle::PM_RadioButtonLabelSpacing, 5},
-    {QStyle::PM_ScrollBarExtent, 15},
-    {QStyle::PM_ScrollBarSliderMin, 26},
-    {QStyle::PM_SmallIconSize, 16},
-    {QStyle::PM_ButtonIconSize, 16},
-    {QStyle::PM_MessageBoxIconSize, 34},
-    {QStyle::PM_MenuBarItemSpacing, 3},
-    {QStyle::PM_MenuBarHMargin, 4},
-    {QStyle::PM_MenuBarVMargin, 1},
-    {QStyle::PM_MenuVMargin, 3},
-    {QStyle::PM_SliderThickness, 18},
-    {QStyle::PM_SliderLength, 13},
-    {QStyle::PM_ToolTipLabelFrameWidth, 4},
+    {QStyle::PM_MessageBoxIconSize, 34}, {QStyle::PM_MenuBarItemSpacing, 3},
+    {QStyle::PM_MenuBarHMargin, 4},      {QStyle::PM_MenuBarVMargin, 1},
+    {QStyle::PM_MenuVMargin, 3},         {QStyle::PM_ToolTipLabelFrameWidth, 4},
     {QStyle::PM_ButtonMargin, 8},
-    {QStyle::PM_DefaultFrameWidth, 1},
-    {QStyle::PM_FocusFrameHMargin, 2},
-    {QStyle::PM_SplitterWidth, 5},
-    {QStyle::PM_TabBarTabHSpace, 22},
-    {QStyle::PM_TabBarTabVSpace, 9},
-    {QStyle::PM_ToolBarItemSpacing, 1},
-    {QStyle::PM_ToolBarItemMargin, 1},
-    {QStyle::PM_ToolBarFrameWidth, 2},
-    {QStyle::PM_ToolBarSeparatorExtent, 7},
-    {QStyle::PM_TreeViewIndentation, 16},
-    {QStyle::PM_LayoutLeftMargin, 10},
-    {QStyle::PM_LayoutTopMargin, 10},
-    {QStyle::PM_LayoutRightMargin, 10},
-    {QStyle::PM_LayoutBottomMargin, 10},
 };
 
 /// The square of a check box or the circle of an option, with its mark.
@@ -92,6 +65,19 @@ void prcDrawIndicator(QPainter& painter, const QStyleOption& option, bool blnRou
   painter.restore();
 }
 
+/// The outline of a rectangle, of a line and with corners as broad as told at scale 1.
+void prcDrawOutline(QPainter& painter, const QRect& rect, QRgb colour, double line, double corner) {
+  const double width = fncScaled(line);
+  const double half = width / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor::fromRgb(colour), width));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), corner * fncScale(),
+                          corner * fncScale());
+  painter.restore();
+}
+
 class Dress : public QProxyStyle {
  public:
   Dress() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -99,8 +85,9 @@ class Dress : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     const auto* const row = std::ranges::find(mtrRows, metric, &MetricRow::Metric);
-    return row != std::end(mtrRows) ? fncScaled(row->Pixels)
-                                    : QProxyStyle::pixelMetric(metric, option, widget);
+    const int pixels =
+        row != std::end(mtrRows) ? row->Pixels : QProxyStyle::pixelMetric(metric, option, widget);
+    return pixels > 0 ? fncScaled(pixels) : pixels;
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -179,7 +166,9 @@ class Dress : public QProxyStyle {
       return;
     }
     if (element == PE_FrameLineEdit) {
-      prcDrawBoxEdge(*painter, option->rect, (option->state & State_HasFocus) != 0);
+      const bool blnFocus = (option->state & State_HasFocus) != 0;
+      prcDrawOutline(*painter, option->rect, blnFocus ? rgbDarkGold : rgbOutline,
+                     blnFocus ? 1.5 : 1, 2);
       return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -285,14 +274,7 @@ void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& stat
 }
 
 void prcDrawFocus(QPainter& painter, const QRect& rect, QRgb colour) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double half = fncScaled(1.5) / 2.0;
-  painter.setPen(QPen(QColor::fromRgb(colour), fncScaled(1.5)));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(rect).adjusted(half, half, -half, -half), 3 * fncScale(),
-                          3 * fncScale());
-  painter.restore();
+  prcDrawOutline(painter, rect, colour, 1.5, 3);
 }
 
 }  // namespace qt

@@ -1,7 +1,6 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
-#include <array>
-#include <optional>
+#include <vector>
 
 #include "platform/platform.h"
 #include "platform/qt/machine/Closing.h"
@@ -13,34 +12,37 @@ namespace qt {
 
 namespace {
 
-/// While it lives the toolkit is told of no desktop scale factor: the program is fitted to the
-/// pixels of the screen as it is, and a factor on top would only round type and lines to coarser
-/// steps. Programs started from here find the factor again.
-class ScreenPixels {
- public:
-  ScreenPixels() {
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
-    for (std::size_t i = 0; i < strNames.size(); ++i) {
-      bytKept.at(i) = qgetenv(strNames.at(i));
-      qunsetenv(strNames.at(i));
-    }
-    qputenv(strNames[0], "0");
-  }
-  ~ScreenPixels() {
-    qunsetenv(strNames[0]);
-    for (std::size_t i = 0; i < strNames.size(); ++i) {
-      if (!bytKept.at(i).isNull()) {
-        qputenv(strNames.at(i), bytKept.at(i));
-      }
-    }
-  }
-  Q_DISABLE_COPY_MOVE(ScreenPixels)
-
- private:
-  static constexpr std::array<const char*, 3> strNames{
-      "QT_ENABLE_HIGHDPI_SCALING", "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS"};
-  std::array<QByteArray, 3> bytKept;
+struct Variable {
+  const char* Name;
+  QByteArray Value;  ///< A null one takes the variable away.
 };
+
+/// What the toolkit is told while it comes up, whatever the desktop says. The program is fitted to
+/// the pixels of the screen as it is: a scale factor or a font resolution on top would only round
+/// type and lines to coarser steps, or make them too large for their places. And where X11 is there
+/// beside Wayland it is taken, as Wayland neither tells nor takes the places of windows.
+std::vector<Variable> fncForToolkit() {
+  std::vector<Variable> rows{{"QT_ENABLE_HIGHDPI_SCALING", "0"},
+                             {"QT_SCALE_FACTOR", {}},
+                             {"QT_SCREEN_SCALE_FACTORS", {}},
+                             {"QT_FONT_DPI", "96"}};
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+  if (qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    rows.push_back({"QT_QPA_PLATFORM", "xcb;wayland"});
+  }
+#endif
+  return rows;
+}
+
+/// Puts variables into the environment and returns what stood there.
+std::vector<Variable> fncExchange(const std::vector<Variable>& rows) {
+  std::vector<Variable> before;
+  for (const auto& [name, value] : rows) {
+    before.push_back({name, qgetenv(name)});
+    value.isNull() ? qunsetenv(name) : qputenv(name, value);
+  }
+  return before;
+}
 
 /// The program ends when its last window is gone, as after it has been closed from the start
 /// screen.
@@ -61,9 +63,9 @@ int Run(int argc, char** argv, bool (*start)()) {
   QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
       Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-  std::optional<qt::ScreenPixels> pixels(std::in_place);
+  const std::vector<qt::Variable> before = qt::fncExchange(qt::fncForToolkit());
   QApplication application(argc, argv);
-  pixels.reset();
+  qt::fncExchange(before);  // Programs started from here find the desktop's own.
   qt::prcBringUpPlatform();
   qt::prcWatchOutside();
   bool blnStarted = false;

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/ChildShell.h"
-#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 
@@ -54,17 +54,8 @@ class PaintedRole : public QAccessibleWidget {
   }
 
   void doAction(const QString& name) override {
-    ControlView* view = painted_.fncView();
-    Control* control = view != nullptr ? fncLive(*view) : nullptr;
-    if (name == pressAction() && control != nullptr && control->On->MouseDown != nullptr) {
-      // Such as a chip, which learns from its button whether to add or to take.
-      prcServe([control] {
-        if (fncSeen(*control) && fncUsable(*control) && fncUserPress(*control, {intLeftButton})) {
-          prcUserRelease(*control, {intLeftButton}, true);
-        }
-      });
-    } else if (name == pressAction() && view != nullptr) {
-      prcKeyClick(*view);
+    if (name == pressAction() && painted_.fncView() != nullptr) {
+      prcAct(*painted_.fncView(), prcUserClick);
     } else {
       QAccessibleWidget::doAction(name);
     }

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/ControlViews.h"
@@ -72,15 +73,13 @@ QFont fncRowFont(const Type& face) {
 
 EditView::EditView(ControlView& view, QWidget* parent) : QLineEdit(parent), view_(&view) {
   setFocusPolicy(Qt::TabFocus);
-  setAcceptDrops(false);  // Text dropped into a box without the focus would never be checked.
+  setAcceptDrops(false);
   if (view.Drawn.Kind == ControlKind::MaskedEdit && *view.Drawn.Mask != '\0') {
     setValidator(new MaskFilter(view.Drawn, this));
   }
-  connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-    Control* box = view_ != nullptr ? fncLive(*view_) : nullptr;
-    if (box != nullptr) {
-      const std::string typed = text.toStdString();
-      prcServe([&] { prcUserText(*box, typed); });
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
+    if (view_ != nullptr && !blnShowing_) {
+      prcAct(*view_, [typed = text.toStdString()](Control& box) { prcUserText(box, typed); });
     }
   });
 }
@@ -105,16 +104,25 @@ void EditView::prcShowText() {
   const bool blnPlain =
       box->Kind != ControlKind::MaskedEdit || view_->Home.Source->ActiveControl == box;
   const QString shown = fncText(blnPlain ? box->Text : fncMaskShown(*box));
+  prcReservePrompt(blnPlain ? *box : Control{}, shown.size());
   if (shown == text()) {
     return;
   }
   // A shown format is no typed text: the mask's filter must not touch it.
+  blnShowing_ = true;
   const QValidator* filter = validator();
   setValidator(nullptr);
   const int at = cursorPosition();
   setText(shown);
   setCursorPosition(std::min(at, static_cast<int>(shown.size())));
   setValidator(filter);
+  blnShowing_ = false;
+}
+
+void EditView::prcReservePrompt(const Control& box, qsizetype typed) {
+  const auto places = std::ranges::count(std::string_view(box.Mask), '9');
+  prompt_ = QString(std::max(qsizetype{0}, qsizetype{places} - typed), QLatin1Char(box.Prompt));
+  setTextMargins(0, 0, fontMetrics().horizontalAdvance(prompt_), 0);
 }
 
 void EditView::prcSelect() {
@@ -159,8 +167,27 @@ void EditView::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
   if (hasFocus()) {
     QPainter painter(this);
+    prcDrawPrompt(painter);
     prcDrawFocus(painter, rect());
   }
+}
+
+void EditView::prcDrawPrompt(QPainter& painter) const {
+  if (prompt_.isEmpty()) {
+    return;
+  }
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  // The toolkit keeps two pixels free at either side of a line.
+  const QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+  const QRect line = room.adjusted(2, 0, -2 - textMargins().right(), 0);
+  QRect text = fontMetrics().boundingRect(line, static_cast<int>(alignment()), this->text());
+  text.setWidth(fontMetrics().horizontalAdvance(this->text()));
+  QColor quiet = palette().color(QPalette::Text);
+  quiet.setAlphaF(0.4F);
+  painter.setPen(quiet);
+  painter.drawText(QRect(text.right() + 1, line.top(), textMargins().right(), line.height()),
+                   static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), prompt_);
 }
 
 RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), view_(&view) {

@@ -32,8 +32,13 @@ class EditView : public QLineEdit {
 
  private:
   bool fncRefuses(const QString& typed) const;
+  /// Keeps room behind the text for the prompt of the places of the mask that are still empty.
+  void prcReservePrompt(const Control& box, qsizetype typed);
+  void prcDrawPrompt(QPainter& painter) const;
 
   ControlView* view_;
+  QString prompt_;
+  bool blnShowing_ = false;  ///< The text changes to what the model says, not by the user.
 };
 
 /// A list whose rows follow the control's List; rows that are only added are appended.

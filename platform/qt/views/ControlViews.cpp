@@ -1,7 +1,6 @@
 #include "platform/qt/views/ControlViews.h"
 
 #include <QScrollBar>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
@@ -9,6 +8,7 @@
 #include <cmath>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
@@ -37,14 +37,10 @@ bool fncPainted(ControlKind kind) {
   }
 }
 
-/// Whether nothing would happen at this control, so that what lies below gets the mouse. Labels and
-/// pictures keep it all the same: over them the mouse is not on bare ground.
-bool fncMouseless(const Control& control) {
-  const ControlEvents& on = *control.On;
-  return fncPainted(control.Kind) && control.Kind != ControlKind::Label &&
-         control.Kind != ControlKind::Picture && on.Click == nullptr && on.MouseDown == nullptr &&
-         on.MouseMove == nullptr && on.MouseUp == nullptr && control.ToolTip.empty() &&
-         control.MousePointer == Pointer::Arrow;
+/// What only adorns lets the mouse through to what lies below. Whatever may hold other controls
+/// must not: the toolkit would let them go with it.
+bool fncMouseless(ControlKind kind) {
+  return kind == ControlKind::Shape || kind == ControlKind::Line;
 }
 
 // What each kind has of its own. A make function gives the widget, an update function brings it to
@@ -79,7 +75,7 @@ void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
 template <class View>
 void prcConnectClick(ControlView& view, View* widget) {
   widget->setFocusPolicy(Qt::TabFocus);
-  QObject::connect(widget, &View::clicked, widget, [&view] { prcKeyClick(view); });
+  QObject::connect(widget, &View::clicked, widget, [&view] { prcAct(view, prcUserClick); });
 }
 
 QWidget* fncMakeButton(ControlView& view, QWidget* parent) {
@@ -166,9 +162,7 @@ QWidget* fncMakeRange(ControlView& view, QWidget* parent) {
   }
   range->setFocusPolicy(blnSlider ? Qt::TabFocus : Qt::NoFocus);
   QObject::connect(range, &QAbstractSlider::valueChanged, range, [&view](int value) {
-    if (Control* control = fncLive(view); control != nullptr) {
-      prcServe([&] { prcUserValue(*control, value); });
-    }
+    prcAct(view, [value](Control& moved) { prcUserValue(moved, value); });
   });
   return range;
 }
@@ -268,51 +262,6 @@ bool fncPlacedByLayout(ControlKind kind) {
   return kind == ControlKind::Toolbar || kind == ControlKind::ToolButton;
 }
 
-/// The control that an access key means: of several in its window the next one behind the focus,
-/// else the first; none where none can be used.
-Control* fncMeant(const Window& window, char key) {
-  Control* first = nullptr;
-  bool blnBehind = false;
-  for (Control* control : window.Controls) {
-    const bool blnSame = control->AccessKey == key && control->Kind != ControlKind::Label;
-    if (blnSame && fncSeen(*control) && fncUsable(*control)) {
-      if (blnBehind && control != window.ActiveControl) {
-        return control;
-      }
-      first = first == nullptr ? control : first;
-    }
-    blnBehind = blnBehind || (blnSame && control == window.ActiveControl);
-  }
-  return first;
-}
-
-void prcUseAccessKey(const ControlView& pressed) {
-  const Control* live = fncLive(pressed);
-  Control* control = live != nullptr ? fncMeant(*live->Form, live->AccessKey) : nullptr;
-  if (control == nullptr) {
-    return;
-  }
-  if (fncActiveWindow() != control->Form) {
-    prcBringUp(*control->Form);
-  }
-  if (control->Kind != ControlKind::Button) {
-    prcServe([control] { fncSetFocus(*control); });
-  } else if (ControlView* view = fncViewOf(*control); view != nullptr) {
-    prcKeyClick(*view);
-  }
-}
-
-void prcMakeAccessKey(ControlView& view) {
-  if (view.Drawn.AccessKey == 0 || view.Drawn.Kind == ControlKind::Label) {
-    return;
-  }
-  const QKeySequence keys(static_cast<int>(Qt::ALT) | view.Drawn.AccessKey);
-  auto* shortcut = new QShortcut(keys, view.Widget);
-  for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously}) {
-    QObject::connect(shortcut, signal, view.Widget, [&view] { prcUseAccessKey(view); });
-  }
-}
-
 /// Cuts what was tied to an object here, and leaves what others tied to it: the toolkit forgets an
 /// object's accessible face by the signal of its end.
 void prcSilence(QObject& object) { QObject::disconnect(&object, nullptr, &object, nullptr); }
@@ -331,7 +280,7 @@ void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
   if (blnFirst ? next.MousePointer != Pointer::Arrow : drawn.MousePointer != next.MousePointer) {
     widget.setCursor(fncCursor(next.MousePointer));
   }
-  widget.setAttribute(Qt::WA_TransparentForMouseEvents, fncMouseless(next));
+  widget.setAttribute(Qt::WA_TransparentForMouseEvents, fncMouseless(next.Kind));
   if (fncPlacedByLayout(next.Kind)) {
     if (next.Kind == ControlKind::Toolbar) {
       widget.setVisible(next.Visible);
@@ -357,7 +306,7 @@ void prcMakeControl(ControlView& view, QWidget* parent) {
     prcNoteWidget(view.Widget, &view);
     view.Widget->setObjectName(fncObjectName(control));
     view.Widget->setMouseTracking(true);
-    prcMakeAccessKey(view);
+    view.Widget->setContextMenuPolicy(Qt::PreventContextMenu);
   }
   if (view.Widget != nullptr || view.Helper != nullptr) {
     row.Update(view, control, true);
@@ -399,7 +348,6 @@ void prcDropControl(ControlView& view) {
     return;
   }
   prcForgetWidget(view.Widget);
-  qDeleteAll(view.Widget->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly));
   if (auto* painted = qobject_cast<PaintedView*>(view.Widget); painted != nullptr) {
     painted->prcDetach();
   } else if (auto* button = qobject_cast<ButtonView*>(view.Widget); button != nullptr) {
@@ -473,18 +421,6 @@ QString fncObjectName(const Control& control) {
   const QString name = QString::fromUtf8(control.Name);
   return control.Index < 0 ? name
                            : QStringLiteral("%1(%2)").arg(name).arg(std::int16_t{control.Index});
-}
-
-void prcKeyClick(ControlView& view) {
-  Control* control = fncLive(view);
-  if (control == nullptr || !fncSeen(*control) || !fncUsable(*control)) {
-    return;
-  }
-  prcServe([control] {
-    if (!fncTakesFocus(*control) || fncSetFocus(*control)) {
-      prcUserClick(*control);
-    }
-  });
 }
 
 }  // namespace qt

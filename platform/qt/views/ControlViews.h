@@ -35,7 +35,4 @@ QString fncObjectName(const Control& control);
 /// The text of a control as the toolkit takes it.
 QString fncText(const std::string& text);
 
-/// A click by key, by access key or by a screen reader: the focus moves first, then the click runs.
-void prcKeyClick(ControlView& view);
-
 }  // namespace qt

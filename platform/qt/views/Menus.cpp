@@ -8,12 +8,12 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Buttons.h"
 #include "platform/qt/views/ControlViews.h"
-#include "platform/qt/windows/Loop.h"
 
 namespace qt {
 
@@ -51,13 +51,9 @@ void prcShowCheck(QAction& action, const Control& control) {
 }
 
 void prcTriggered(ControlView& view) {
-  Control* entry = fncLive(view);
-  if (entry == nullptr) {
-    return;
-  }
   const QPointer<QAction> action = fncAction(view);
-  prcServe([entry] { prcUserClick(*entry); });
-  if (action != nullptr && fncLive(view) == entry) {
+  prcAct(view, prcUserClick);
+  if (const Control* entry = action != nullptr ? fncLive(view) : nullptr; entry != nullptr) {
     prcShowCheck(*action, *entry);
   }
 }
@@ -168,7 +164,7 @@ void prcMakeTool(ControlView& view, QWidget* bar) {
   button->setFocusPolicy(Qt::NoFocus);
   view.Widget = button;
   view.Helper = toolbar->addWidget(button);
-  QObject::connect(button, &QToolButton::clicked, button, [&view] { prcKeyClick(view); });
+  QObject::connect(button, &QToolButton::clicked, button, [&view] { prcAct(view, prcUserClick); });
 }
 
 void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst) {

@@ -182,18 +182,16 @@ void prcDrawGroup(QPainter& painter, const Control& control, const QRect& rect) 
   painter.setPen(QPen(QColor::fromRgb(rgbOutline), fncScaled(1)));
   painter.setBrush(control.BackColor.Clear ? QBrush(Qt::NoBrush)
                                            : QBrush(fncColour(control.BackColor)));
-  if (!title.isEmpty()) {
-    const QRect gap(fncScaled(8), 0, metrics.horizontalAdvance(title) + fncScaled(6),
-                    metrics.height());
-    painter.setClipRegion(QRegion(rect) - QRegion(gap));
-    painter.drawRoundedRect(box, 5 * fncScale(), 5 * fncScale());
-    painter.setClipping(false);
-    painter.setFont(font);
-    painter.setPen(fncColour(control.ForeColor));
-    painter.drawText(gap, Qt::AlignCenter, title);
-  } else {
-    painter.drawRoundedRect(box, 5 * fncScale(), 5 * fncScale());
-  }
+  const QRect gap = title.isEmpty()
+                        ? QRect()
+                        : QRect(fncScaled(8), 0, metrics.horizontalAdvance(title) + fncScaled(6),
+                                metrics.height());
+  painter.setClipRegion(QRegion(rect) - QRegion(gap));
+  painter.drawRoundedRect(box, 5 * fncScale(), 5 * fncScale());
+  painter.setClipping(false);
+  painter.setFont(font);
+  painter.setPen(fncColour(control.ForeColor));
+  painter.drawText(gap, Qt::AlignCenter, title);
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ bool fncCutsPicture(const Control& control);
 /// The control's face, made smaller where its text would not fit into size otherwise.
 QFont fncFittedFont(const Control& control, QSize size);
 
-/// A sunken or raised group frame with its title, for frames of controls.
+/// Draws a control of one of these kinds into rect, and the mark of the focus where it has it.
 void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect, bool blnFocus);
 
 }  // namespace qt

@@ -56,6 +56,15 @@ void prcFillBox(QMessageBox& box, const std::string& text, platform::Icon icon,
   box.setDefaultButton(standard == platform::Answer::Ok ? QMessageBox::Ok : QMessageBox::Cancel);
 }
 
+/// The window that a message belongs to: the one that has the input, or is to have it where another
+/// message has just gone.
+QWidget* fncInput() {
+  QWidget* active = QApplication::activeWindow();
+  const Window* window = qt::fncActiveWindow();
+  const qt::WindowView* view = window != nullptr ? qt::fncViewOf(*window) : nullptr;
+  return active != nullptr || view == nullptr ? active : view->Shell->window();
+}
+
 }  // namespace
 
 namespace platform {
@@ -64,7 +73,7 @@ Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Butt
               Answer standard) {
   qt::prcThrowIfEnded();
   qt::prcSyncAll();
-  const QPointer<QWidget> parent(QApplication::activeWindow());
+  const QPointer<QWidget> parent(fncInput());
   const auto box = std::make_unique<QMessageBox>();
   prcFillBox(*box, text, icon, title, buttons, standard);
   if (parent != nullptr && parent->windowHandle() != nullptr) {

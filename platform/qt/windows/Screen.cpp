@@ -1,13 +1,14 @@
 #include "platform/qt/windows/Screen.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QHash>
 #include <algorithm>
+#include <optional>
 #include <unordered_set>
 #include <utility>
 
+#include "platform/platform.h"
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/Loop.h"
@@ -17,7 +18,7 @@ namespace qt {
 
 namespace {
 
-constexpr int intFrameMilliseconds = 8;
+constexpr std::uint32_t lngFrameMilliseconds = 8;
 
 // The widgets' index stands first, so that it outlives the views, whose end still looks into it.
 QHash<const QWidget*, ControlView*> vwByWidget;
@@ -25,7 +26,7 @@ std::vector<std::unique_ptr<WindowView>> vwWindows;
 Window* wndActive = nullptr;
 Window* wndLastChild = nullptr;
 bool blnSyncing = false;
-QElapsedTimer clkSynced;
+std::optional<std::uint32_t> tckSynced;  // When all windows were last brought up to date.
 
 bool fncLoaded(const Window* window, std::int32_t handle) {
   return std::ranges::find(fncWindows(), window) != fncWindows().end() &&
@@ -118,8 +119,10 @@ void prcMatchStack(WindowView& home) {
 
 void prcSyncControls(WindowView& home) {
   prcMatchStack(home);
-  const bool blnFocusMoved = home.DrawnActive != home.Source->ActiveControl;
+  const bool blnFocusMoved =
+      home.DrawnActive != home.Source->ActiveControl || home.DrawnFocus != home.Source->FocusGiven;
   home.DrawnActive = home.Source->ActiveControl;
+  home.DrawnFocus = home.Source->FocusGiven;
   for (const std::unique_ptr<ControlView>& view : home.Controls) {
     if (!(view->Drawn == *view->Source)) {
       prcUpdateControl(*view, *view->Source);
@@ -155,23 +158,36 @@ void prcAddLoaded() {
   }
 }
 
+/// The input of a window that has gone is due to the child that the frame's belongs to; the toolkit
+/// would hand it to any widget, and the model not hear of it.
+void prcHandOnInput() {
+  if (wndActive == nullptr || !wndActive->Visible) {
+    const Window* next = fncFrameInput();
+    if (WindowView* view = next != nullptr ? fncViewOf(*next) : nullptr; view != nullptr) {
+      view->blnShown = true;
+    }
+  }
+}
+
 void prcSyncOnce() {
   blnSyncing = true;
   prcDropUnloaded();
   prcAddLoaded();
-  // Frames last, so that they come up with everything in them.
-  for (const bool blnFrames : {false, true}) {
+  // The frame comes up with everything in it, and the windows that stand before it come after it.
+  for (const WindowKind kind : {WindowKind::Child, WindowKind::Frame, WindowKind::Float,
+                                WindowKind::Dialog, WindowKind::Start}) {
     for (const std::unique_ptr<WindowView>& view : vwWindows) {
-      if ((view->Source->Kind == WindowKind::Frame) == blnFrames) {
+      if (view->Source->Kind == kind) {
         prcSyncControls(*view);
         prcSyncWindow(*view);
       }
     }
   }
+  prcHandOnInput();
   prcFollowActive();
   prcTellEar();
   blnSyncing = false;
-  clkSynced.start();
+  tckSynced = platform::TickCount();
 }
 
 /// The window to be resized or activated next; none if nothing is due. Of several that have come
@@ -240,7 +256,7 @@ void prcSyncAll() {
 }
 
 void prcSyncIfDue() {
-  if (!clkSynced.isValid() || clkSynced.elapsed() >= intFrameMilliseconds) {
+  if (!tckSynced || platform::TickCount() - *tckSynced >= lngFrameMilliseconds) {
     prcSyncAll();
   }
 }
@@ -262,7 +278,7 @@ void prcClearScreen() {
   vwByWidget.clear();
   wndActive = nullptr;
   wndLastChild = nullptr;
-  clkSynced.invalidate();
+  tckSynced.reset();
 }
 
 WindowView* fncViewOf(const Window& window) {

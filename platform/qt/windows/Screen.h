@@ -59,6 +59,7 @@ struct WindowView {
   bool blnResized = false;         ///< The inner size has changed; its handler is due.
   bool blnShown = false;           ///< It has come up and is to get the input.
   Control* DrawnActive = nullptr;  ///< Compared only.
+  std::uint32_t DrawnFocus = 0;    ///< FocusGiven of the window as shown last.
   std::vector<std::unique_ptr<ControlView>> Controls;  ///< In the order of the stack.
   std::unordered_map<const Control*, ControlView*> ByControl;
 };

@@ -45,20 +45,11 @@ void RepaintNow(Control& control) {
 
 void RunModal(Window& window) {
   qt::prcThrowIfEnded();
-  const Window* before = qt::fncActiveWindow();
   const std::int32_t handle = window.hWnd;
-  {
-    const qt::Modal modal(window);
-    qt::prcSyncAll();
-    qt::prcBringUp(window);
-    qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
-    qt::prcSyncAll();
-  }
-  const auto& loaded = fncWindows();
-  const auto found = std::find(loaded.begin(), loaded.end(), before);
-  if (found != loaded.end() && (*found)->Visible) {
-    qt::prcBringUp(**found);
-  }
+  qt::prcSyncAll();
+  qt::prcBringUp(window);
+  qt::prcServeUntil([&] { return !window.Visible || std::int32_t{window.hWnd} != handle; });
+  qt::prcSyncAll();
 }
 
 void Activate(Window& window) {

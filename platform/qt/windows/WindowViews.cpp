@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
@@ -15,16 +16,11 @@
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/ChildShell.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Topmost.h"
 
 namespace qt {
 
 namespace {
-
-std::vector<const Window*> wndModal;  // Innermost last.
-
-bool fncModal(const Window& window) {
-  return std::ranges::find(wndModal, &window) != wndModal.end();
-}
 
 ChildShell* fncChild(const WindowView& view) { return qobject_cast<ChildShell*>(view.Shell); }
 
@@ -35,11 +31,30 @@ QRect fncDesk() {
 
 Qt::WindowFlags fncFlags(const Window& window) {
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-  flags |= window.Kind == WindowKind::Dialog ? Qt::Dialog : Qt::Tool;
-  flags.setFlag(Qt::WindowCloseButtonHint, window.CloseBox);
-  flags.setFlag(Qt::WindowStaysOnTopHint, window.Topmost);
-  return flags;
+  flags |= window.Kind == WindowKind::Dialog ? Qt::Dialog : Qt::Window;
+  return flags.setFlag(Qt::WindowCloseButtonHint, window.CloseBox);
 }
+
+/// A floating window that comes up stands before the frame, and leaves the frame the input: some
+/// window managers give it away, others put what comes up without it below what has it.
+void prcStandBefore(QWidget& shell) {
+  if (const WindowView* frame = fncFrameView(); frame != nullptr && frame->Shell->isVisible()) {
+    frame->Shell->activateWindow();
+  }
+  shell.raise();
+}
+
+/// Brings the windows up to date when the frame comes on the screen or goes.
+class FrameWatch : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    if (event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange) {
+      QTimer::singleShot(0, this, [] { prcSyncAll(); });
+    }
+    return false;
+  }
+};
 
 void prcMakeFrame(WindowView& view) {
   auto* frame = new QMainWindow;
@@ -50,10 +65,13 @@ void prcMakeFrame(WindowView& view) {
   frame->menuBar()->setNativeMenuBar(false);
   view.Shell = frame;
   view.Ground = field;
+  frame->winId();
+  frame->windowHandle()->installEventFilter(new FrameWatch(frame));
 }
 
 void prcMakeChild(WindowView& view, WindowView& frame) {
   auto* shell = new ChildShell(view, frame.Ground);
+  shell->hide();  // Said, so that it does not come up with the frame.
   view.Shell = shell;
   view.Ground = new GroundView(*view.Source, shell);
 }
@@ -61,6 +79,9 @@ void prcMakeChild(WindowView& view, WindowView& frame) {
 void prcMakeTop(WindowView& view) {
   view.Shell = new GroundView(*view.Source, nullptr, fncFlags(*view.Source));
   view.Shell->setAttribute(Qt::WA_ShowWithoutActivating, view.Source->Kind == WindowKind::Float);
+  if (view.Source->Kind == WindowKind::Dialog) {
+    view.Shell->setWindowModality(Qt::ApplicationModal);
+  }
   view.Ground = view.Shell;
 }
 
@@ -110,42 +131,13 @@ void prcKeepInner(WindowView& view) {
   }
 }
 
-/// A size that makes sense for a window designed to be this large; a damaged one is replaced.
-double fncSoundSize(double asked, double designed) {
-  return asked < designed || asked > 4 * designed ? designed : asked;
-}
-
-/// Stored places can be damaged or come from a larger screen: a child keeps a size to work with,
-/// and its top within the screen. What it really gets is written back.
-void prcMendChild(Window& window) {
-  if (!window.Sizable && window.MinWidth > 0) {
-    const double width = fncSoundSize(window.Width, window.MinWidth);
-    if (width != window.Width) {
-      window.Left = (platform::ScreenWidth() - width) / 2;
-    }
-    window.Width = width;
-    window.Height = fncSoundSize(window.Height, window.MinHeight);
-  }
-  constexpr double least = 1200;
-  window.Height = std::max(window.Height, least);
-  window.Top = std::clamp(window.Top, 0.0, std::max(0.0, platform::ScreenHeight() - 2 * least));
-}
-
 void prcPlaceChild(WindowView& view) {
-  Window& window = *view.Source;
-  prcMendChild(window);
+  const Window& window = *view.Source;
   const QMargins frame = fncFrameOf(view);
   QRect place = fncPixelRect(window.Left, window.Top, window.Width, window.Height);
   place.setWidth(std::max(place.width(), frame.left() + frame.right()));
   place.setHeight(std::max(place.height(), frame.top() + frame.bottom()));
   view.Shell->setGeometry(place);
-}
-
-/// Moves a place into the desk, so that a window stored on a larger screen can be reached.
-QPoint fncReachable(QPoint at, QSize size) {
-  const QRect desk = fncDesk();
-  return {std::clamp(at.x(), desk.left(), std::max(desk.left(), desk.right() + 1 - size.width())),
-          std::clamp(at.y(), desk.top(), std::max(desk.top(), desk.bottom() + 1 - size.height()))};
 }
 
 void prcPlaceTop(WindowView& view) {
@@ -166,8 +158,6 @@ void prcPlaceTop(WindowView& view) {
     at = fncDesk().center() - QPoint(inner.width() / 2, inner.height() / 2);
     window.Left = fncTwips(at.x());
     window.Top = fncTwips(at.y());
-  } else if (window.Kind != WindowKind::Frame) {
-    at = fncReachable(at, inner);
   }
   view.Shell->move(at);
 }
@@ -201,12 +191,8 @@ void prcPlaceWindow(WindowView& view) {
 
 void prcShowTop(WindowView& view) {
   const Window& window = *view.Source;
-  view.Shell->setWindowModality(fncModal(window) ? Qt::ApplicationModal : Qt::NonModal);
   const WindowView* frame = fncFrameView();
-  if ((window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Float) && frame != nullptr &&
-      frame->Source->Visible) {
-    // The frame itself may come on screen a moment later: the tie is kept by the native windows.
-    frame->Shell->winId();
+  if (window.Kind == WindowKind::Dialog && frame != nullptr) {
     view.Shell->winId();
     view.Shell->windowHandle()->setTransientParent(frame->Shell->windowHandle());
   }
@@ -215,28 +201,30 @@ void prcShowTop(WindowView& view) {
   } else {
     view.Shell->show();
   }
-  if (window.Kind == WindowKind::Start) {
-    // Some window managers give a window without a task bar entry no input unasked, and its keys
-    // would be dead.
-    view.Shell->activateWindow();
+  if (window.Kind == WindowKind::Float) {
+    prcStandBefore(*view.Shell);
   }
 }
 
-/// A window that is up takes its modality only by coming up again.
-void prcShowAnew(const Window& window) {
-  WindowView* view = fncViewOf(window);
-  if (view != nullptr && view->Shell->isVisible()) {
-    view->Shell->hide();
-    prcShowTop(*view);
+/// The floating windows are windows of their own, which the frame may cover. They are up while the
+/// frame is on the screen: before it they might come to lie behind it, and in the task bar it has
+/// them with it.
+bool fncIsUp(const Window& window) {
+  const WindowView* frame = window.Kind == WindowKind::Float ? fncFrameView() : nullptr;
+  if (frame == nullptr || !frame->Source->Visible) {
+    return window.Visible;
   }
+  return window.Visible && frame->Shell->windowHandle()->isExposed() &&
+         !frame->Shell->isMinimized();
 }
 
 void prcShowWindow(WindowView& view) {
   const Window& window = *view.Source;
-  if (view.Drawn.Visible == window.Visible && !view.blnFirst) {
+  const bool blnUp = fncIsUp(window);
+  if (view.Shell->isHidden() != blnUp) {
     return;
   }
-  if (!window.Visible) {
+  if (!blnUp) {
     prcHandOn(*view.Shell);
     view.Shell->hide();
     return;
@@ -246,24 +234,17 @@ void prcShowWindow(WindowView& view) {
     view.Shell->raise();
   } else {
     prcShowTop(view);
-    if (window.Topmost) {
-      view.Shell->raise();
-    }
   }
   view.blnResized = true;
   view.blnShown = window.Kind != WindowKind::Float;
 }
 
-/// Sets whether a window stays above others where it stands: nothing is hidden or moved for it.
-void prcKeepOnTop(WindowView& view) {
-  if (fncChild(view) != nullptr || view.Drawn.Topmost == view.Source->Topmost) {
-    return;
-  }
-  Qt::WindowFlags flags = view.Shell->windowFlags();
-  flags.setFlag(Qt::WindowStaysOnTopHint, view.Source->Topmost);
-  view.Shell->overrideWindowFlags(flags);
-  if (QWindow* handle = view.Shell->windowHandle(); handle != nullptr) {
-    handle->setFlags(flags);
+/// The window manager is told anew each time that a window comes up.
+void prcKeepOnTop(const WindowView& view) {
+  const Window& window = *view.Source;
+  const bool blnUp = fncChild(view) == nullptr && view.Shell->isVisible();
+  if (blnUp && (view.Drawn.Topmost != window.Topmost || (window.Topmost && !view.Drawn.Visible))) {
+    prcSetTopmost(*view.Shell, window.Topmost);
   }
 }
 
@@ -274,19 +255,27 @@ void prcRaiseWindow(WindowView& view) {
   view.Shell->raise();
 }
 
-DrawnWindow fncDrawn(const Window& window) {
+DrawnWindow fncDrawn(const WindowView& view) {
+  const Window& window = *view.Source;
   return {window.Caption, window.Left,       window.Top,         window.Width,
-          window.Height,  window.ScaleWidth, window.ScaleHeight, window.Visible,
+          window.Height,  window.ScaleWidth, window.ScaleHeight, !view.Shell->isHidden(),
           window.Topmost, window.BackColor,  window.Picture,     window.Raised};
+}
+
+/// Whether the system tells where a window is. Where it does not, the places that are known stay.
+bool fncPlacesAreTold() {
+  return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 /// Writes the place that a window has on the screen into the model; what rounds to the same pixels
 /// stays as it is.
 void prcTakePlace(WindowView& view) {
   Window& window = *view.Source;
-  const QRect outer =
-      fncChild(view) != nullptr ? view.Shell->geometry() : view.Shell->frameGeometry();
-  if (fncPixels(window.Left) != outer.left() || fncPixels(window.Top) != outer.top()) {
+  const bool blnChild = fncChild(view) != nullptr;
+  const QRect outer = blnChild ? view.Shell->geometry() : view.Shell->frameGeometry();
+  const bool blnMoved =
+      fncPixels(window.Left) != outer.left() || fncPixels(window.Top) != outer.top();
+  if (blnMoved && (blnChild || fncPlacesAreTold())) {
     window.Left = fncTwips(outer.left());
     window.Top = fncTwips(outer.top());
   }
@@ -337,14 +326,14 @@ void prcSyncWindow(WindowView& view) {
   if (view.Drawn.BackColor != window.BackColor || view.Drawn.Picture != window.Picture) {
     view.Ground->update();
   }
-  prcKeepOnTop(view);
   prcShowWindow(view);
+  prcKeepOnTop(view);
   prcRaiseWindow(view);
   if (window.Kind == WindowKind::Frame && window.Visible && window.Maximised) {
     prcTakePlace(view);
   }
   prcKeepInner(view);
-  view.Drawn = fncDrawn(window);
+  view.Drawn = fncDrawn(view);
   view.blnFirst = false;
 }
 
@@ -357,21 +346,9 @@ void prcWindowMoved(WindowView& view) {
     window->Maximised = view.Shell->isMaximized();
   }
   prcTakePlace(view);
-  view.Drawn = fncDrawn(*window);
+  view.Drawn = fncDrawn(view);
   if (view.blnResized) {
     prcSyncAll();
-  }
-}
-
-Modal::Modal(const Window& window) : window_(window) {
-  wndModal.push_back(&window);
-  prcShowAnew(window);
-}
-
-Modal::~Modal() {
-  std::erase(wndModal, &window_);
-  if (!fncEnded()) {
-    prcShowAnew(window_);
   }
 }
 
@@ -427,15 +404,6 @@ void prcBringUp(Window& window) {
   }
   view->Shell->update();
   prcActivate(window);
-}
-
-void prcRaiseFloats() {
-  for (const Window* window : fncWindows()) {
-    const WindowView* view = window->Kind == WindowKind::Float ? fncViewOf(*window) : nullptr;
-    if (view != nullptr && view->Shell->isVisible()) {
-      view->Shell->raise();
-    }
-  }
 }
 
 Window* fncNextChild() {

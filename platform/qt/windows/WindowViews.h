@@ -17,19 +17,6 @@ void prcSyncWindow(WindowView& view);
 /// its resize handler runs if it is due.
 void prcWindowMoved(WindowView& view);
 
-/// Makes a window modal for as long as this lives, from the next time it comes up; one that is up
-/// comes up anew.
-class Modal {
- public:
-  explicit Modal(const Window& window);
-  ~Modal();
-  Modal(const Modal&) = delete;
-  Modal& operator=(const Modal&) = delete;
-
- private:
-  const Window& window_;
-};
-
 /// Lets the keyboard focus follow the model: the active control of the active window.
 void prcFollowActive();
 
@@ -39,9 +26,6 @@ void prcHandOn(const QWidget& shell);
 
 /// Makes the window the one that has the input, on the screen and in the model.
 void prcBringUp(Window& window);
-
-/// Puts the floating windows above the frame, where the window manager has lost their order.
-void prcRaiseFloats();
 
 /// The next visible child of the frame or floating window behind the active one, in the order of
 /// their loading; none if there is no other.

@@ -1,0 +1,188 @@
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QProgressBar>
+#include <stdexcept>
+
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Painted.h"
+#include "tests/conformance/Adapter.h"
+#include "tests/stage/Stage.h"
+
+// The eyes: what a control or window shows, read from its widget.
+
+namespace stage {
+
+QWidget* fncWidget(const Control& control) {
+  const qt::ControlView* view = qt::fncViewOf(control);
+  return view == nullptr ? nullptr : view->Widget.data();
+}
+
+QAction* fncAction(const Control& control) {
+  const qt::ControlView* view = qt::fncViewOf(control);
+  QObject* helper = view == nullptr ? nullptr : view->Helper.data();
+  auto* menu = qobject_cast<QMenu*>(helper);
+  return menu != nullptr ? menu->menuAction() : qobject_cast<QAction*>(helper);
+}
+
+qt::WindowView& fncView(const Window& window) {
+  qt::WindowView* view = qt::fncViewOf(window);
+  return view != nullptr ? *view
+                         : throw std::logic_error(std::string("not on the screen: ") + window.Name);
+}
+
+double fncAgreed(double twips, int pixels) {
+  return qt::fncPixels(twips) == pixels ? twips : qt::fncTwips(pixels);
+}
+
+std::string fncTold(QString text) {
+  return text.replace(QLatin1Char('\n'), QLatin1String("\r\n")).toStdString();
+}
+
+namespace {
+
+/// Two edges that are rounded to the pixel may differ by one from a length that is.
+template <class Placed>
+void prcSeePlace(Placed& seen, const QRect& place, const QRect& known) {
+  if (known != place) {
+    seen.Left = fncAgreed(seen.Left, place.left());
+    seen.Top = fncAgreed(seen.Top, place.top());
+    seen.Width = fncAgreed(seen.Width, place.width());
+    seen.Height = fncAgreed(seen.Height, place.height());
+  }
+}
+
+Pointer fncPointer(const QCursor& cursor) {
+  for (const Pointer known : {Pointer::Arrow, Pointer::SizeUpDown, Pointer::SizeLeftRight,
+                              Pointer::HandUp, Pointer::HandRight, Pointer::HandLink}) {
+    const QCursor drawn = qt::fncCursor(known);
+    if (drawn.shape() == cursor.shape() && drawn.hotSpot() == cursor.hotSpot()) {
+      return known;
+    }
+  }
+  throw std::logic_error("a pointer that no control has");
+}
+
+void prcSeeAction(Control& seen, const QAction& action) {
+  seen.Visible = action.isVisible();
+  seen.Enabled = action.isVisible() ? action.isEnabled() : seen.Enabled;  // Hidden ones say no.
+  seen.Text = action.isSeparator() ? "-" : action.text().toStdString();
+  seen.ToolTip = seen.ToolTip.empty() ? "" : action.toolTip().toStdString();
+  seen.Value = action.isChecked() ? 1 : 0;
+}
+
+void prcSeeText(Control& seen, const QLineEdit& edit) {
+  const bool blnPlain =
+      seen.Kind != ControlKind::MaskedEdit || fncMaskShown(seen) != fncTold(edit.text());
+  seen.Text = blnPlain ? fncTold(edit.text()) : seen.Text;
+  if (edit.hasFocus()) {
+    seen.SelLength = static_cast<int>(edit.selectedText().size());
+  }
+}
+
+void prcSeeRows(Control& seen, const QListWidget& list) {
+  seen.List.clear();
+  for (int row = 0; row < list.count(); ++row) {
+    seen.List.push_back(list.item(row)->text().toStdString());
+  }
+  seen.ListIndex = list.currentRow();
+}
+
+/// What the widget of its kind shows of a control.
+void prcSeeKind(Control& seen, const qt::ControlView& view) {
+  QWidget* widget = view.Widget;
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    prcSeeText(seen, *edit);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    seen.Text = fncTold(button->text());
+    seen.Value = button->isCheckable() ? (button->isChecked() ? 1 : 0) : seen.Value;
+  } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
+    prcSeeRows(seen, *list);
+  } else if (auto* bar = qobject_cast<QProgressBar*>(widget)) {
+    seen.Value = bar->value() == std::lround(seen.Value) ? seen.Value : bar->value();
+    seen.Max = bar->maximum() == std::lround(seen.Max) ? seen.Max : bar->maximum();
+  } else if (auto* range = qobject_cast<QAbstractSlider*>(widget)) {
+    const auto see = [](double& known, int shown) {
+      known = std::lround(known) == shown ? known : shown;
+    };
+    see(seen.Value, range->value());
+    seen.Max = std::max(seen.Max, seen.Min) == range->maximum() ? seen.Max : range->maximum();
+    see(seen.SmallChange, range->singleStep());
+    see(seen.LargeChange, range->pageStep());
+  } else if (qobject_cast<qt::PaintedView*>(widget) != nullptr) {
+    seen.MousePointer =
+        widget->testAttribute(Qt::WA_SetCursor) ? fncPointer(widget->cursor()) : Pointer::Arrow;
+    // Painted from the view's own copy, so that copy is what shows.
+    seen.Text = view.Drawn.Text;
+    seen.ForeColor = view.Drawn.ForeColor;
+    seen.FillColor = view.Drawn.FillColor;
+    seen.BorderColor = view.Drawn.BorderColor;
+    seen.Picture = view.Drawn.Picture;
+  }
+}
+
+/// The control that the keyboard is at, within a window that has the input.
+const Control* fncAtKeyboard(const Window& window) {
+  const qt::ControlView* at = qt::fncControlViewOf(QApplication::focusWidget());
+  return at != nullptr && at->Home.Source == &window ? at->Source : nullptr;
+}
+
+}  // namespace
+
+}  // namespace stage
+
+namespace user {
+
+Control Seen(const Control& control) {
+  Control seen = control;
+  const qt::ControlView* view = qt::fncViewOf(control);
+  if (view == nullptr) {
+    return seen;  // Its window has not come up: nothing of it shows.
+  }
+  const QAction* action = stage::fncAction(control);
+  if (action != nullptr && view->Widget == nullptr) {
+    stage::prcSeeAction(seen, *action);
+    return seen;
+  }
+  if (view->Widget == nullptr) {
+    return seen;
+  }
+  if (control.Kind != ControlKind::Toolbar) {  // A bar that cannot be used is hidden.
+    seen.Enabled = view->Widget->isEnabledTo(view->Widget->parentWidget());
+  }
+  seen.Visible = action != nullptr ? action->isVisible() : !view->Widget->isHidden();
+  seen.ToolTip = view->Widget->toolTip().toStdString();
+  if (control.Kind != ControlKind::Toolbar && control.Kind != ControlKind::ToolButton) {
+    stage::prcSeePlace(seen, view->Widget->geometry(), qt::fncPlace(seen));
+  }
+  stage::prcSeeKind(seen, *view);
+  return seen;
+}
+
+Window Seen(const Window& window) {
+  Window seen = window;
+  const qt::WindowView* view = qt::fncViewOf(window);
+  if (view == nullptr) {
+    seen.Visible = false;
+    return seen;
+  }
+  const QWidget& shell = *view->Shell;
+  const QRect place = shell.isWindow() ? shell.frameGeometry() : shell.geometry();
+  seen.Visible = !shell.isHidden();
+  seen.Maximised = shell.isMaximized();
+  seen.Topmost = view->Drawn.Topmost;  // What the window manager was asked for last.
+  if (seen.Visible) {
+    stage::prcSeePlace(seen, place, qt::fncPixelRect(seen.Left, seen.Top, seen.Width, seen.Height));
+  }
+  const qt::WindowView* input = qt::fncWindowViewOf(QApplication::focusWidget());
+  if (input == view) {
+    seen.ActiveControl = const_cast<Control*>(stage::fncAtKeyboard(window));
+  }
+  return seen;
+}
+
+}  // namespace user

@@ -1,0 +1,483 @@
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QWindow>
+#include <cmath>
+#include <deque>
+#include <stdexcept>
+
+#include "platform/Procedure.h"
+#include "platform/Texts.h"
+#include "platform/UserInput.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Loop.h"
+#include "tests/conformance/Adapter.h"
+#include "tests/stage/Clock.h"
+#include "tests/stage/Stage.h"
+
+// The hand: mouse and keys, given to the toolkit as its window system does, at places on the screen
+// that are found by where things are drawn. What is open is answered while it is open.
+
+namespace stage {
+
+namespace {
+
+struct Hand {
+  Control* Held = nullptr;
+  Qt::MouseButtons Down;
+  QPointer<QWindow> On;  ///< Where the pointer was last, and its place.
+  int Stamp = 0;  ///< Each press long after the last: no two make a double click.
+  bool blnPainted = false;  ///< A card has been painted while the event was delivered.
+  std::deque<std::function<void()>> Modal;
+  std::deque<platform::Answer> Answers;
+  std::vector<user::Box> Boxes;
+  std::vector<QWidget*> Served;  ///< What is open and has been looked at, innermost last.
+};
+Hand hand;
+QPoint pntPointer;  // The pointer stays where it is from test to test.
+
+[[noreturn]] void prcOutOfReach(const std::string& what) {
+  throw std::logic_error("the user cannot reach " + what);
+}
+
+Qt::MouseButton fncButton(int button) {
+  switch (button) {
+    case intRightButton:
+      return Qt::RightButton;
+    case intMiddleButton:
+      return Qt::MiddleButton;
+    default:
+      return Qt::LeftButton;
+  }
+}
+
+QWindow& fncNative(const QWidget& widget) { return *widget.window()->windowHandle(); }
+
+/// Watches for a card that is painted while this lives.
+class Paints : public QObject {
+ public:
+  Paints() { qApp->installEventFilter(this); }
+  bool blnAny = false;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      const qt::ControlView* view = qt::fncControlViewOf(qobject_cast<QWidget*>(object));
+      blnAny = blnAny || (view != nullptr && view->Drawn.Dress == Look::Card);
+    }
+    return false;
+  }
+};
+
+void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
+              Qt::MouseButton button = Qt::NoButton) {
+  if (type == QEvent::MouseButtonPress) {
+    hand.Stamp += 1000;
+    hand.Down |= button;
+  } else if (type == QEvent::MouseButtonRelease) {
+    hand.Down &= ~Qt::MouseButtons(button);
+  }
+  hand.On = &window;
+  pntPointer = global;
+  Paints paints;
+  qt_handleMouseEvent(&window, window.mapFromGlobal(QPointF(global)), global, hand.Down, button,
+                      type, {}, ++hand.Stamp);
+  hand.blnPainted = paints.blnAny;
+  TheClock().Flush();
+}
+
+/// A pointer that comes to where it is already moves nothing: it goes a little aside.
+void prcMoveTo(const QWidget& widget, QPoint at) {
+  const QPoint to = widget.mapToGlobal(at);
+  prcMouse(fncNative(widget), QEvent::MouseMove, to == pntPointer ? to - QPoint(1, 0) : to);
+}
+
+void prcClickAt(QWindow& window, QPoint global, Qt::MouseButton button = Qt::LeftButton) {
+  prcMouse(window, QEvent::MouseMove, global);
+  prcMouse(window, QEvent::MouseButtonPress, global, button);
+  prcMouse(window, QEvent::MouseButtonRelease, global, button);
+}
+
+/// Whether the pointer at a place within a widget is over it and not over another.
+bool fncOver(const QWidget& widget, QPoint at) {
+  const QWidget* top = widget.window();
+  const QWidget* under = top->childAt(widget.mapTo(top, at));
+  return under == &widget || (under != nullptr && widget.isAncestorOf(under));
+}
+
+/// The middle of what can be seen of a widget, as far as a raster of places shows it.
+QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
+  const QRect rect = widget.rect();
+  if (fncOver(widget, rect.center())) {
+    return rect.center();
+  }
+  constexpr int intRaster = 24;
+  std::vector<QPoint> seen;
+  QPoint sum;
+  for (int x = 0; x < intRaster; ++x) {
+    for (int y = 0; y < intRaster; ++y) {
+      const QPoint at(rect.width() * (2 * x + 1) / (2 * intRaster),
+                      rect.height() * (2 * y + 1) / (2 * intRaster));
+      if (fncOver(widget, at)) {
+        seen.push_back(at);
+        sum += at;
+      }
+    }
+  }
+  if (seen.empty()) {
+    prcOutOfReach(name);
+  }
+  const QPoint middle = sum / static_cast<int>(seen.size());
+  return *std::ranges::min_element(seen, {},
+                                   [&](QPoint at) { return (at - middle).manhattanLength(); });
+}
+
+/// A button that is still down comes up where the pointer is.
+void prcLetGo() {
+  if (hand.Down != Qt::NoButton && hand.On != nullptr) {
+    prcMouse(*hand.On, QEvent::MouseButtonRelease, pntPointer, Qt::LeftButton);
+  }
+  hand.Held = nullptr;
+}
+
+/// What stands in the way of all input but its own.
+QWidget* fncInTheWay() {
+  QWidget* popup = QApplication::activePopupWidget();
+  return popup != nullptr ? popup : QApplication::activeModalWidget();
+}
+
+QWidget& fncReach(const Control& control) {
+  QWidget* widget = fncWidget(control);
+  const QWidget* modal = fncInTheWay();
+  if (widget == nullptr || !widget->isVisible() || !widget->isEnabled() ||
+      (modal != nullptr && widget->window() != modal)) {
+    prcOutOfReach(control.Name);
+  }
+  return *widget;
+}
+
+QPoint fncPlace(const QWidget& widget, float x, float y) {
+  const auto pixels = [](float twips) {
+    return static_cast<int>(std::floor(double{twips} / 15 * qt::fncScale()));
+  };
+  return widget.mapToGlobal(QPoint(pixels(x), pixels(y)));
+}
+
+/// Opens the menus that hold an entry and clicks it.
+void prcClickEntry(const Control& entry) {
+  std::vector<const Control*> way;
+  for (const Control* at = &entry; at != nullptr; at = at->Container) {
+    way.insert(way.begin(), at);
+  }
+  auto* frame = qobject_cast<QMainWindow*>(fncView(*entry.Form).Shell);
+  QWidget* holder = frame->menuBar();
+  for (const Control* step : way) {
+    QAction* action = fncAction(*step);
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (action == nullptr || !action->isVisible() || !action->isEnabled() || !holder->isVisible() ||
+        (modal != nullptr && modal != frame)) {
+      prcOutOfReach(entry.Name);
+    }
+    auto* menu = qobject_cast<QMenu*>(holder);
+    const QRect place = menu != nullptr ? menu->actionGeometry(action)
+                                        : qobject_cast<QMenuBar*>(holder)->actionGeometry(action);
+    prcClickAt(fncNative(*holder), holder->mapToGlobal(place.center()));
+    holder = action->menu();
+  }
+}
+
+void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+  QWindow* window = QGuiApplication::focusWindow();
+  if (window == nullptr) {
+    throw std::logic_error("no window has the keyboard");
+  }
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    if (type == QEvent::KeyRelease && QGuiApplication::focusWindow() != window) {
+      break;
+    }
+    qt_handleKeyEvent(window, type, key, modifiers, text, false, 1);
+    TheClock().Flush();
+  }
+}
+
+void prcTypeCharacter(char typed) {
+  prcKey(static_cast<Qt::Key>(std::toupper(static_cast<unsigned char>(typed))),
+         std::isupper(static_cast<unsigned char>(typed)) != 0 ? Qt::ShiftModifier : Qt::NoModifier,
+         QString(QLatin1Char(typed)));
+}
+
+/// The keyboard goes to where it is; that this is the window meant is asked of the screen.
+void prcNeedInput(const Window& window) {
+  const qt::WindowView* input = qt::fncWindowViewOf(QApplication::focusWidget());
+  if (input == nullptr || (input->Source != &window && input->Source->Kind != WindowKind::Frame)) {
+    throw std::logic_error(std::string("the keyboard is at ") +
+                           (input == nullptr ? "nothing" : input->Source->Name));
+  }
+}
+
+platform::Icon fncIconOf(QMessageBox::Icon icon) {
+  switch (icon) {
+    case QMessageBox::Critical:
+      return platform::Icon::Stop;
+    case QMessageBox::Warning:
+      return platform::Icon::Exclamation;
+    case QMessageBox::Information:
+      return platform::Icon::Information;
+    default:
+      return platform::Icon::None;
+  }
+}
+
+void prcRead(const QMessageBox& box) {
+  const bool blnCancel = box.standardButtons().testFlag(QMessageBox::Cancel);
+  const bool blnStandard =
+      box.defaultButton() != nullptr && box.defaultButton() == box.button(QMessageBox::Cancel);
+  hand.Boxes.push_back({fncTold(box.text()), box.windowTitle().toStdString(), fncIconOf(box.icon()),
+                        blnCancel, blnStandard ? platform::Answer::Cancel : platform::Answer::Ok});
+}
+
+void prcAnswer(QMessageBox& box) {
+  if (hand.Answers.empty()) {
+    return prcKey(Qt::Key_Return);
+  }
+  const platform::Answer answer = hand.Answers.front();
+  hand.Answers.pop_front();
+  if (answer == platform::Answer::Cancel) {
+    prcKey(Qt::Key_Escape);
+  } else {
+    const QWidget& ok = *box.button(QMessageBox::Ok);
+    prcClickAt(fncNative(ok), ok.mapToGlobal(ok.rect().center()));
+  }
+}
+
+/// Serves a message box or modal window that has come up: the script first, then the answer.
+bool fncServeModal() {
+  QWidget* open = QApplication::activeModalWidget();
+  if (open == nullptr || qt::fncEnded() ||
+      std::ranges::find(hand.Served, open) != hand.Served.end()) {
+    return false;
+  }
+  TheClock().Flush();
+  hand.Served.push_back(open);
+  const QPointer<QWidget> still(open);
+  auto* box = qobject_cast<QMessageBox*>(open);
+  if (box != nullptr) {
+    prcRead(*box);
+  }
+  if (!hand.Modal.empty()) {
+    const std::function<void()> act = std::move(hand.Modal.front());
+    hand.Modal.pop_front();
+    qt::prcServe(act);
+  }
+  if (still != nullptr && still->isVisible() && !qt::fncEnded()) {
+    box != nullptr ? prcAnswer(*box) : static_cast<void>(fncNative(*open).close());
+  }
+  std::erase(hand.Served, open);
+  return true;
+}
+
+}  // namespace
+
+}  // namespace stage
+
+namespace user {
+
+using namespace stage;
+
+void Reset(const std::string& folder) {
+  prcLetGo();
+  qt::prcForgetEnd();
+  hand = Hand{};
+  if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) {
+    popup->close();
+  }
+  while (!fncWindows().empty()) {
+    prcForgetWindow(*fncWindows().back());
+  }
+  qt::prcSyncAll();
+  TheClock().Reset();
+  TheClock().WhenIdle(fncServeModal);
+  TheClock().Flush();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  headless::ResetMachine(folder);
+  prcSetCurrency(CurrencyStyle{});
+}
+
+void Run(bool (*start)()) {
+  bool blnStarted = false;
+  qt::prcServe([&] { blnStarted = start(); });
+  if (!blnStarted) {
+    qt::prcNoteEnd();
+  }
+  Settle();
+}
+
+void Wait(std::uint32_t milliseconds) {
+  bool blnOver = false;
+  TheClock().After(milliseconds, [&] { blnOver = true; });
+  try {
+    Settle();
+    qt::prcServeUntil([&] { return blnOver; });
+    platform::DoEvents();
+  } catch (const EndOfProgram&) {
+    return;
+  }
+}
+
+std::uint32_t Now() { return static_cast<std::uint32_t>(TheClock().Now()); }
+
+void Settle() {
+  qt::fncEnded() ? qt::prcClearScreen() : qt::prcSyncAll();
+  TheClock().Flush();
+}
+
+bool Press(Control& control, float x, float y, int button) {
+  prcLetGo();
+  Settle();
+  const QWidget& widget = fncReach(control);
+  const QPoint at = fncPlace(widget, x, y);
+  if (!fncOver(widget, widget.mapFromGlobal(at))) {
+    prcOutOfReach(control.Name);
+  }
+  hand.Held = &control;
+  prcMouse(fncNative(widget), QEvent::MouseMove, at);
+  prcMouse(fncNative(widget), QEvent::MouseButtonPress, at, fncButton(button));
+  return !Ended();
+}
+
+void Drag(Control& control, float x, float y) {
+  Settle();
+  if (hand.Held != &control) {
+    prcLetGo();
+    const QWidget& widget = fncReach(control);
+    const QPoint at = widget.mapToGlobal(fncMiddleSeen(widget, control.Name));
+    hand.Held = &control;
+    prcMouse(fncNative(widget), QEvent::MouseMove, at);
+    prcMouse(fncNative(widget), QEvent::MouseButtonPress, at, Qt::LeftButton);
+  }
+  const QWidget& widget = *fncWidget(control);
+  prcMouse(fncNative(widget), QEvent::MouseMove, fncPlace(widget, x, y));
+}
+
+void Release(Control& control, float x, float y, int button) {
+  hand.Held = nullptr;
+  const QWidget& widget = *fncWidget(control);
+  prcMouse(fncNative(widget), QEvent::MouseButtonRelease, fncPlace(widget, x, y),
+           fncButton(button));
+}
+
+bool Click(Control& control, int button) {
+  prcLetGo();
+  Settle();
+  if (control.Kind == ControlKind::MenuEntry) {
+    prcClickEntry(control);
+    return true;
+  }
+  const QWidget& widget = fncReach(control);
+  prcClickAt(fncNative(widget), widget.mapToGlobal(fncMiddleSeen(widget, control.Name)),
+             fncButton(button));
+  return true;
+}
+
+void Hover(Control& control) {
+  prcLetGo();
+  Settle();
+  const QWidget& widget = fncReach(control);
+  prcMoveTo(widget, fncMiddleSeen(widget, control.Name));
+}
+
+void Hover(Window& window) {
+  prcLetGo();
+  Settle();
+  const QWidget& ground = *fncView(window).Ground;
+  prcMoveTo(ground, QPoint(ground.width() - 2, ground.height() - 2));
+}
+
+bool Type(Control& box, const std::string& text) {
+  Click(box);
+  if (QApplication::focusWidget() != fncWidget(box)) {
+    return false;
+  }
+  prcKey(Qt::Key_A, Qt::ControlModifier);
+  if (text.empty()) {
+    prcKey(Qt::Key_Delete);
+  }
+  std::ranges::for_each(text, prcTypeCharacter);
+  return true;
+}
+
+bool Tab(Window& window) {
+  Settle();
+  prcNeedInput(window);
+  prcKey(Qt::Key_Tab, {}, QStringLiteral("\t"));
+  return true;
+}
+
+void Key(Window& window, const std::string& key, int shift) {
+  Settle();
+  prcNeedInput(window);
+  if (key.size() == 1) {
+    return prcTypeCharacter(key.front());
+  }
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ShiftModifier, (shift & intShiftMask) != 0);
+  modifiers.setFlag(Qt::ControlModifier, (shift & intCtrlMask) != 0);
+  modifiers.setFlag(Qt::AltModifier, (shift & intAltMask) != 0);
+  prcKey(QKeySequence(QString::fromStdString(key))[0].key(), modifiers);
+}
+
+void Close(Window& window) {
+  Settle();
+  const qt::WindowView& view = fncView(window);
+  if (window.Kind == WindowKind::Child) {
+    prcKey(Qt::Key_F4, Qt::ControlModifier);  // No child has a close box.
+  } else {
+    fncNative(*view.Shell).close();
+    TheClock().Flush();
+  }
+}
+
+void Activate(Window& window) {
+  Settle();
+  QWidget& shell = *fncView(window).Shell;
+  if (shell.isWindow()) {
+    fncNative(shell).requestActivate();
+    TheClock().Flush();
+    return;
+  }
+  for (std::size_t step = 0; step < fncWindows().size() && qt::fncActiveWindow() != &window;
+       ++step) {
+    prcKey(Qt::Key_F6, Qt::ControlModifier);
+  }
+}
+
+void Resize(Window& window, double width) {
+  Settle();
+  QWindow& native = fncNative(*fncView(window).Shell);
+  const int height = native.height();
+  native.setWindowStates(Qt::WindowNoState);
+  TheClock().Flush();
+  native.setGeometry(0, 0, qt::fncPixels(width), height);
+  TheClock().Flush();
+}
+
+void WhileModal(std::function<void()> act) { hand.Modal.push_back(std::move(act)); }
+void Answer(platform::Answer answer) { hand.Answers.push_back(answer); }
+const std::vector<Box>& Boxes() { return hand.Boxes; }
+void ForgetBoxes() { hand.Boxes.clear(); }
+void AtNextTurn(std::function<void()> handler) { TheClock().AtNextTurn(std::move(handler)); }
+void After(std::uint32_t milliseconds, std::function<void()> handler) {
+  TheClock().After(milliseconds, std::move(handler));
+}
+bool Ended() { return qt::fncEnded(); }
+bool PaintedAtOnce() { return hand.blnPainted; }
+void Screen(double /*width*/, double /*height*/) {}
+
+}  // namespace user

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QAction>
+#include <QMessageBox>
+#include <QWidget>
+
+#include "platform/qt/windows/Screen.h"
+
+// What hand and eyes share: from the names of the model to what stands for them on the screen.
+
+namespace stage {
+
+/// The widget of a control; none where it has none or is not on the screen.
+QWidget* fncWidget(const Control& control);
+
+/// What stands for an entry in its menu, or for a button's room on its toolbar; none if nothing.
+QAction* fncAction(const Control& control);
+
+/// The widgets of a loaded window; an error where it is not on the screen.
+qt::WindowView& fncView(const Window& window);
+
+/// The model's number where the screen agrees with it to the pixel, else the screen's.
+double fncAgreed(double twips, int pixels);
+
+/// A text of the toolkit as the model writes it, with both signs for a line break.
+std::string fncTold(QString text);
+
+}  // namespace stage
