@@ -7,10 +7,10 @@
 
 #include "bench/Invariants.h"
 #include "marking/MarkState.h"
-#include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
+#include "tests/conformance/Adapter.h"
 
 namespace {
 
@@ -42,7 +42,7 @@ void prcLook(Evening& evening, std::size_t at) {
   if (!fault.empty() && evening.Result.Fault.empty()) {
     evening.Result.Fault = fault;
     evening.Result.Event = at;
-    if (!headless::Ended()) {
+    if (!user::Ended()) {
       // Nobody will turn the cards that the program may be waiting for.
       platform::End();
     }
@@ -52,7 +52,7 @@ void prcLook(Evening& evening, std::size_t at) {
 /// When all events have been done, the hand on the table is brought to its end.
 void prcSeeOut(Evening& evening) {
   if (blnBusy) {
-    headless::After(500, [&evening] { prcSeeOut(evening); });
+    user::After(500, [&evening] { prcSeeOut(evening); });
     prcTurnAll();
     prcLook(evening, evening.Events.size());
   }
@@ -67,7 +67,7 @@ void prcNext(Evening& evening) {
   // The one after it is under way before it begins: it may come in the middle of it.
   const std::uint32_t delay =
       evening.fncOver() ? 0 : evening.Events[evening.Next].Delay * lngDelayStep;
-  headless::After(delay, [&evening] { prcNext(evening); });
+  user::After(delay, [&evening] { prcNext(evening); });
   prcDo(event);
   if (evening.After) {
     evening.After(event);
@@ -76,19 +76,19 @@ void prcNext(Evening& evening) {
 }
 
 void prcStartGame(const std::string& folder, std::uint64_t seed) {
-  headless::Reset(folder);
+  user::Reset(folder);
   headless::Seed(seed);
   prcResetTableState();
   prcResetMarkState();
-  platform::Run(0, nullptr, fncStartProgram);
+  user::Run(fncStartProgram);
 }
 
 void prcRun(Evening& evening) {
   evening.Watching.prcStart();
-  headless::After(1, [&evening] { prcNext(evening); });
+  user::After(1, [&evening] { prcNext(evening); });
   do {
-    headless::Wait(1000);
-  } while (!headless::Ended() && (!evening.fncOver() || blnBusy));
+    user::Wait(1000);
+  } while (!user::Ended() && (!evening.fncOver() || blnBusy));
   prcLook(evening, evening.Next == 0 ? 0 : evening.Next - 1);  // At what may have ended it.
 }
 
@@ -106,7 +106,7 @@ EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
   } while (!evening.fncOver());
   evening.Result.Hands = evening.Watching.Hands();
   evening.Result.Shoes = evening.Watching.Shoes();
-  headless::Reset(folder);
+  user::Reset(folder);
   return evening.Result;
 }
 

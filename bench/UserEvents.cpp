@@ -1,6 +1,7 @@
 #include "bench/UserEvents.h"
 
 #include <array>
+#include <stdexcept>
 
 #include "betting/frmStatistics.h"
 #include "marking/MarkCard.h"
@@ -34,6 +35,16 @@ constexpr std::array strKeys{"1",    "2",     "3",     "4",     "5",  "6",
 template <class Choices>
 auto fncPick(const Choices& choices, std::uint8_t at) {
   return choices[at % choices.size()];
+}
+
+/// Where something covers what is meant, or another window has the keyboard, the rest is left
+/// alone.
+void prcTry(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const std::logic_error&) {
+    return;
+  }
 }
 
 bool fncReached(const Control& control) {
@@ -173,7 +184,9 @@ void prcTurnAll() {
   }
 }
 
-void prcDo(const UserEvent& event) {
+namespace {
+
+void prcAct(const UserEvent& event) {
   const std::uint8_t which = event.Which, how = event.How;
   if (!BaccTable.Form.Visible) {
     return;  // The program is still on its way to the table, or away from it.
@@ -211,7 +224,7 @@ void prcDo(const UserEvent& event) {
     case UserEventKind::UnitValue:
       return prcType(BaccTable.txtUnitValue, fncPick(strUnits, how));
     case UserEventKind::Statistics:
-      user::WhileModal([which, how] { prcUseStatistics(which, how); });
+      user::WhileModal([which, how] { prcTry([=] { prcUseStatistics(which, how); }); });
       return prcClick(fncToolButton("Statistics"));
     case UserEventKind::Scroll:
       return prcScroll(which, how);
@@ -222,4 +235,10 @@ void prcDo(const UserEvent& event) {
     case UserEventKind::Leave:
       return prcClick(MDIForm1.mnuExit);
   }
+}
+
+}  // namespace
+
+void prcDo(const UserEvent& event) {
+  prcTry([&] { prcAct(event); });
 }

@@ -4,11 +4,15 @@
 #include <filesystem>
 
 #include "bench/Endurance.h"
+#include "tests/conformance/Adapter.h"
 
-// velmora_endurance [SEED [SHOES]]: a random user at the headless table, as long as wanted. Prints
-// counts, or the fault with its seed and the shortest list of events that repeats it.
+// velmora_endurance [SEED [SHOES]]: a random user at the headless table, as long as wanted;
+// velmora_qt_endurance: at the real widgets. Both print counts, or the fault with its seed and the
+// shortest list of events that repeats it.
 
-int main(int argc, char** argv) {
+namespace {
+
+int fncEndureAll(int argc, char** argv) {
   const std::uint64_t seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
   const std::int64_t shoes = argc > 2 ? std::atoll(argv[2]) : 10'000;
   const std::string folder = fncFastFolder();
@@ -20,4 +24,10 @@ int main(int argc, char** argv) {
     std::printf("%s\n", result.Fault.c_str());
   }
   return result.Fault.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return user::Play(argc, argv, [&] { return fncEndureAll(argc, argv); });
 }

@@ -14,9 +14,9 @@ namespace {
 /// What the three bets of a seat differ in. Both texts of a limit are kept: chips and typing tell
 /// it differently.
 struct BetRules {
-  BetSide
-      Other;  ///< The side that cannot stand beside this one; the Tie has none and names itself.
-  int Most;   ///< Chips.
+  /// The side that cannot stand beside this one; the Tie has none and names itself.
+  BetSide Other;
+  int Most;  ///< Chips.
   int SelLength;
   const char* IncLabel;
   const char* GotFocusLabel;

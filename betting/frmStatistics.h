@@ -2,6 +2,9 @@
 
 #include "platform/Window.h"
 
+// The statistics window: hands and shoes played, and the money of each seat. Index is the seat
+// 0..1.
+
 struct StatisticsWindow {
   Window Form;
   Control Frame3, lblHandsPlayed;
@@ -9,7 +12,8 @@ struct StatisticsWindow {
   Table<Control, 5> lblShoesPlayedDecks;
   Control Label5, Label7, Label8, Label9, Label10;
   Control Frame2, Label6, Label1, Label2, Label3, Label4, Label12;
-  Table<Control, 2> mskSteak, lblCurrentMoney, lblWinningsStat, lblTurnover;
+  Table<Control, 2> mskSteak;  ///< The seats' stakes.
+  Table<Control, 2> lblCurrentMoney, lblWinningsStat, lblTurnover;
   Control cmdResetStats, Command1;
   double dblOldStake = 0;  ///< The stake in the box when it got the focus, up to 10,000,000.
 };
@@ -20,8 +24,8 @@ void prcStatisticsRefresh();
 
 void cmdResetStats_Click();
 void mskSteak_GotFocus(Integer Index);
-/// Checks and books a new stake of seat Index 0..1; Cancel keeps the focus.
+/// Checks and books a new stake; Cancel keeps the focus.
 void mskSteak_Validate(Integer Index, bool& Cancel);
 
-/// Prepares the window's events. Called once at the start of the program.
+/// Gives the window its name, kind and events.
 void prcPrepareStatistics();

@@ -15,7 +15,7 @@ Bets betPlayed{};             ///< Of each seat, those of the last hand on which
 bool blnPlacing = false;      ///< The changes under way are one, noted already.
 
 int& fncChipsOf(Bets& bets, int seat, BetSide side) {
-  return bets.at(static_cast<std::size_t>(seat)).at(side);
+  return bets.at(static_cast<std::size_t>(seat)).at(static_cast<std::size_t>(side));
 }
 
 Bets fncBetsNow() {

@@ -29,8 +29,9 @@ std::vector<HandLaw> fncLaws(const Scope& scope, Luck& luck) {
       staked += fncStaked(hand, i);
       for (const BetSide side : betSides) {
         const double bet = fncBetMoney(hand, i, side);
-        luck.Staked.at(side) += bet;
-        luck.Cost.at(side) += bet * fncEdge(fncOdds(hand.Decks), side);
+        const auto at = static_cast<std::size_t>(side);
+        luck.Staked.at(at) += bet;
+        luck.Cost.at(at) += bet * fncEdge(fncOdds(hand.Decks), side);
       }
     }
     if (staked > 0) {

@@ -15,7 +15,7 @@ constexpr int intCardsOfSide = 3;
 
 bool blnResetSince = false;  ///< The statistics were reset since the last hand.
 
-std::size_t fncAt(Integer index) { return static_cast<std::size_t>(index); }
+std::size_t fncAt(int index) { return static_cast<std::size_t>(index); }
 
 /// The face value 1..13 of a card number.
 Integer fncFaceValue(std::uint8_t card) { return (card - 1) % 13 + 1; }
@@ -39,7 +39,7 @@ void prcNoteSeat(EveningHand& hand, Integer i) {
   double& money = hand.Money.at(fncAt(i));
   money = dblPlayerTotal[i];
   for (const BetSide side : betSides) {
-    hand.Chips.at(fncAt(i)).at(side) = fncInteger(fncBetChips(side, i));
+    hand.Chips.at(fncAt(i)).at(fncAt(side)) = fncInteger(fncBetChips(side, i));
     if (!fncLoses(side, strResult[intShoeNumber])) {
       money += fncBet(side, i).Money;
     }
@@ -63,7 +63,7 @@ int fncTotalOf(const EveningHand& hand, Side side, int intCards) {
 }
 
 double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side) {
-  return 1.0 * hand.ChipValue * hand.Chips.at(fncAt(intSeat)).at(side);
+  return 1.0 * hand.ChipValue * hand.Chips.at(fncAt(intSeat)).at(fncAt(side));
 }
 
 double fncStaked(const EveningHand& hand, Integer intSeat) {

@@ -4,8 +4,8 @@
 
 #include "platform/Numbers.h"
 
-// The texts of the adviser, as pure procedures of what is known. Lines are joined by carriage
-// return and line feed.
+// The texts of the adviser, as pure procedures of what is known. Index is the table position 0..5
+// of the hidden card. Lines are joined by carriage return and line feed.
 
 /// What lies face up, by table position.
 struct TableView {
@@ -15,8 +15,8 @@ struct TableView {
 
 /// The numbers that the advice for a position is worked out from.
 struct AdviceNumbers {
-  Integer v;  ///< What this side already shows: a face value 1..13 for positions 0, 1, 3, 4, else a
-              ///< total 0..9.
+  /// What this side already shows: a face value 1..13 for positions 0, 1, 3, 4, else a total 0..9.
+  Integer v;
   Integer t;  ///< The score of the other side to reckon with, 0..9.
 };
 

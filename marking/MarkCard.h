@@ -6,8 +6,8 @@
 #include "platform/Window.h"
 #include "table/TableState.h"
 
-// The marking card windows and what is done to them. Cards and shoes are numbered 0..8; only card 0
-// is ever opened. Places and sizes are in twips.
+// The marking card windows and what is done to them. In this folder card is a marking card, 0..8
+// like the shoes; only card 0 is ever opened. Places and sizes are in twips.
 
 /// A family of elements made as needed; element 0 is the designed one.
 using ControlFamily = std::map<int, Control>;
@@ -15,6 +15,7 @@ using ControlFamily = std::map<int, Control>;
 struct MarkCardWindow {
   Window Form;
   Control Picture1, VScroll1, HScroll1, ScrollCorner, Shape1;
+  /// The rules across, a column's score, its heading B or P, a mark's frame, and the mark's text.
   ControlFamily lneHLine, lblTotal, lblBP, shpTBP, lblTBP;
   Control Timer1, tmrDeal;
 };

@@ -10,8 +10,8 @@
 // The running values of the nine marking cards, by card 0..8, and the rule that places a mark from
 // them. No window.
 
-extern Table<Integer, intShoes>
-    intMarkVerticalLimit;  ///< 0 for runs, else rows of a column, up to 20.
+/// 0 for runs, else rows of a column, up to 20.
+extern Table<Integer, intShoes> intMarkVerticalLimit;
 extern Table<bool, intShoes> blnMarkIgnoreTies;
 extern Table<bool, intShoes> blnMarkStarted;  ///< A Banker or Player result has come.
 extern Table<Integer, intShoes> intRun;  ///< Banker above 0, Player below; in limit mode the row.

@@ -131,11 +131,11 @@ struct Control {
   const char* Name = "";
   Integer Index = -1;  ///< Element of a control array, from 0; -1 for a control that stands alone.
   Window* Form = nullptr;
-  Control* Container =
-      nullptr;  ///< The picture, frame, toolbar or menu that holds it; none means the window.
+  /// The picture, frame, toolbar or menu that holds it; none means the window.
+  Control* Container = nullptr;
   const ControlEvents* On = &evtNone;
-  std::uint32_t Serial = 0;  ///< Given by prcAddControl, never given twice: tells a copy from a
-                             ///< later one in its place.
+  /// Given by prcAddControl, never given twice: tells a copy from a later one in its place.
+  std::uint32_t Serial = 0;
 
   // Where it is and whether it can be used.
   double Left = 0, Top = 0, Width = 0, Height = 0;

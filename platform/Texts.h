@@ -30,8 +30,8 @@ bool fncEqualNoCase(std::string_view one, std::string_view other);
 struct CurrencyForm {
   bool blnSymbolFirst = true;
   int intSpace = 0;  ///< 1: between symbol and digits. 2: beside the sign. 0: none.
-  int intSignPlace =
-      1;  ///< 0: parentheses. 1, 2: before, behind all. 3, 4: the same of the symbol.
+  /// 0: parentheses. 1, 2: before, behind all. 3, 4: the same of the symbol.
+  int intSignPlace = 1;
   std::string strSign;
 };
 
@@ -39,8 +39,8 @@ struct CurrencyForm {
 struct CurrencyStyle {
   std::string strSymbol = "$";
   std::string strThousands = ",";
-  std::string strGroups =
-      "\3";  ///< Sizes of the groups of digits from the right; the last repeats.
+  /// Sizes of the groups of digits from the right; the last repeats.
+  std::string strGroups = "\3";
   CurrencyForm Positive;
   CurrencyForm Negative{.strSign = "-"};
 };

@@ -46,8 +46,8 @@ struct Window {
   double ScaleWidth = 0, ScaleHeight = 0;
   /// Designed size of a child that cannot be resized: a stored one below it is mended.
   double MinWidth = 0, MinHeight = 0;
-  bool FixedInner =
-      false;  ///< ScaleWidth and ScaleHeight are the given ones; the border comes on top.
+  /// ScaleWidth and ScaleHeight are the given ones; the border comes on top.
+  bool FixedInner = false;
   bool Sizable = false;
   bool TitleBar = true;
   bool CloseBox = true;
@@ -61,8 +61,8 @@ struct Window {
   Long hWnd = 0;             ///< 0 while the window is not loaded; every load gives a new one.
   std::uint32_t Raised = 0;  ///< Order in the stack: the highest is in front.
   std::vector<Control*> Controls;  ///< The stack, lowest first.
-  std::vector<Control*>
-      Timers;  ///< Those of them that are timers, so that a turn need not look at all.
+  /// Those of them that are timers, so that a turn need not look at all.
+  std::vector<Control*> Timers;
   Control* ActiveControl = nullptr;
   /// Grows whenever a control gets the focus or a refusal keeps it there: a box then has its text
   /// selected anew.

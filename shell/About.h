@@ -2,7 +2,7 @@
 
 #include "platform/Window.h"
 
-// The About dialog.
+// The About dialog, by name KasSitas.
 
 struct KasSitasWindow {
   Window Form;
@@ -10,5 +10,5 @@ struct KasSitasWindow {
 };
 extern KasSitasWindow KasSitas;
 
-/// Prepares the dialog's events. Called once at the start of the program.
+/// Gives the dialog its name, kind and events.
 void prcPrepareAbout();

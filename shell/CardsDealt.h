@@ -27,5 +27,5 @@ void prcClearCardsDealt();
 /// first use.
 void prcAddCardsDealt(const std::string& row);
 
-/// Prepares both windows' events. Called once at the start of the program.
+/// Gives both windows their names, kinds and events.
 void prcPrepareCardsDealt();

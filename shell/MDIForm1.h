@@ -16,9 +16,10 @@ struct MDIFormWindow {
   Control mnuShoeSize;
   Table<Control, 5> mnuShoeSizeDecks;
   Control mnuDealing, mnuDealDelay, mnuDealAnimation;
+  /// mOptions is the menu; mnuOptions is its last entry, which shows frmKaNori and is hidden.
   Control mOptions, mnuLargeButtons, mnuSep1, mnuArrows, mnuHands, mnuSep3, mnuStatistics, mnuSep6,
       mnuOptions;
-  Control mnuWeb, mnuTarnlea;
+  Control mnuWeb, mnuTarnlea;  ///< The Web menu, and its entry that gets the latest version.
   Control mnuHelp, mnuContents, mnuSep2, mnuAbout;
   Control tlbrMDIForm1, tlbrMDIForm2;
   Table<Control, intToolButtons> tlbrButtons1, tlbrButtons2;
@@ -50,5 +51,5 @@ extern const char* const strWebSite;
 /// Opens an address in the system's browser; a failure is told in one box titled varTitle.
 void DisplayURL(const std::string& strURL, const std::string& varTitle);
 
-/// Prepares the frame's events. Called once at the start of the program.
+/// Gives the frame its name, kind and events.
 void prcPrepareFrame();

@@ -3,8 +3,10 @@
 #include <functional>
 #include <string>
 
-extern std::string
-    strIniFile;  ///< Full path of the settings file; set once, before the first read.
+// The settings file, key by key. docs/settings.md lists the keys.
+
+/// Full path of the settings file; set once, before the first read.
+extern std::string strIniFile;
 extern std::string strHelpFile;  ///< Full path of the help file.
 
 /// The value of a key in the settings file, at most 99 characters; "No" where there is none. Where

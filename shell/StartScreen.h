@@ -2,15 +2,17 @@
 
 #include "platform/Window.h"
 
-// The start screen, the first window of every run.
+// The start screen, by name Plauk: the first window of every run.
 
 struct PlaukWindow {
   Window Form;
   Control Picture1, Label5, Label2, cmdStart;
   Table<Control, 3> Image2, Label1;
-  Control lblVersion, cmdHelp, cmdQuit, Nerodik, Label6;
+  Control lblVersion, cmdHelp, cmdQuit;
+  Control Nerodik;  ///< The box "Do not show this screen again".
+  Control Label6;   ///< The link to the web site.
 };
 extern PlaukWindow Plauk;
 
-/// Prepares the events of the start screen. Called once at the start of the program.
+/// Gives the start screen its name, kind and events.
 void prcPrepareStartScreen();

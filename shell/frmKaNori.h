@@ -3,8 +3,8 @@
 #include "platform/Window.h"
 #include "table/TableState.h"
 
-// The general options. The dialog is a layout only: its entry and button are hidden, and nothing
-// reads these controls. Rows go by marking card 0..8.
+// The general options, by name frmKaNori. The dialog is a layout only: its entry and button are
+// hidden, and nothing reads these controls. Rows go by marking card 0..8.
 
 struct KaNoriWindow {
   Window Form;
@@ -21,5 +21,5 @@ struct KaNoriWindow {
 };
 extern KaNoriWindow frmKaNori;
 
-/// Prepares the dialog's layout. Called once at the start of the program.
+/// Gives the dialog its name, kind and layout.
 void prcPrepareKaNori();

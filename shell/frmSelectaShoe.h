@@ -16,5 +16,5 @@ struct SelectaShoeWindow {
 };
 extern SelectaShoeWindow frmSelectaShoe;
 
-/// Prepares the window's layout. Called once at the start of the program.
+/// Gives the window its name, kind and layout.
 void prcPrepareSelectaShoe();

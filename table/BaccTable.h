@@ -15,8 +15,8 @@ struct BaccTableWindow {
   Table<Control, 2> lblSeat;
   Table<Control, 3> lblRow;
 
-  Table<Control, 4> duokkortos;
-  Control maisyk;
+  Table<Control, 4> duokkortos;  ///< The Deal buttons; 0 deals as many hands as the hands box says.
+  Control maisyk;                ///< The Shuffle button.
   Control mskHandsAtaTime, lblHandsAtaTime;
 
   Table<Control, 2> txtTieBet, txtBankerBet, txtPlayerBet;
@@ -30,7 +30,7 @@ struct BaccTableWindow {
   Table<Control, 2> lblPWin, lblBWin, lblTWin, lblPLose, lblBLose, lblTLose;
   Control WinP, WinB, TieResultP, TieResultB;
   Control PTotal, BTotal, lblNaturalP, lblNaturalB;
-  Control FormLastHand, FormEndofShoe;
+  Control FormLastHand, FormEndofShoe;  ///< Labels, in spite of their names.
   Table<Control, 2> lblShuffleInProgress;
   Control prgShoe;
   Control fraShoeNumber, lblShoeNumber;
@@ -46,14 +46,14 @@ struct BaccTableWindow {
   Control pctCardBackMove;
   Control lblCardNeedP, lblCardNeedB, shpCardNeedP, shpCardNeedB;
 
-  Control txtsetfocus;
+  Control txtsetfocus;  ///< Takes the focus off the bet boxes when they close; never seen.
   Control Timer1;
 
   Integer intFlashCount;        ///< Ticks of flashing done.
   Integer intAddSub;            ///< Sign of the chip click under way.
   bool blnCardsPlaced = false;  ///< The first four backs of the hand lie on the table.
-  bool blnCardNeedShown =
-      false;  ///< Advice has been worked out since the mouse was last over the bare table.
+  /// Advice has been worked out since the mouse was last over the bare table.
+  bool blnCardNeedShown = false;
   Integer intCardHeight, intCardWidth;  ///< Of a whole card back, twips.
 };
 
@@ -98,5 +98,5 @@ void prcShowMoney(Control& label, double money);
 /// Called by its load.
 void prcLayOutBaccTable();
 
-/// Prepares the table window's events. Called once at the start of the program.
+/// Gives the table window its name, kind and events.
 void prcPrepareBaccTable();

@@ -29,10 +29,10 @@ std::string fncCardValueName(Integer value) {
   return value >= 1 && value <= 13 ? strValues[static_cast<std::size_t>(int{value})] : "";
 }
 
-std::string fncCardName(Integer card) {
-  const Integer value = (card - 1) % 13 + 1;
+std::string fncCardName(Integer number) {
+  const Integer value = (number - 1) % 13 + 1;
   const std::string name = value == 1 ? "Ace" : fncCardValueName(value);
-  return name + " of " + strSuits[(card - 1) / 13] + "s";
+  return name + " of " + strSuits[(number - 1) / 13] + "s";
 }
 
 void prcInitCardsDealtCount() {

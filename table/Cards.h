@@ -4,8 +4,9 @@
 
 #include "table/TableState.h"
 
-// Cards by slot, face value and name. A slot says everything of a card: face value (slot mod 13) +
-// 1, suit (slot mod 52) div 13.
+// Cards by slot, number, face value and name. A slot says everything of a card: face value (slot
+// mod 13) + 1, suit (slot mod 52) div 13. In this folder card names a slot, and number a card
+// number.
 
 /// Card number 1..52 of a slot 0..415.
 Integer CardNumber1To52(Integer card);
@@ -18,7 +19,7 @@ std::string CardSuite(Integer card);
 std::string fncCardValueName(Integer value);
 
 /// "King of Spades" and the like for a card number 1..52, as it is spoken of.
-std::string fncCardName(Integer card);
+std::string fncCardName(Integer number);
 
 /// Point value of a face value: itself up to 9, 0 for the tens and pictures.
 inline Integer fncCardPoint(Integer value) { return value > 9 ? Integer(0) : value; }

@@ -64,12 +64,12 @@ void prcDealFirstFour(const Integer& intShoe) {
 
 /// Deals a third card to one side: total, card number, face value and flag of that side. Returns
 /// its point.
-Integer fncDrawThird(const Integer& intShoe, Integer& total, Integer& card, Integer& value,
+Integer fncDrawThird(const Integer& intShoe, Integer& total, Integer& number, Integer& value,
                      bool& blnThird) {
   const Drawn third = fncCardAt(intShoe, intNextCard[intShoe]);
   const Integer point = fncCardPoint(third.Value);
   total = fncTotal(total, point);
-  card = third.Number;
+  number = third.Number;
   value = third.Value;
   prcListPosition(intShoe, intNextCard[intShoe]);
   ++intNextCard[intShoe];

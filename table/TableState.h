@@ -7,7 +7,8 @@
 #include "platform/Numbers.h"
 
 // The game state that every module reads and writes: plain tables, owned by no window. Shoe tables
-// have nine rows, and intShoeNumber, the shoe on the table, is always 0.
+// have nine rows, and intShoeNumber, the shoe on the table, is always 0. docs/glossary.md tells
+// slot, position, card number, face value and point apart.
 
 inline constexpr int intShoes = 9;
 inline constexpr int intSeats = 2;
@@ -46,20 +47,20 @@ class SlotRow {
 
 // --- Shoes, by shoe 0..8 ---
 
-extern Table<SlotRow, intShoes>
-    intShoeCards;  ///< The slot at a position; position 0 comes out first.
+/// The slot at a position of the shoe; position 0 comes out first.
+extern Table<SlotRow, intShoes> intShoeCards;
 extern Table<SlotRow, intShoes> intCardValue;  ///< Face value 1..13 of a slot.
 extern Table<Integer, intShoes> intDecks;      ///< Decks of the next shuffle.
-extern Table<Integer, intShoes>
-    intDecksInPlay;  ///< Decks of the shoe in play; names its statistics key.
+/// Decks of the shoe in play; names its statistics key.
+extern Table<Integer, intShoes> intDecksInPlay;
 extern Table<Integer, intShoes> intLastCard;    ///< Highest position and slot.
 extern Table<Integer, intShoes> intNextCard;    ///< Position of the next card out.
 extern Table<Integer, intShoes> intHandsDealt;  ///< Since the shuffle.
 extern Table<bool, intShoes> blnShuffled;       ///< The shoe may be dealt.
 extern Table<bool, intShoes> blnLastHand;       ///< The next hand is the last one.
 extern Table<bool, intShoes> blnEndOfShoe;      ///< No more hands.
-extern Table<bool, intShoes>
-    blnShoePlayerBlue;  ///< The colours of this shoe, fixed at its shuffle.
+/// The colours of this shoe, fixed at its shuffle.
+extern Table<bool, intShoes> blnShoePlayerBlue;
 
 // --- The last hand of a shoe: card numbers 1..52, face values 1..13, totals 0..9 ---
 
@@ -77,9 +78,9 @@ extern Table<std::string, intShoes> strResult;  ///< "P", "B" or "T".
 /// as 0.
 extern Table<std::optional<Integer>, intShoes> varHandUnits;
 
-// --- Marking card links, by card 0..8 ---
+// --- Marking card links, by marking card 0..8 ---
 
-extern Table<Integer, intShoes> intMarkCardShoe;  ///< The shoe that a card shows.
+extern Table<Integer, intShoes> intMarkCardShoe;  ///< The shoe that it shows.
 extern Table<Long, intShoes> lngMarkCardHwnd;     ///< Window handle, 0 for none.
 
 // --- Values of a run of the program ---

@@ -18,8 +18,8 @@ void prcWaitSeconds(double seconds) {
 }
 
 void prcMarkCardTimers() {
-  for (int card = 0; card < intShoes; ++card) {
-    if (MarkCardWindow* form = lngMarkCardHwnd[card] != 0 ? fncMarkCard(card) : nullptr) {
+  for (int k = 0; k < intShoes; ++k) {
+    if (MarkCardWindow* form = lngMarkCardHwnd[k] != 0 ? fncMarkCard(k) : nullptr) {
       form->Timer1.Enabled = true;
     }
   }

@@ -21,6 +21,9 @@ struct Box {
   platform::Answer Standard;
 };
 
+/// Brings up what the platform needs around run, once in a process, and returns what run does.
+int Play(int argc, char** argv, const std::function<int()>& run);
+
 /// A platform as after its start: no windows, no script, not ended, the clock at 0, the dollar
 /// currency, and folder as the folder of the settings file.
 void Reset(const std::string& folder = {});

@@ -2,7 +2,7 @@
 
 #include "bench/ShuffleStatistics.h"
 
-// Ten million positions in all; velmora_shuffle counts as many of each size for docs/shuffle.md.
+// Two million positions of each size; docs/shuffle.md tells what ten million of each gave.
 
 namespace {
 

@@ -11,6 +11,7 @@ namespace {
 std::vector<Box> boxes;
 }
 
+int Play(int /*argc*/, char** /*argv*/, const std::function<int()>& run) { return run(); }
 void Reset(const std::string& folder) { headless::Reset(folder); }
 void Run(bool (*start)()) {
   platform::Run(0, nullptr, start);

@@ -1,44 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <cstdio>
-
-#include "platform/platform.h"
-#include "platform/qt/windows/Session.h"
-#include "tests/stage/Clock.h"
-
-// The real widgets on an offscreen display, the machine on paper, and the clock in our hands.
-
-namespace platform {
-
-std::uint32_t TickCount() { return static_cast<std::uint32_t>(stage::TheClock().Now()); }
-
-}  // namespace platform
-
-namespace {
-
-/// The offscreen display says at each window what it cannot do.
-void prcMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& text) {
-  if (!text.startsWith(QLatin1String("This plugin does not support"))) {
-    std::fprintf(stderr, "%s\n", qPrintable(text));
-  }
-}
-
-}  // namespace
+#include "tests/conformance/Adapter.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  if (testing::GTEST_FLAG(list_tests)) {
-    return RUN_ALL_TESTS();
-  }
-  qInstallMessageHandler(prcMessage);
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VELMORA_STAGE_SCREEN);
-  QCoreApplication::setEventDispatcher(&stage::TheClock());
-  QApplication::setApplicationName(QStringLiteral("Velmora"));
-  QApplication application(argc, argv);
-  QApplication::setCursorFlashTime(0);
-  qt::prcBringUpPlatform();
-  const int result = RUN_ALL_TESTS();
-  qt::prcTakeDownPlatform();
-  return result;
+  return testing::GTEST_FLAG(list_tests) ? RUN_ALL_TESTS()
+                                         : user::Play(argc, argv, [] { return RUN_ALL_TESTS(); });
 }

@@ -19,8 +19,8 @@ namespace qt {
 
 namespace {
 
-constexpr double dblLargeBar =
-    540;  // Twips; bars as high as this have large pictures and captions.
+/// Bars as high as this have large pictures and captions. Twips.
+constexpr double dblLargeBar = 540;
 
 /// The menu that an entry belongs to; none stands for the menu bar itself.
 QMenu* fncMenuOf(ControlView& view) {

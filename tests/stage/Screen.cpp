@@ -1,0 +1,39 @@
+#include <QApplication>
+#include <cstdio>
+
+#include "platform/platform.h"
+#include "platform/qt/windows/Session.h"
+#include "tests/conformance/Adapter.h"
+#include "tests/stage/Clock.h"
+
+// The real widgets on an offscreen display, the machine on paper, and the clock in our hands.
+
+namespace platform {
+
+std::uint32_t TickCount() { return static_cast<std::uint32_t>(stage::TheClock().Now()); }
+
+}  // namespace platform
+
+namespace {
+
+/// The offscreen display says at each window what it cannot do.
+void prcMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& text) {
+  if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+  }
+}
+
+}  // namespace
+
+int user::Play(int argc, char** argv, const std::function<int()>& run) {
+  qInstallMessageHandler(prcMessage);
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VELMORA_STAGE_SCREEN);
+  QCoreApplication::setEventDispatcher(&stage::TheClock());
+  QApplication::setApplicationName(QStringLiteral("Velmora"));
+  QApplication application(argc, argv);
+  QApplication::setCursorFlashTime(0);
+  qt::prcBringUpPlatform();
+  const int result = run();
+  qt::prcTakeDownPlatform();
+  return result;
+}
