@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <vector>
 
 #include "assets/Pictures.h"
@@ -106,11 +107,12 @@ void prcCloseMarkCards() {
 
 /// The lists of cards dealt, and what else floats: each window keeps its place.
 void prcCloseFloats() {
-  const std::vector<Window*> open = fncWindows();
-  for (Window* window : open) {
-    if (window->Kind == WindowKind::Float) {
-      fncUnload(*window);
-    }
+  // Each closing may take its window off the loaded ones.
+  std::vector<Window*> floats;
+  std::ranges::copy_if(fncWindows(), std::back_inserter(floats),
+                       [](const Window* window) { return window->Kind == WindowKind::Float; });
+  for (Window* window : floats) {
+    fncUnload(*window);
   }
 }
 
