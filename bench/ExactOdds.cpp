@@ -54,11 +54,6 @@ void prcLay(int position, const Weights& weights, std::array<int, intRanks>& lai
   }
 }
 
-/// A share of all orders. Both counts are below 2^53, so they are exact as they stand.
-double fncShare(const OddsRow& row, std::int64_t count) {
-  return static_cast<double>(count) / static_cast<double>(row.fncAll());
-}
-
 }  // namespace
 
 std::array<OddsRow, intShoeSizes.size()> fncExactOdds() {
@@ -84,9 +79,9 @@ std::string fncOddsPage(const std::array<OddsRow, intShoeSizes.size()>& odds) {
     for (const std::int64_t count : {row.Banker, row.Player, row.Tie}) {
       page += "<td>" + fncGrouped(count) + "</td>";
     }
-    for (const double edge : {fncBankerEdge(row), fncPlayerEdge(row), fncTieEdge(row)}) {
+    for (const BetSide side : {betBanker, betPlayer, betTie}) {
       std::array<char, 32> text{};
-      std::snprintf(text.data(), text.size(), "<td>%.4f%%</td>", 100 * edge);
+      std::snprintf(text.data(), text.size(), "<td>%.4f%%</td>", 100 * fncEdge(row, side));
       page += text.data();
     }
     page += "</tr>\n";
@@ -100,16 +95,4 @@ std::string fncGrouped(std::int64_t count) {
     text.insert(static_cast<std::size_t>(at), ",");
   }
   return text;
-}
-
-double fncBankerEdge(const OddsRow& row) {
-  return fncShare(row, row.Player) - 0.95 * fncShare(row, row.Banker);
-}
-
-double fncPlayerEdge(const OddsRow& row) {
-  return fncShare(row, row.Banker) - fncShare(row, row.Player);
-}
-
-double fncTieEdge(const OddsRow& row) {
-  return fncShare(row, row.Banker + row.Player) - 8 * fncShare(row, row.Tie);
 }

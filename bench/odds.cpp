@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     const OddsRow& row = odds[size];
     std::printf("%5d %25s %25s %25s %9.4f%% %9.4f%% %9.4f%%\n", intShoeSizes[size],
                 fncGrouped(row.Banker).c_str(), fncGrouped(row.Player).c_str(),
-                fncGrouped(row.Tie).c_str(), 100 * fncBankerEdge(row), 100 * fncPlayerEdge(row),
-                100 * fncTieEdge(row));
+                fncGrouped(row.Tie).c_str(), 100 * fncEdge(row, betBanker),
+                100 * fncEdge(row, betPlayer), 100 * fncEdge(row, betTie));
   }
 }

@@ -5,6 +5,7 @@
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
+#include "table/Hooks.h"
 #include "table/TableStatus.h"
 #include "table/Waits.h"
 
@@ -99,6 +100,7 @@ void prcInc(BetSide side, Integer Index, Integer intMultiple) {
       return;
     }
     At(60);
+    hooks.BetChanging(side, Index, fncBetChips(side, Index));
     bet.Box.Text = fncPlainNumberText(chips);
     bet.Box.SelLength =
         rules.SelLength;  // What is typed next replaces it, as in a box just reached.
@@ -128,6 +130,11 @@ void prcGotFocus(BetSide side, Integer Index) {
   });
 }
 
+/// Chips that a bet held before something was typed into its box.
+Integer fncOldChips(BetSide side, Integer Index) {
+  return fncInteger(fncBet(side, Index).Money / fncUnitValue());
+}
+
 void prcRefuse(Control& box, const char* text, bool& Cancel) {
   if (text != nullptr) {
     platform::MsgBox(text);
@@ -154,7 +161,7 @@ bool fncTypedBetGood(BetSide side, Integer Index, bool& Cancel) {
   }
   At(30);
   const double unit = fncUnitValue();
-  const Integer old = fncInteger(bet.Money / unit);
+  const Integer old = fncOldChips(side, Index);
   At(40);
   const Long NewBet = fncLong((chips - old) * unit - fncOtherMoney(side, Index));
   if (!prcSufficientFunds(NewBet, Index)) {
@@ -209,23 +216,10 @@ void prcValidate(BetSide side, Integer Index, bool& Cancel) {
       return;
     }
     if (fncTypedBetGood(side, Index, Cancel)) {
+      hooks.BetChanging(side, Index, fncOldChips(side, Index));
       prcBookTypedBet(side, Index);
     }
   });
-}
-
-void prcIncSide(BetSide side, Integer Index, Integer intMultiple) {
-  switch (side) {
-    case betTie:
-      TBetInc(Index, intMultiple);
-      break;
-    case betBanker:
-      BBetInc(Index, intMultiple);
-      break;
-    case betPlayer:
-      PBetInc(Index, intMultiple);
-      break;
-  }
 }
 
 template <BetSide side>
@@ -235,12 +229,12 @@ constexpr ControlEvents evtBox{
 
 template <BetSide side, int chips>
 constexpr ControlEvents evtChip{
-    .Click = [](Control& chip) { prcIncSide(side, chip.Index, BaccTable.intAddSub * chips); },
+    .Click = [](Control& chip) { prcBetInc(side, chip.Index, BaccTable.intAddSub * chips); },
     .MouseDown = [](Control&, const Mouse& mouse) { prcAddSub(mouse.Button); }};
 
 template <BetSide side>
 constexpr ControlEvents evtClear{.Click = [](Control& chip) {
-  prcIncSide(side, chip.Index, fncInteger(-fncBetChips(side, chip.Index)));
+  prcBetInc(side, chip.Index, fncInteger(-fncBetChips(side, chip.Index)));
 }};
 
 template <BetSide side>
@@ -272,6 +266,10 @@ void prcAddSub(Integer Button) {
 void BBetInc(Integer Index, Integer intMultiple) { prcInc(betBanker, Index, intMultiple); }
 void PBetInc(Integer Index, Integer intMultiple) { prcInc(betPlayer, Index, intMultiple); }
 void TBetInc(Integer Index, Integer intMultiple) { prcInc(betTie, Index, intMultiple); }
+
+void prcBetInc(BetSide side, Integer Index, Integer intMultiple) {
+  prcInc(side, Index, intMultiple);
+}
 
 void txtTieBet_GotFocus(Integer Index) { prcGotFocus(betTie, Index); }
 void txtBankerBet_GotFocus(Integer Index) { prcGotFocus(betBanker, Index); }

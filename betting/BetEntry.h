@@ -19,6 +19,9 @@ void BBetInc(Integer Index, Integer intMultiple);
 void PBetInc(Integer Index, Integer intMultiple);
 void TBetInc(Integer Index, Integer intMultiple);
 
+/// That of the three which bets on side.
+void prcBetInc(BetSide side, Integer Index, Integer intMultiple);
+
 void txtTieBet_GotFocus(Integer Index);
 void txtBankerBet_GotFocus(Integer Index);
 void txtPlayerBet_GotFocus(Integer Index);

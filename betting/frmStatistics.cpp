@@ -11,6 +11,7 @@
 #include "shell/SettingsStore.h"
 #include "shell/WindowPlace.h"
 #include "table/BaccTable.h"
+#include "table/Hooks.h"
 #include "table/TableState.h"
 
 StatisticsWindow frmStatistics;
@@ -226,6 +227,7 @@ void cmdResetStats_Click() {
         prcResetSeat(i);
       }
     });
+    hooks.StatisticsReset();
   });
 }
 

@@ -5,13 +5,10 @@
 #include "marking/MarkCard.h"
 #include "platform/Procedure.h"
 #include "table/BaccTable.h"
+#include "table/Odds.h"
 #include "table/TableState.h"
 
 namespace {
-
-/// What a Banker pays for each unit, the casino's five percent taken off.
-constexpr double dblBankerPays = 0.95;
-constexpr double dblTiePays = 8;
 
 /// A Banker or Player result: the other side's bet is lost or, where there is none, the side's own
 /// bet wins, and a Tie bet is lost. Returns the net units; the commission takes nothing off them.
@@ -29,8 +26,8 @@ double fncSideWins(double lost, double won, double pays, double tie) {
 }
 
 double fncTieWins(double tie) {
-  dblHandWin += tie * dblTiePays * fncUnitValue();
-  return tie * dblTiePays;
+  dblHandWin += tie * fncPays(betTie) * fncUnitValue();
+  return tie * fncPays(betTie);
 }
 
 }  // namespace
@@ -43,10 +40,10 @@ void ManualShoe(double PlayerBet, double BankerBet, double TieBet, Integer Seat)
     double units = 0;
     if (strResult[intShoeNumber] == "B") {
       At(20);
-      units = fncSideWins(PlayerBet, BankerBet, dblBankerPays, TieBet);
+      units = fncSideWins(PlayerBet, BankerBet, fncPays(betBanker), TieBet);
     } else if (strResult[intShoeNumber] == "P") {
       At(30);
-      units = fncSideWins(BankerBet, PlayerBet, 1, TieBet);
+      units = fncSideWins(BankerBet, PlayerBet, fncPays(betPlayer), TieBet);
     } else {
       At(40);
       units = fncTieWins(TieBet);

@@ -152,6 +152,7 @@ struct Control {
   /// With Alt, this capital letter or digit presses a button or goes to a box, of several with the
   /// same key to each in turn; 0 is none. It is underlined in the text; in a label it is only that.
   char AccessKey = 0;
+  const char* Shortcut = "";  ///< The key that clicks a menu entry from anywhere, such as "Ctrl+R".
   Type Face;
   Alignment Align = Alignment::Left;
   Colour ForeColor = clrWindowText;

@@ -14,6 +14,7 @@
 #include "shell/Switches.h"
 #include "shell/frmKaNori.h"
 #include "shell/frmSelectaShoe.h"
+#include "table/Hooks.h"
 
 namespace {
 
@@ -178,6 +179,9 @@ void prcOptions() {
 void prcLayOutMenus() {
   Control* menu = nullptr;
   for (const MenuRow& row : menuRows) {
+    if (&row.Entry == &MDIForm1.mnuWeb) {
+      hooks.MenusLaidOut();
+    }
     prcPlace(MDIForm1.Form,
              {&row.Entry, row.Name, -1, ControlKind::MenuEntry, 0, 0, 0, 0, row.Caption});
     if (row.Stands == Rank::Title) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <vector>
 
 #include "assets/Pictures.h"
@@ -9,13 +10,11 @@
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
-#include "shell/CardsDealt.h"
 #include "shell/FrameMenus.h"
 #include "shell/SettingsStore.h"
 #include "shell/ShoeSize.h"
 #include "shell/StartScreen.h"
 #include "shell/Switches.h"
-#include "shell/frmSelectaShoe.h"
 #include "table/BaccTable.h"
 #include "table/TableState.h"
 
@@ -106,6 +105,17 @@ void prcCloseMarkCards() {
   }
 }
 
+/// The lists of cards dealt, and what else floats: each window keeps its place.
+void prcCloseFloats() {
+  // Each closing may take its window off the loaded ones.
+  std::vector<Window*> floats;
+  std::ranges::copy_if(fncWindows(), std::back_inserter(floats),
+                       [](const Window* window) { return window->Kind == WindowKind::Float; });
+  for (Window* window : floats) {
+    fncUnload(*window);
+  }
+}
+
 struct BrowserFailure {
   int Code;
   const char* Message;
@@ -132,11 +142,9 @@ void MDIForm1_Unload() {
     prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
     prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
     At(20);
-    fncUnload(frmCardsDealt.Form);
-    fncUnload(frmCardsDealtCount.Form);
+    prcCloseFloats();
     fncUnload(BaccTable.Form);
     prcCloseMarkCards();
-    fncUnload(frmSelectaShoe.Form);
     // The frame's own unload is what runs here.
     prcForgetWindow(MDIForm1.Form);
     At(30);

@@ -1,6 +1,7 @@
 #include "shell/Program.h"
 
 #include "betting/frmStatistics.h"
+#include "evening/Evening.h"
 #include "marking/MarkState.h"
 #include "platform/platform.h"
 #include "shell/About.h"
@@ -29,6 +30,7 @@ bool fncStartProgram() {
   prcPrepareKaNori();
   prcPrepareAbout();
   prcPrepareStartScreen();
+  prcStartEvening();
   prcLoad(Plauk.Form);
   return true;
 }

@@ -19,15 +19,8 @@ struct DrawSpan {
 };
 constexpr Table<DrawSpan, 8> spnBankerDraws(
     {{{0, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 7}, {4, 7}, {6, 7}, {10, 10}}});
+constexpr int intPlayerStandsFrom = 6;
 constexpr int intBankerStandsFrom = 6;  ///< When the Player has stood.
-
-Integer fncTotal(Integer one, Integer other) {
-  const int points = int{one} + int{other};
-  return points > 9 ? points - 10 : points;
-}
-
-bool fncNatural(Integer total) { return total == 8 || total == 9; }
-bool fncStandsPat(Integer total) { return total == 6 || total == 7; }
 
 /// A card at a position of a shoe.
 struct Drawn {
@@ -92,11 +85,8 @@ void prcDrawThirdCards(const Integer& intShoe) {
     blnBankerNatural[intShoe] = fncNatural(banker);
     return;
   }
-  if (fncStandsPat(player) && fncStandsPat(banker)) {
-    return;
-  }
   Integer intCard3Point = 0;
-  const bool blnPlayerStood = fncStandsPat(player);
+  const bool blnPlayerStood = !fncPlayerDraws(player);
   if (!blnPlayerStood) {
     intCard3Point = fncDrawThird(intShoe, player, intPlayerCard3[intShoe], intPlayerValue3[intShoe],
                                  blnPlayerThird[intShoe]);
@@ -115,6 +105,15 @@ const char* fncResult(Integer player, Integer banker) {
 }
 
 }  // namespace
+
+Integer fncTotal(Integer one, Integer other) {
+  const int points = int{one} + int{other};
+  return points > 9 ? points - 10 : points;
+}
+
+bool fncNatural(Integer total) { return total == 8 || total == 9; }
+
+bool fncPlayerDraws(Integer intPlayer) { return intPlayer < intPlayerStandsFrom; }
 
 bool fncBankerDraws(Integer intBanker, bool blnPlayerStood, Integer intCard3Point) {
   if (blnPlayerStood) {

@@ -4,6 +4,7 @@
 #include "marking/MarkCard.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
+#include "table/Hooks.h"
 
 namespace {
 
@@ -35,4 +36,5 @@ void prcSettleHand() {
       SetCardView(k);
     }
   }
+  hooks.HandSettled();
 }

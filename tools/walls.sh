@@ -16,7 +16,7 @@ wall() {
 
 code=('*.cpp' '*.h')
 outside_platform=("${code[@]}" ':!platform' ':!tests' ':!bench' ':!fuzz')
-game=(table betting learn reveal marking shell)
+game=(table betting learn reveal marking shell evening)
 
 wall "only platform/qt and its tests may include the toolkit" \
   '#include *[<"](Q[A-Z]|Qt)' "${code[@]}" ':!platform/qt' ':!tests/qt' ':!tests/stage' ':!bench/qt'
@@ -24,7 +24,7 @@ wall "the game does not know which platform stands behind platform.h" \
   '#include *"platform/(qt|headless)/' "${game[@]}" main.cpp 'platform/*.cpp' 'platform/*.h' \
   ':!platform/qt' ':!platform/headless'
 wall "the platform knows nothing of the game" \
-  '#include *"(table|betting|learn|reveal|marking|shell)/' platform
+  '#include *"(table|betting|learn|reveal|marking|shell|evening)/' platform
 wall "only platform/ knows the clock" \
   '<chrono>|<ctime>|<time\.h>|std::chrono|(^|[^A-Za-z0-9_.])(time|clock|clock_gettime|gettimeofday)\(' \
   "${outside_platform[@]}"

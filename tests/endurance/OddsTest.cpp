@@ -14,15 +14,19 @@ TEST(OddsTest, EveryOrderOfSixCardsGivesThePublishedCountsAndTheHelpsPage) {
     const std::int64_t cards = std::int64_t{intSlotsOfDeck} * intShoeSizes[size];
     all = cards * (cards - 1) * (cards - 2) * (cards - 3) * (cards - 4) * (cards - 5);
     EXPECT_EQ(odds[size].fncAll(), all) << intShoeSizes[size];
+    const OddsRow& reckoned = fncOdds(intShoeSizes[size]);
+    EXPECT_EQ(odds[size].Banker, reckoned.Banker) << intShoeSizes[size];
+    EXPECT_EQ(odds[size].Player, reckoned.Player) << intShoeSizes[size];
+    EXPECT_EQ(odds[size].Tie, reckoned.Tie) << intShoeSizes[size];
   }
   const OddsRow& eight = odds.back();
   EXPECT_EQ(eight.Banker, 2'292'252'566'437'888);
   EXPECT_EQ(eight.Player, 2'230'518'282'592'256);
   EXPECT_EQ(eight.Tie, 475'627'426'473'216);
   EXPECT_EQ(all, 4'998'398'275'503'360);
-  EXPECT_NEAR(fncBankerEdge(eight), 0.010579, 5e-7);
-  EXPECT_NEAR(fncPlayerEdge(eight), 0.012351, 5e-7);
-  EXPECT_NEAR(fncTieEdge(eight), 0.143596, 5e-7);
+  EXPECT_NEAR(fncEdge(eight, betBanker), 0.010579, 5e-7);
+  EXPECT_NEAR(fncEdge(eight, betPlayer), 0.012351, 5e-7);
+  EXPECT_NEAR(fncEdge(eight, betTie), 0.143596, 5e-7);
   std::ifstream file(VELMORA_HELP_PAGES "/odds.html");
   const std::string page{std::istreambuf_iterator<char>(file), {}};
   EXPECT_NE(page.find(fncOddsPage(odds)), std::string::npos) << fncOddsPage(odds);

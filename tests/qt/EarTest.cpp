@@ -11,6 +11,7 @@
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/windows/Screen.h"
 #include "shell/About.h"
+#include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/StartScreen.h"
 #include "table/BaccTable.h"
@@ -126,6 +127,22 @@ TEST_F(Ear, EveryControlOfEveryWindowIsNamed) {
   check(frmStatistics.Form, Qt::Key_O, Qt::Key_S);
   check(KasSitas.Form, Qt::Key_H, Qt::Key_A);
   EXPECT_EQ(intDialogs, 2) << "the keys of the menus open no dialog";
+}
+
+TEST_F(Ear, MenuEntriesAreClickedByTheirOwnKeysFromABoxAndFromAFloatingWindow) {
+  Shuffle();
+  Key(Qt::Key_P, Qt::AltModifier);
+  Key(Qt::Key_5);
+  Key(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 900);
+  Key(Qt::Key_P, Qt::AltModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 950) << "the box takes no key of the menus for itself";
+  prcShow(frmCardsDealt.Form);
+  user::Settle();
+  user::Click(frmCardsDealt.lstCardsDealt);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 1000);
 }
 
 TEST_F(Ear, AHandIsFollowedByEarAndPlayedByKeys) {

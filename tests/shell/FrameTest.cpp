@@ -1,3 +1,4 @@
+#include <cctype>
 #include <filesystem>
 
 #include "platform/UserInput.h"
@@ -33,6 +34,21 @@ TEST_F(Frame, EachCardChoosesItsOwnShoe) {
   });
   prcDispatch(prcOptions);
   EXPECT_EQ(frmKaNori.Form.hWnd, 0);
+}
+
+TEST_F(Frame, NoMenuTakesAKeyOfTheTable) {
+  prcPlay();
+  std::string taken;
+  for (const Control* control : BaccTable.Form.Controls) {
+    taken += control->AccessKey != 0 ? std::string(1, control->AccessKey) : "";
+  }
+  for (const Control* menu : MDIForm1.Form.Controls) {
+    if (menu->Kind == ControlKind::MenuEntry && menu->Container == nullptr) {
+      const auto key = static_cast<char>(std::toupper(menu->Text.at(menu->Text.find('&') + 1)));
+      EXPECT_EQ(taken.find(key), std::string::npos) << menu->Text;
+      taken += key;
+    }
+  }
 }
 
 using Way = void (*)();

@@ -8,6 +8,7 @@
 #include "platform/UserInput.h"
 #include "platform/qt/input/Acts.h"
 #include "platform/qt/input/InputRouter.h"
+#include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/WindowViews.h"
@@ -188,6 +189,16 @@ bool fncAccessKey(const Window& window, const QKeyEvent& event) {
   return true;
 }
 
+/// The keys of the frame's menu entries, in a floating window; in the frame the toolkit knows them.
+bool fncEntryKey(const Window& window, const QKeyEvent& event) {
+  QAction* entry =
+      window.Kind == WindowKind::Float ? fncMenuEntryOf(event.key(), event.modifiers()) : nullptr;
+  if (entry != nullptr) {
+    entry->trigger();
+  }
+  return entry != nullptr;
+}
+
 /// The keys that mean the same in every window. Returns whether the key was one.
 bool fncCommonKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
@@ -209,7 +220,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     prcServe([&] { fncUserTab(window, key == Qt::Key_Backtab); });
     return true;
   }
-  if (fncAccessKey(window, event)) {
+  if (fncAccessKey(window, event) || fncEntryKey(window, event)) {
     return true;
   }
   Control* focused = window.ActiveControl;

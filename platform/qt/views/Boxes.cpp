@@ -10,6 +10,7 @@
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/Loop.h"
 
 namespace qt {
@@ -141,6 +142,19 @@ bool EditView::fncRefuses(const QString& typed) const {
   }
   const auto left = static_cast<std::size_t>(text().size() - selectedText().size());
   return !fncMaskAdmits(view_->Drawn, left, typed.at(0).toLatin1());
+}
+
+bool EditView::event(QEvent* event) {
+  const WindowView* frame = fncFrameView();
+  if (event->type() == QEvent::ShortcutOverride && frame != nullptr && window() == frame->Shell) {
+    // A box would keep some keys of the frame's menus to itself, such as Ctrl+Z.
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (fncMenuEntryOf(key.key(), key.modifiers()) != nullptr) {
+      event->ignore();
+      return false;
+    }
+  }
+  return QLineEdit::event(event);
 }
 
 void EditView::keyPressEvent(QKeyEvent* event) {

@@ -26,6 +26,7 @@ class EditView : public QLineEdit {
   void prcSelect();
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

@@ -78,6 +78,20 @@ void prcTidySeparators(const QToolBar& bar) {
 
 }  // namespace
 
+QAction* fncMenuEntryOf(int key, Qt::KeyboardModifiers modifiers) {
+  const WindowView* frame = fncFrameView();
+  const QKeySequence pressed(static_cast<int>(modifiers) | key);
+  if (frame == nullptr || frame->Shell == nullptr) {
+    return nullptr;
+  }
+  for (QAction* action : frame->Shell->findChildren<QAction*>()) {
+    if (action->shortcut() == pressed && action->isVisible() && action->isEnabled()) {
+      return action;
+    }
+  }
+  return nullptr;
+}
+
 void prcMakeMenu(ControlView& view) {
   auto* window = qobject_cast<QMainWindow*>(view.Home.Shell);
   if (window == nullptr) {
@@ -107,6 +121,8 @@ void prcUpdateMenu(ControlView& view, const Control& control) {
   action->setVisible(control.Visible);
   action->setEnabled(control.Enabled);
   action->setToolTip(fncText(control.ToolTip));
+  action->setShortcut(QKeySequence(QString::fromLatin1(control.Shortcut)));
+  action->setAutoRepeat(false);
   if (qobject_cast<QMenu*>(view.Helper) == nullptr) {
     prcShowCheck(*action, control);
   }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+// Evenings played at the running table, held against the law by which luck is told: what the
+// program says of each evening must come out, over many of them, as often as it says.
+
+/// Where evenings lay among all that could have come of their bets.
+struct EveningProof {
+  int Evenings = 0, Hands = 0;
+  int InHalf = 0, InNine = 0;         ///< Seats' ends within the bands of 50 % and of 90 %.
+  std::array<int, 10> Tenths{};       ///< Evenings of both seats by their place among 100 players.
+  std::array<double, 3> Deviation{};  ///< Mean luck of seat 1, seat 2 and both, in its own errors.
+  /// Chi-square of Tenths, with nine degrees of freedom.
+  double fncTenthsSum() const;
+  /// Whether all of this could well come by chance: one time in some thousands it could not.
+  bool fncHolds() const;
+};
+
+/// Plays this many evenings of a hundred hands on the headless platform, the bets of both seats
+/// changing in size and side every ten hands. The settings file goes into folder.
+EveningProof fncProveEvenings(int evenings, std::uint64_t seed, const std::string& folder);

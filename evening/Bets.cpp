@@ -1,0 +1,140 @@
+#include "evening/Bets.h"
+
+#include <vector>
+
+#include "betting/BetEntry.h"
+#include "platform/UserInput.h"
+
+namespace {
+
+/// The chips of both seats, by seat and BetSide.
+using Bets = std::array<std::array<int, 3>, intSeats>;
+
+std::vector<Bets> colBefore;  ///< The bets before each change, since the last hand.
+Bets betPlayed{};             ///< Of each seat, those of the last hand on which it had any.
+bool blnPlacing = false;      ///< The changes under way are one, noted already.
+
+int& fncChipsOf(Bets& bets, int seat, BetSide side) {
+  return bets.at(static_cast<std::size_t>(seat)).at(static_cast<std::size_t>(side));
+}
+
+Bets fncBetsNow() {
+  Bets bets{};
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      fncChipsOf(bets, i, side) = fncInteger(fncBetChips(side, i));
+    }
+  }
+  return bets;
+}
+
+void prcNoteBefore(const Bets& bets) {
+  if (!blnPlacing && (colBefore.empty() || colBefore.back() != bets)) {
+    colBefore.push_back(bets);
+  }
+}
+
+/// Whether chips can be clicked. A bet that is being typed is checked and booked first, as by a
+/// click elsewhere; a refusal leaves all as it is.
+bool fncTableOpen() {
+  const Control& chip = BaccTable.lblBBetInc1[0];
+  return fncSeen(chip) && fncUsable(chip) && fncSetFocus(BaccTable.txtsetfocus) && fncSeen(chip) &&
+         fncUsable(chip);
+}
+
+/// While it lives, changes of bets are not noted one by one.
+struct Placing {
+  Placing() { blnPlacing = true; }
+  ~Placing() { blnPlacing = false; }
+  Placing(const Placing&) = delete;
+  Placing& operator=(const Placing&) = delete;
+};
+
+/// Clicks chips until the bets are these, as far as the tests let them. What goes down goes first:
+/// its money may be needed for what goes up.
+void prcPlace(Bets bets) {
+  const Placing placing;
+  for (const bool blnDown : {true, false}) {
+    for (int i = 0; i < intSeats; ++i) {
+      for (const BetSide side : betSides) {
+        const std::int64_t more = fncChipsOf(bets, i, side) - fncInteger(fncBetChips(side, i));
+        if (blnDown ? more < 0 : more > 0) {
+          prcBetInc(side, i, more);
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+
+void prcNoteBetChange(BetSide side, Integer intSeat, double dblChips) {
+  Bets bets = fncBetsNow();
+  fncChipsOf(bets, intSeat, side) = fncInteger(dblChips);
+  prcNoteBefore(bets);
+}
+
+void prcNoteBetsPlayed() {
+  const Bets bets = fncBetsNow();
+  for (std::size_t i = 0; i < bets.size(); ++i) {
+    if (bets.at(i) != Bets::value_type{}) {
+      betPlayed.at(i) = bets.at(i);
+    }
+  }
+  prcForgetBetChanges();
+}
+
+void prcForgetBetChanges() { colBefore.clear(); }
+
+void prcForgetBets() {
+  prcForgetBetChanges();
+  betPlayed = {};
+  blnPlacing = false;
+}
+
+void prcRepeatBets() {
+  if (!fncTableOpen()) {
+    return;
+  }
+  Bets bets = fncBetsNow();
+  for (std::size_t i = 0; i < bets.size(); ++i) {
+    if (betPlayed.at(i) != Bets::value_type{}) {
+      bets.at(i) = betPlayed.at(i);
+    }
+  }
+  prcNoteBefore(fncBetsNow());
+  prcPlace(bets);
+}
+
+void prcTakeBack() {
+  if (!fncTableOpen()) {
+    return;
+  }
+  // What was booked without a change leaves nothing to take back.
+  while (!colBefore.empty() && colBefore.back() == fncBetsNow()) {
+    colBefore.pop_back();
+  }
+  if (colBefore.empty()) {
+    return;
+  }
+  const Bets before = colBefore.back();
+  prcPlace(before);
+  // What was refused can be tried again once there is money for it.
+  if (fncBetsNow() == before) {
+    colBefore.pop_back();
+  }
+}
+
+void prcDoubleBets() {
+  if (!fncTableOpen()) {
+    return;
+  }
+  Bets bets = fncBetsNow();
+  for (auto& seat : bets) {
+    for (int& chips : seat) {
+      chips *= 2;
+    }
+  }
+  prcNoteBefore(fncBetsNow());
+  prcPlace(bets);
+}

@@ -1,0 +1,31 @@
+#include "evening/Evening.h"
+
+#include "evening/Bets.h"
+#include "evening/Curve.h"
+#include "evening/EveningMenu.h"
+#include "evening/Record.h"
+#include "table/Hooks.h"
+
+namespace {
+
+void prcHandSettled() {
+  prcNoteHand();
+  prcNoteBetsPlayed();
+}
+
+void prcStatisticsReset() {
+  prcNoteReset();
+  prcForgetBetChanges();
+}
+
+}  // namespace
+
+void prcStartEvening() {
+  prcForgetHands();
+  prcForgetBets();
+  prcForgetCurve();
+  hooks = {.HandSettled = prcHandSettled,
+           .BetChanging = prcNoteBetChange,
+           .StatisticsReset = prcStatisticsReset,
+           .MenusLaidOut = prcLayOutEveningMenu};
+}

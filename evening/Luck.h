@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+
+#include "evening/Record.h"
+
+/// Whose hands, and which.
+struct Scope {
+  int Seat = -1;  ///< 0..1, or -1 for both seats together.
+  int Shoe = 0;   ///< A shoe of the evening from 1, or 0 for all.
+};
+
+/// What was staked and won, what the house edge costs on it, and what is left as luck. Money, by
+/// BetSide where there are three.
+struct Luck {
+  int Hands = 0;                   ///< Hands with a bet.
+  std::array<double, 3> Staked{};  ///< A bet counts on every hand it stands.
+  std::array<double, 3> Cost{};    ///< What the house edge takes of that on average.
+  double Won = 0;                  ///< Wins less losses.
+  double Expected = 0;             ///< All three costs, as the loss they are.
+  double Fortune = 0;              ///< Won less expected.
+  double Deviation = 0;            ///< The standard deviation of what could have been won.
+  double Deviations = 0;           ///< Fortune in standard deviations; 0 where nothing could vary.
+  double Worse = 0;                ///< Share of players betting the same who would have won less.
+  double Better = 0;               ///< Share who would have won more.
+  double Error = 0;                ///< How far the two shares may be off; 0 where they are exact.
+};
+
+/// The luck of a scope. A fresh shoe of the hand's size gives the odds of every hand.
+Luck fncLuck(const Scope& scope);

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <deque>
+
+#include "table/BaccTable.h"
+
+// Every hand settled since the program started. It lives in memory alone: the end of the program
+// forgets it. A hand is small, so that an evening of ten thousand costs half a megabyte.
+
+/// One settled hand. Seats are 0..1.
+struct EveningHand {
+  std::array<double, intSeats>
+      Money{};  ///< All that a seat owns behind it, bets that stay included.
+  std::array<std::int32_t, intSeats>
+      Stake{};  ///< The seat's stake in money, the curve's base line.
+  std::array<std::array<std::int16_t, 3>, intSeats> Chips{};  ///< By seat and BetSide.
+  std::array<std::uint8_t, intPositions> Cards{};  ///< 1..52 by table position; 0 where none lay.
+  std::int32_t ChipValue = 0;                      ///< Money per chip.
+  std::int16_t Shoe = 0;   ///< The evening's shoes that dealt a hand, from 1.
+  std::uint8_t Decks = 0;  ///< 1, 2, 4, 6 or 8.
+  char Result = 'T';       ///< 'B', 'P' or 'T'.
+  bool Reset = false;  ///< The statistics were set to zero between the hand before and this one.
+};
+
+/// The hands, oldest first: hand number n stands at n - 1.
+extern std::deque<EveningHand> colEveningHands;
+
+/// The side cards are the Player's at positions 0..2 and the Banker's at 3..5.
+enum class Side : std::uint8_t { Player, Banker };
+
+/// How many of a side's three cards lay: 2 or 3.
+int fncCardsOf(const EveningHand& hand, Side side);
+
+/// The total 0..9 of a side's first intCards cards, 2 or 3.
+int fncTotalOf(const EveningHand& hand, Side side, int intCards);
+inline int fncTotalOf(const EveningHand& hand, Side side) {
+  return fncTotalOf(hand, side, fncCardsOf(hand, side));
+}
+
+/// A bet of a seat in money; the three bets of a seat in money.
+double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side);
+double fncStaked(const EveningHand& hand, Integer intSeat);
+
+/// What the bets of a seat win, less what they lose, in money: on a result 'B', 'P' or 'T', or as
+/// the hand came out.
+double fncNet(const EveningHand& hand, Integer intSeat, char result);
+inline double fncNet(const EveningHand& hand, Integer intSeat) {
+  return fncNet(hand, intSeat, hand.Result);
+}
+
+/// What a seat owned before the hand.
+inline double fncMoneyBefore(const EveningHand& hand, Integer intSeat) {
+  return hand.Money.at(static_cast<std::size_t>(intSeat)) - fncNet(hand, intSeat);
+}
+
+/// Number of shoes that have dealt a hand.
+int fncEveningShoes();
+
+/// Adds the hand just settled on the table to the record. Reads tables, boxes and the stakes in the
+/// settings file.
+void prcNoteHand();
+
+/// The next hand begins anew behind a reset of the statistics.
+void prcNoteReset();
+
+/// Forgets all hands, as at the start of the program.
+void prcForgetHands();

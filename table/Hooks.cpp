@@ -1,0 +1,3 @@
+#include "table/Hooks.h"
+
+GameHooks hooks;

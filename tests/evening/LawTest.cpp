@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+
+#include "evening/Law.h"
+#include "evening/Luck.h"
+#include "table/Odds.h"
+
+namespace {
+
+EveningHand fncHand(char result, std::array<std::int16_t, 3> chips, std::int32_t unit = 10,
+                    std::uint8_t decks = 8, std::array<std::int16_t, 3> other = {}) {
+  EveningHand hand;
+  hand.Chips = {chips, other};
+  hand.ChipValue = unit;
+  hand.Decks = decks;
+  hand.Result = result;
+  hand.Shoe = 1;
+  return hand;
+}
+
+/// Every outcome of every hand, one by one: the chance of each sum of the seats in twentieths.
+std::map<std::int64_t, double> fncEnumerated(const std::vector<EveningHand>& hands) {
+  std::map<std::int64_t, double> sums{{0, 1.0}};
+  for (const EveningHand& hand : hands) {
+    std::map<std::int64_t, double> next;
+    const HandLaw law = fncHandLaw(hand);
+    for (const auto& [sum, chance] : sums) {
+      for (std::size_t n = 0; n < 3; ++n) {
+        next[sum + law.Net.at(n)] += chance * law.Chance.at(n);
+      }
+    }
+    sums = next;
+  }
+  return sums;
+}
+
+/// Hands of all kinds by a plain rule: sizes, sides, chip values, shoes and both seats.
+std::vector<EveningHand> fncMixed(int count) {
+  std::vector<EveningHand> hands;
+  for (int n = 0; n < count; ++n) {
+    const auto chips = static_cast<std::int16_t>(1 + n * n % 23);
+    const auto ties = static_cast<std::int16_t>(n % 4 == 0 ? 2 : 0);
+    const bool blnBanker = n % 3 == 0;
+    hands.push_back(fncHand(
+        'B', {ties, blnBanker ? chips : std::int16_t{0}, blnBanker ? std::int16_t{0} : chips},
+        n % 5 == 0 ? 50 : 10, n % 2 == 0 ? 8 : 1, {std::int16_t{1}, std::int16_t(n % 7), 0}));
+  }
+  return hands;
+}
+
+SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
+  SumLaw sum{.Most = most};
+  for (const EveningHand& hand : hands) {
+    prcAddHand(sum, fncHandLaw(hand));
+  }
+  return sum;
+}
+
+TEST(Law, OfTheCasinosOddsByHand) {
+  // Eight decks, as published: Banker 45.86 %, Player 44.62 %, Tie 9.52 %.
+  const HandLaw banker = fncHandLaw(fncHand('B', {1, 2, 0}, 100), 0);
+  EXPECT_EQ(banker.Net, (std::array<std::int64_t, 3>{90 * 20, -300 * 20, 800 * 20}));
+  EXPECT_NEAR(banker.Chance[0], 0.458597, 5e-7);
+  EXPECT_NEAR(banker.Chance[1], 0.446247, 5e-7);
+  EXPECT_NEAR(banker.Chance[2], 0.095156, 5e-7);
+  const HandLaw player = fncHandLaw(fncHand('B', {0, 0, 3}), 0);
+  EXPECT_EQ(player.Net, (std::array<std::int64_t, 3>{-600, 600, 0}));
+}
+
+TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
+  const std::vector<EveningHand> hands = fncMixed(9);
+  const SumLaw sum = fncSum(hands, 1U << 20U);
+  ASSERT_TRUE(sum.Exact);
+  double below = 0, mean = 0, square = 0;
+  for (const auto& [value, chance] : fncEnumerated(hands)) {
+    ASSERT_NEAR(fncShareBelow(sum, value), below, 1e-11) << value;
+    ASSERT_NEAR(fncShareAt(sum, value), chance, 1e-11) << value;
+    below += chance;
+    const double money = static_cast<double>(value) / intTwentieths;
+    mean += chance * money;
+    square += chance * money * money;
+  }
+  EXPECT_NEAR(sum.Mean, mean, 1e-9);
+  EXPECT_NEAR(sum.Variance, square - mean * mean, 1e-6);
+}
+
+TEST(Law, OnACoarseGridStaysNearTheExactOne) {
+  for (const int count : {60, 400}) {
+    const std::vector<EveningHand> hands = fncMixed(count);
+    const SumLaw exact = fncSum(hands, 1U << 22U), coarse = fncSum(hands, 1U << 11U);
+    ASSERT_TRUE(exact.Exact);
+    ASSERT_FALSE(coarse.Exact);
+    ASSERT_LE(coarse.Share.size(), coarse.Most);
+    double worst = 0;
+    for (int n = -40; n <= 40; ++n) {
+      const auto at = std::llround((exact.Mean + n * 0.1 * std::sqrt(exact.Variance)) * 20);
+      const double want = fncShareBelow(exact, at) + fncShareAt(exact, at) / 2;
+      worst = std::max(worst, std::abs(want - fncShareBelow(coarse, at)));
+    }
+    EXPECT_LT(worst, 2e-4) << count << " hands";
+  }
+}
+
+TEST(Law, OfTenThousandEvenBetsIsTheBinomialOne) {
+  // Player bets of one size: a lattice of wins less losses, and near the middle the normal law.
+  const EveningHand hand = fncHand('P', {0, 0, 1});
+  const SumLaw sum = fncSum(std::vector<EveningHand>(10'000, hand), 1U << 11U);
+  EXPECT_TRUE(sum.Exact);
+  const double edge = fncEdge(fncOdds(8), betPlayer);
+  EXPECT_NEAR(sum.Mean, -10'000 * 10 * edge, 1e-6);
+  const auto quantiles = fncQuantiles(sum, {0.05, 0.25, 0.75, 0.95});
+  const double deviation = std::sqrt(sum.Variance);
+  const std::array<double, 4> z{-1.644854, -0.674490, 0.674490, 1.644854};
+  for (std::size_t n = 0; n < z.size(); ++n) {
+    EXPECT_NEAR(quantiles.at(n), sum.Mean + z.at(n) * deviation, 10) << "one chip is a step";
+  }
+}
+
+TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
+  // Seat 0 bets $100 on the Banker of three hands, seat 1 a chip on the first tie.
+  colEveningHands = {fncHand('B', {0, 10, 0}, 10, 8, {1, 0, 0}), fncHand('P', {0, 10, 0}),
+                     fncHand('B', {0, 10, 0})};
+  const Luck luck = fncLuck({.Seat = 0});
+  EXPECT_EQ(luck.Hands, 3);
+  EXPECT_EQ(luck.Staked[betBanker], 300);
+  EXPECT_NEAR(luck.Cost[betBanker], 3.17, 0.005);
+  EXPECT_DOUBLE_EQ(luck.Won, 90);
+  EXPECT_NEAR(luck.Expected, -3.17, 0.005);
+  EXPECT_NEAR(luck.Fortune, 93.17, 0.005);
+  EXPECT_NEAR(luck.Deviation, 160.63, 0.005);
+  EXPECT_NEAR(luck.Deviations, 0.58, 0.005);
+  EXPECT_NEAR(luck.Worse, 0.549505, 1e-6);
+  EXPECT_NEAR(luck.Better,
+              0.458597 * 0.458597 * (0.458597 + 3 * 0.095156) + 3 * 0.458597 * 0.095156 * 0.095156,
+              2e-6);
+  EXPECT_EQ(luck.Error, 0);
+  EXPECT_EQ(fncLuck({.Seat = 1}).Hands, 1);
+  EXPECT_EQ(fncLuck({.Seat = 1}).Won, -10);
+  EXPECT_EQ(fncLuck({}).Won, 80);
+  EXPECT_EQ(fncLuck({.Seat = -1, .Shoe = 2}).Hands, 0);
+  colEveningHands.clear();
+}
+
+TEST(Luck, TellsHowFarACoarseGridMayBeOff) {
+  colEveningHands.clear();
+  for (int n = 0; n < 3000; ++n) {
+    colEveningHands.push_back(fncMixed(n % 40 + 1).back());
+    colEveningHands.back().ChipValue = n % 2 == 0 ? 10 : 9990;
+  }
+  const Luck luck = fncLuck({});
+  EXPECT_GT(luck.Error, 0);
+  EXPECT_LT(luck.Error, 0.005);
+  double cost = 0;
+  for (const double one : luck.Cost) {
+    cost += one;
+  }
+  EXPECT_NEAR(luck.Expected, -cost, 1e-3);
+  colEveningHands.clear();
+}
+
+}  // namespace
