@@ -145,11 +145,12 @@ bool EditView::fncRefuses(const QString& typed) const {
 }
 
 bool EditView::event(QEvent* event) {
-  const WindowView* frame = fncFrameView();
-  if (event->type() == QEvent::ShortcutOverride && frame != nullptr && window() == frame->Shell) {
+  if (event->type() == QEvent::ShortcutOverride) {
     // A box would keep some keys of the frame's menus to itself, such as Ctrl+Z.
     const auto& key = *static_cast<QKeyEvent*>(event);
-    if (fncMenuEntryOf(key.key(), key.modifiers()) != nullptr) {
+    const WindowView* frame = fncFrameView();
+    if (frame != nullptr && window() == frame->Shell &&
+        fncMenuEntryOf(key.key(), key.modifiers()) != nullptr) {
       event->ignore();
       return false;
     }

@@ -139,9 +139,12 @@ void prcDropUnloaded() {
       prcHandOn(*view->Shell);
     }
   }
-  std::erase_if(vwWindows, [](const std::unique_ptr<WindowView>& view) {
-    return !fncLoaded(view->Source, view->Handle);
-  });
+  // Whoever looks into the list while a view goes finds it whole.
+  const auto gone = std::ranges::stable_partition(
+      vwWindows, [](const auto& view) { return fncLoaded(view->Source, view->Handle); });
+  const std::vector<std::unique_ptr<WindowView>> going(std::move_iterator(gone.begin()),
+                                                       std::move_iterator(gone.end()));
+  vwWindows.erase(gone.begin(), gone.end());
   if (wndActive != nullptr && std::ranges::find(fncWindows(), wndActive) == fncWindows().end()) {
     wndActive = nullptr;
   }
