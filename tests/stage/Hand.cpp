@@ -77,9 +77,9 @@ class Paints : public QObject {
 };
 
 void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
-              Qt::MouseButton button = Qt::NoButton) {
+              Qt::MouseButton button = Qt::NoButton, bool blnSoon = false) {
   if (type == QEvent::MouseButtonPress) {
-    hand.Stamp += 1000;
+    hand.Stamp += blnSoon ? 0 : 1000;
     hand.Down |= button;
   } else if (type == QEvent::MouseButtonRelease) {
     hand.Down &= ~Qt::MouseButtons(button);
@@ -193,7 +193,30 @@ void prcClickEntry(const Control& entry) {
   }
 }
 
-void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+}  // namespace
+
+void prcPoint(const QWidget& window, QPoint global) {
+  prcMouse(fncNative(window), QEvent::MouseMove, global);
+}
+
+void prcPress(const QWidget& window, Qt::MouseButton button, bool blnSoon) {
+  prcMouse(fncNative(window), QEvent::MouseButtonPress, pntPointer, button, blnSoon);
+}
+
+void prcLift(const QWidget& window, Qt::MouseButton button) {
+  prcMouse(fncNative(window), QEvent::MouseButtonRelease, pntPointer, button);
+}
+
+void prcTurnWheel(const QWidget& window, int notches) {
+  QWindow& native = fncNative(window);
+  const QPoint turned(0, notches * QWheelEvent::DefaultDeltasPerStep);
+  QWheelEvent wheel(native.mapFromGlobal(pntPointer), pntPointer, {}, turned, hand.Down, {},
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&native, &wheel);
+  TheClock().Flush();
+}
+
+void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
   QWindow* window = QGuiApplication::focusWindow();
   if (window == nullptr) {
     throw std::logic_error("no window has the keyboard");
@@ -212,6 +235,8 @@ void prcTypeCharacter(char typed) {
          std::isupper(static_cast<unsigned char>(typed)) != 0 ? Qt::ShiftModifier : Qt::NoModifier,
          QString(QLatin1Char(typed)));
 }
+
+namespace {
 
 /// The keyboard goes to where it is; that this is the window meant is asked of the screen.
 void prcNeedInput(const Window& window) {

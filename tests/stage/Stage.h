@@ -22,6 +22,19 @@ qt::WindowView& fncView(const Window& window);
 /// The model's number where the screen agrees with it to the pixel, else the screen's.
 double fncAgreed(double twips, int pixels);
 
+// The hand at whatever lies there, told of a place on the screen and the top-level window that gets
+// the event. Each serves what the toolkit posts meanwhile.
+
+void prcPoint(const QWidget& window, QPoint global);
+/// blnSoon makes it the second press of a double click.
+void prcPress(const QWidget& window, Qt::MouseButton button, bool blnSoon = false);
+void prcLift(const QWidget& window, Qt::MouseButton button);
+/// Turns the wheel by notches, away from the user.
+void prcTurnWheel(const QWidget& window, int notches);
+/// A key to whatever window has the keyboard.
+void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {});
+void prcTypeCharacter(char typed);
+
 /// A text of the toolkit as the model writes it, with both signs for a line break.
 std::string fncTold(QString text);
 

@@ -261,8 +261,8 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
       const Mouse mouse = fncMouse(*own, event.globalPosition(), 0, shift);
       prcServe([&] { prcUserMove(*control, mouse); });
     }
-    return !fncNative(control->Kind) ||
-           !fncUsable(*control);  // What is closed covers all the same.
+    // A widget that is closed is no ground.
+    return !fncNative(control->Kind) || !fncUsable(*control);
   }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);

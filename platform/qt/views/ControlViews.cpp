@@ -72,15 +72,10 @@ void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
   }
 }
 
-template <class View>
-void prcConnectClick(ControlView& view, View* widget) {
-  widget->setFocusPolicy(Qt::TabFocus);
-  QObject::connect(widget, &View::clicked, widget, [&view] { prcAct(view, prcUserClick); });
-}
-
 QWidget* fncMakeButton(ControlView& view, QWidget* parent) {
   auto* widget = new ButtonView(view, parent);
-  prcConnectClick(view, widget);
+  widget->setFocusPolicy(Qt::TabFocus);
+  prcConnectClick(view, *widget);
   return widget;
 }
 
@@ -101,8 +96,9 @@ void prcUpdateButton(ControlView& view, const Control& next, bool /*blnFirst*/) 
 template <class View>
 QWidget* fncMakeChecked(ControlView& view, QWidget* parent) {
   auto* widget = new View(parent);
+  widget->setFocusPolicy(Qt::TabFocus);
   widget->setCheckable(true);
-  prcConnectClick(view, widget);
+  prcConnectClick(view, *widget);
   return widget;
 }
 
@@ -119,6 +115,7 @@ void prcUpdateChecked(ControlView& view, const Control& next, bool /*blnFirst*/)
   button->setAutoFillBackground(!next.BackColor.Clear);
   button->setFont(fncFittedFont(next, fncPlace(next).size() - QSize(fncScaled(20), 0)));
   button->setText(fncText(next.Text));
+  const QSignalBlocker quiet(button);
   button->setChecked(next.Value != 0);
 }
 
@@ -297,6 +294,16 @@ void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
 }
 
 }  // namespace
+
+void prcConnectClick(ControlView& view, QAbstractButton& button) {
+  const auto act = [&view] { prcAct(view, prcUserClick); };
+  if (button.isCheckable()) {
+    button.setAutoExclusive(false);
+    QObject::connect(&button, &QAbstractButton::toggled, &button, act);
+  } else {
+    QObject::connect(&button, &QAbstractButton::clicked, &button, act);
+  }
+}
 
 void prcMakeControl(ControlView& view, QWidget* parent) {
   const Control& control = *view.Source;

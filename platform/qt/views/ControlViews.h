@@ -2,6 +2,8 @@
 
 #include "platform/qt/windows/Screen.h"
 
+class QAbstractButton;
+
 // The widgets that stand for controls, kind by kind.
 
 namespace qt {
@@ -14,6 +16,11 @@ void prcUpdateControl(ControlView& view, const Control& control);
 
 /// Takes what stands for a control off the screen.
 void prcDropControl(ControlView& view);
+
+/// Tells the model of what is done to a button by other ways than mouse and keys. One that can be
+/// checked is turned over by some of them without a click; which others it then releases is the
+/// model's to say.
+void prcConnectClick(ControlView& view, QAbstractButton& button);
 
 /// Puts a control's widget above its neighbours.
 void prcRaiseControl(ControlView& view);

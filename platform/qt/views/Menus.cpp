@@ -164,7 +164,7 @@ void prcMakeTool(ControlView& view, QWidget* bar) {
   button->setFocusPolicy(Qt::NoFocus);
   view.Widget = button;
   view.Helper = toolbar->addWidget(button);
-  QObject::connect(button, &QToolButton::clicked, button, [&view] { prcAct(view, prcUserClick); });
+  prcConnectClick(view, *button);
 }
 
 void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst) {
@@ -197,6 +197,7 @@ void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst) {
   const int caption =
       blnCaption ? button->fontMetrics().horizontalAdvance(button->text()) + fncScaled(10) : 0;
   button->setFixedSize(side + fncScaled(8) + caption, height);
+  const QSignalBlocker quiet(button);
   button->setChecked(control.Value != 0);
   button->setEnabled(control.Enabled);
 }
