@@ -21,14 +21,16 @@ bool fncBelowDialog(const ControlView& view) {
 
 void prcAct(ControlView& view, const std::function<void(Control&)>& act) {
   Control* control = fncLive(view);
-  if (control == nullptr || fncSyncing() || fncBelowDialog(view)) {
+  if (control == nullptr || fncSyncing()) {
     return;
   }
   const QPointer<QWidget> widget = view.Widget;
-  if (control->Form->Kind != WindowKind::Frame && fncActiveWindow() != control->Form) {
-    prcBringUp(*control->Form);
+  if (!fncBelowDialog(view)) {
+    if (control->Form->Kind != WindowKind::Frame && fncActiveWindow() != control->Form) {
+      prcBringUp(*control->Form);
+    }
+    prcServe([&] { act(*control); });
   }
-  prcServe([&] { act(*control); });
   // The handlers may have taken the control away, and its view with it.
   if (ControlView* left = widget != nullptr ? fncControlViewOf(widget) : nullptr;
       left != nullptr && left->Widget == widget) {

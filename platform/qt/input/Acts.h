@@ -12,7 +12,7 @@ struct ControlView;
 
 /// Tells the model of something that the user does to a control: its window gets the input, act
 /// runs with all its handlers, and the widget then shows what the model says, whatever the toolkit
-/// made of it. Nothing happens to a control that is gone or lies below a dialog or message.
+/// made of it. A control that lies below a dialog or message hears of nothing.
 void prcAct(ControlView& view, const std::function<void(Control&)>& act);
 
 /// The same for a control that is not known by its view; one that is not on the screen is left
