@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,8 @@
 
 struct Control;
 struct Window;
+struct ChartData;
+struct GridData;
 
 /// What a control is on the screen.
 enum class ControlKind : std::uint8_t {
@@ -27,6 +30,8 @@ enum class ControlKind : std::uint8_t {
   CheckBox,
   OptionButton,
   ListBox,
+  Grid,
+  Chart,
   ProgressBar,
   HScrollBar,
   VScrollBar,
@@ -115,7 +120,7 @@ struct ControlEvents {
   /// Runs before the focus leaves; setting blnCancel keeps it.
   void (*Validate)(Control&, bool& blnCancel) = nullptr;
   /// The value of a scroll bar or slider, or the text of a box, has changed, by the user or by
-  /// prcSetValue.
+  /// prcSetValue; or the user has picked another row of a grid or point of a chart.
   void (*Change)(Control&) = nullptr;
   void (*Resize)(Control&) = nullptr;
   void (*Timer)(Control&) = nullptr;
@@ -179,8 +184,10 @@ struct Control {
   char Prompt = '_';
   int SelLength = 0;
 
-  // List boxes; ListIndex is the selected row, -1 for none.
+  // Lists, grids and charts; ListIndex is the selected row or point, -1 for none.
   std::vector<std::string> List;
+  std::shared_ptr<const GridData> Grid;    ///< platform/Grid.h; another one shows other rows.
+  std::shared_ptr<const ChartData> Chart;  ///< platform/Chart.h; another one draws anew.
   int ListIndex = -1;
 
   // Timers, in milliseconds; a timer runs while Enabled and Interval is above 0.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Chart.h"
+#include "platform/Picking.h"
 #include "platform/Procedure.h"
 
 namespace {
@@ -136,6 +138,9 @@ bool fncUserPress(Control& control, const Mouse& mouse) {
 }
 
 void prcUserMove(Control& control, const Mouse& mouse) {
+  if (control.Kind == ControlKind::Chart) {
+    prcUserPick(control, fncChartPointAt(control, double{mouse.X}));
+  }
   if (control.On->MouseMove != nullptr) {
     control.On->MouseMove(control, mouse);
   }

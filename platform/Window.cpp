@@ -109,6 +109,8 @@ bool fncTakesFocus(const Control& control) {
     case ControlKind::CheckBox:
     case ControlKind::OptionButton:
     case ControlKind::ListBox:
+    case ControlKind::Grid:
+    case ControlKind::Chart:
     case ControlKind::Slider:
       return control.Visible && control.Enabled;
     case ControlKind::Picture:

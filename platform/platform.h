@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "platform/Window.h"
@@ -64,12 +65,40 @@ std::string DataFolder();
 /// The folder that holds the program's help file; no separator at the end.
 std::string HelpFolder();
 
+/// A kind of file that can be saved: its name for the user, and its ending without the point.
+struct FileKind {
+  const char* Name;
+  const char* Ending;
+};
+
+/// Asks the user where to save a file and as what kind, with a proposed name; modal. Returns the
+/// path, with the kind's ending where none was typed; nothing where the user gave up. A file that
+/// stands there is only named if the user has agreed to its end.
+std::string AskSavePath(const std::string& title, const std::string& name,
+                        std::span<const FileKind> kinds);
+
+/// Writes a file as a whole or not at all; what stood there stays until then. Returns nothing, or
+/// why it failed in words for the user.
+std::string SaveFile(const std::string& path, const std::string& contents);
+
+/// Saves a control on the screen as it looks, in the way of SaveFile: as a drawing where the path
+/// ends in ".svg", else as a picture of twice its size.
+std::string SavePicture(const Control& control, const std::string& path);
+
+/// Asks for a printer, modal, and prints a control as it looks, across one page below a title.
+/// Returns nothing, also where the user gave up, or why it failed in words for the user.
+std::string PrintPicture(const Control& control, const std::string& title);
+
+/// Puts a text on the clipboard.
+void CopyText(const std::string& text);
+
 /// Opens an address with the desktop's own opener. Above 32 is success; 0 no memory, 2 no such
 /// address, 31 no browser, any other failure its own number up to 32.
 int OpenAddress(const std::string& address);
 
-/// Shows the help file in the help window, at the first topic (context 1) or with contents and
-/// index (context 0). A file that is missing or damaged gets one message and nothing else.
+/// Shows the help file in the help window: at the page that its index calls by the context's
+/// number, at the first topic where there is none, or with contents and index (context 0). A file
+/// that is missing or damaged gets one message and nothing else.
 void ShowHelp(const std::string& file, int context);
 
 /// Whether another instance of this user's program runs; if so it has been asked to come to the

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
+#include <fstream>
 #include <map>
 #include <stdexcept>
 
+#include "platform/Picking.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
@@ -28,7 +30,8 @@ struct State {
   std::deque<platform::Answer> Answers;
   std::vector<headless::Box> Boxes;
   std::map<std::uint32_t, std::uint64_t> TimerDue;  // By the timer's serial.
-  std::vector<std::string> Repaints;
+  std::vector<std::string> Repaints, Copied, Printed;
+  std::deque<std::string> SavePaths;
   double ScreenWidth = 15360, ScreenHeight = 10500;
 };
 
@@ -229,6 +232,38 @@ void Activate(Window& window) {
 double ScreenWidth() { return state.ScreenWidth; }
 double ScreenHeight() { return state.ScreenHeight; }
 
+std::string AskSavePath(const std::string& /*title*/, const std::string& /*name*/,
+                        std::span<const FileKind> /*kinds*/) {
+  prcThrowIfEnded();
+  prcRunModalScript();
+  if (state.SavePaths.empty()) {
+    return {};
+  }
+  std::string path = std::move(state.SavePaths.front());
+  state.SavePaths.pop_front();
+  return path;
+}
+
+std::string SaveFile(const std::string& path, const std::string& contents) {
+  std::ofstream file(path, std::ios::binary);
+  file << contents;
+  file.close();
+  return file ? std::string() : "Could not be written";
+}
+
+std::string SavePicture(const Control& control, const std::string& path) {
+  return SaveFile(path, control.Spoken);
+}
+
+std::string PrintPicture(const Control& /*control*/, const std::string& title) {
+  prcThrowIfEnded();
+  state.Printed.push_back(title);
+  prcRunModalScript();
+  return {};
+}
+
+void CopyText(const std::string& text) { state.Copied.push_back(text); }
+
 void End() {
   state.blnEnded = true;
   throw EndOfProgram{};
@@ -278,6 +313,9 @@ void ForgetBoxes() { state.Boxes.clear(); }
 std::uint64_t Turns() { return state.Turns; }
 std::vector<std::string>& Repaints() { return state.Repaints; }
 bool Ended() { return state.blnEnded; }
+void SaveAs(std::string path) { state.SavePaths.push_back(std::move(path)); }
+std::vector<std::string>& Copied() { return state.Copied; }
+std::vector<std::string>& Printed() { return state.Printed; }
 
 void Screen(double width, double height) {
   state.ScreenWidth = width;
@@ -322,7 +360,14 @@ void Release(Control& control, float x, float y) {
 
 void Hover(Control& control) {
   prcNeedUsable(control);
-  prcDispatch([&] { prcUserMove(control, {}); });
+  const Mouse middle{.X = static_cast<float>(control.Width / 2),
+                     .Y = static_cast<float>(control.Height / 2)};
+  prcDispatch([&] { prcUserMove(control, middle); });
+}
+
+void Pick(Control& grid, int row) {
+  prcNeedUsable(grid);
+  prcDispatch([&] { prcUserPick(grid, row); });
 }
 
 void Hover(Window& window) {
@@ -357,6 +402,9 @@ void Key(Window& window, const std::string& key, int shift) {
   prcDispatch([&] {
     if (window.On->KeyDown != nullptr) {
       window.On->KeyDown(window, key, shift);
+    }
+    if (window.ActiveControl != nullptr) {
+      fncUserPickKey(*window.ActiveControl, key);
     }
     if (window.On->KeyPress != nullptr && key.size() == 1) {
       window.On->KeyPress(window, key.front());

@@ -61,6 +61,13 @@ std::vector<std::string>& Repaints();
 /// The program has ended.
 bool Ended();
 
+/// Where the user wants the next file saved; without it AskSavePath is given up.
+void SaveAs(std::string path);
+
+/// The text of every copy and the title of every page printed since Reset.
+std::vector<std::string>& Copied();
+std::vector<std::string>& Printed();
+
 /// The screen's size in twips.
 void Screen(double width, double height);
 
@@ -80,6 +87,8 @@ void Release(Control& control, float x = 0, float y = 0);
 /// The pointer moves over a control, or over the bare window.
 void Hover(Control& control);
 void Hover(Window& window);
+/// The user picks a row of a grid or a point of a chart.
+void Pick(Control& grid, int row);
 /// Puts the focus in a box as by mouse and replaces its text as by typing. Returns whether the
 /// focus got there.
 bool Type(Control& box, const std::string& text);

@@ -34,6 +34,8 @@ TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
   EXPECT_TRUE(help->fncPages().toPlainText().contains(QStringLiteral("Velmora")));
   platform::ShowHelp(fncBuiltHelp().toStdString(), 1);
   EXPECT_EQ(fncShown(), help);
+  platform::ShowHelp(fncBuiltHelp().toStdString(), 2);
+  EXPECT_TRUE(help->fncPages().toPlainText().startsWith(QStringLiteral("Exact odds")));
   EXPECT_TRUE(user::Boxes().empty());
   delete help;
 }

@@ -23,6 +23,7 @@ bool fncNative(ControlKind kind) {
     case ControlKind::TextBox:
     case ControlKind::MaskedEdit:
     case ControlKind::ListBox:
+    case ControlKind::Grid:
     case ControlKind::HScrollBar:
     case ControlKind::VScrollBar:
     case ControlKind::Slider:
@@ -257,7 +258,8 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   const int shift = fncShift(event.modifiers());
   if (Control* control = fncMeant(widget); control != nullptr) {
     QWidget* own = fncWidgetOf(*control);
-    if (own != nullptr && control->On->MouseMove != nullptr) {
+    if (own != nullptr &&
+        (control->On->MouseMove != nullptr || control->Kind == ControlKind::Chart)) {
       const Mouse mouse = fncMouse(*own, event.globalPosition(), 0, shift);
       prcServe([&] { prcUserMove(*control, mouse); });
     }

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <algorithm>
 
+#include "platform/Picking.h"
 #include "platform/UserInput.h"
 #include "platform/qt/input/Acts.h"
 #include "platform/qt/input/InputRouter.h"
@@ -76,11 +77,12 @@ Control* fncAnswering(const Window& window, bool Control::*which) {
 
 bool fncClickedBySpace(ControlKind kind) {
   return kind == ControlKind::Button || kind == ControlKind::CheckBox ||
-         kind == ControlKind::OptionButton || kind == ControlKind::Picture;
+         kind == ControlKind::OptionButton || kind == ControlKind::Picture ||
+         kind == ControlKind::Chart;
 }
 
 bool fncClickedByEnter(ControlKind kind) {
-  return kind == ControlKind::Button || kind == ControlKind::Picture;
+  return kind == ControlKind::Button || kind == ControlKind::Picture || kind == ControlKind::Chart;
 }
 
 /// Enter and Escape: the focused button or picture, else the window's own buttons for them.
@@ -130,6 +132,15 @@ bool fncScrollKey(const Window& window, int key) {
     }
   }
   return false;
+}
+
+/// The keys that go along a chart.
+bool fncPickKey(Control& focused, const QKeyEvent& event) {
+  bool blnPicked = false;
+  if (focused.Kind == ControlKind::Chart) {
+    prcServe([&] { blnPicked = fncUserPickKey(focused, fncKeyName(event)); });
+  }
+  return blnPicked;
 }
 
 /// The control of a window that an access key means: of several the next one behind the focus, else
@@ -232,6 +243,9 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   }
   if (focused == nullptr) {
     return fncScrollKey(window, key);
+  }
+  if (fncPickKey(*focused, event)) {
+    return true;
   }
   if (key == Qt::Key_Space && fncClickedBySpace(focused->Kind)) {
     if (!event.isAutoRepeat()) {

@@ -139,10 +139,12 @@ bool HelpWindow::fncOpen(const QString& file) {
   return true;
 }
 
-void HelpWindow::prcShowFirst() {
-  const QUrl first = fncFirstPage(*engine_.contentModel());
-  if (first.isValid()) {
-    pages_->setSource(first);
+void HelpWindow::prcShowTopic(int context) {
+  const QList<QHelpLink> named =
+      engine_.documentsForIdentifier(QStringLiteral("context%1").arg(context));
+  const QUrl page = named.isEmpty() ? fncFirstPage(*engine_.contentModel()) : named.first().url;
+  if (page.isValid()) {
+    pages_->setSource(page);
   }
 }
 
@@ -277,7 +279,7 @@ void ShowHelp(const std::string& file, int context) {
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qt::wndHelp, [] { delete qt::wndHelp; });
   }
   if (context != 0) {
-    qt::wndHelp->prcShowFirst();
+    qt::wndHelp->prcShowTopic(context);
   }
   qt::wndHelp->show();
   qt::wndHelp->raise();

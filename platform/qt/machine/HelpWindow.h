@@ -39,8 +39,8 @@ class HelpWindow : public QMainWindow {
   /// Opens a help file. Returns whether it is one that can be read.
   bool fncOpen(const QString& file);
 
-  /// Shows the first topic.
-  void prcShowFirst();
+  /// Shows the page that the index calls "context" and the number, or else the first topic.
+  void prcShowTopic(int context);
 
   /// Whether the window shows that file.
   bool fncShows(const QString& file) const { return file_ == file; }

@@ -26,6 +26,8 @@ QAccessible::Role fncRole(const Control& control) {
       return control.On->Click != nullptr ? QAccessible::Button : QAccessible::StaticText;
     case ControlKind::Picture:
       return control.On->Click != nullptr ? QAccessible::Button : QAccessible::Graphic;
+    case ControlKind::Chart:
+      return QAccessible::Chart;
     case ControlKind::Frame:
       return QAccessible::Grouping;
     case ControlKind::Line:

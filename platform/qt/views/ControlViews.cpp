@@ -15,6 +15,7 @@
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Buttons.h"
+#include "platform/qt/views/Grid.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Loop.h"
@@ -31,6 +32,7 @@ bool fncPainted(ControlKind kind) {
     case ControlKind::Shape:
     case ControlKind::Line:
     case ControlKind::Frame:
+    case ControlKind::Chart:
       return true;
     default:
       return false;
@@ -48,7 +50,8 @@ bool fncMouseless(ControlKind kind) {
 
 QWidget* fncMakePainted(ControlView& view, QWidget* parent) {
   auto* widget = new PaintedView(view, parent);
-  if (view.Drawn.Kind == ControlKind::Picture && view.Drawn.TabStop) {
+  const ControlKind kind = view.Drawn.Kind;
+  if ((kind == ControlKind::Picture || kind == ControlKind::Chart) && view.Drawn.TabStop) {
     widget->setFocusPolicy(Qt::TabFocus);
   }
   return widget;
@@ -133,6 +136,12 @@ QWidget* fncMakeRows(ControlView& view, QWidget* parent) { return new RowsView(v
 
 void prcUpdateRows(ControlView& view, const Control& next, bool blnFirst) {
   static_cast<RowsView*>(view.Widget.data())->prcUpdate(next, blnFirst);
+}
+
+QWidget* fncMakeGrid(ControlView& view, QWidget* parent) { return new GridView(view, parent); }
+
+void prcUpdateGrid(ControlView& view, const Control& next, bool blnFirst) {
+  static_cast<GridView*>(view.Widget.data())->prcUpdate(next, blnFirst);
 }
 
 int fncWhole(double value) { return static_cast<int>(std::lround(std::clamp(value, -1e9, 1e9))); }
@@ -243,6 +252,8 @@ constexpr KindRow kndRows[] = {
     {ControlKind::CheckBox, fncMakeChecked<CheckView>, prcUpdateChecked},
     {ControlKind::OptionButton, fncMakeChecked<OptionView>, prcUpdateChecked},
     {ControlKind::ListBox, fncMakeRows, prcUpdateRows},
+    {ControlKind::Grid, fncMakeGrid, prcUpdateGrid},
+    {ControlKind::Chart, fncMakePainted, prcUpdatePainted},
     {ControlKind::ProgressBar, fncMakeProgress, prcUpdateProgress},
     {ControlKind::HScrollBar, fncMakeRange, prcUpdateRange},
     {ControlKind::VScrollBar, fncMakeRange, prcUpdateRange},
@@ -363,6 +374,8 @@ void prcDropControl(ControlView& view) {
     edit->prcDetach();
   } else if (auto* rows = qobject_cast<RowsView*>(view.Widget); rows != nullptr) {
     rows->prcDetach();
+  } else if (auto* grid = qobject_cast<GridView*>(view.Widget); grid != nullptr) {
+    grid->prcDetach();
   }
   prcSilence(*view.Widget);
   view.Widget->hide();

@@ -9,6 +9,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Chart.h"
 #include "platform/qt/views/ControlViews.h"
 
 namespace qt {
@@ -254,6 +255,9 @@ void prcPaintControl(QPainter& painter, const Control& control, const QRect& rec
       break;
     case ControlKind::Frame:
       prcDrawGroup(painter, control, rect);
+      break;
+    case ControlKind::Chart:
+      prcDrawChart(painter, control, rect);
       break;
     default:
       break;

@@ -1,0 +1,82 @@
+#include "platform/Chart.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Room around the lines, in twips: heights at the left, the legend above, the axis below.
+constexpr double dblLeft = 1050, dblRight = 225, dblTop = 435, dblBottom = 525;
+constexpr int intMostSteps = 7;
+
+struct Range {
+  double Low, High;
+  bool blnEmpty = true;
+
+  void prcTake(double value) {
+    Low = blnEmpty ? value : std::min(Low, value);
+    High = blnEmpty ? value : std::max(High, value);
+    blnEmpty = false;
+  }
+};
+
+}  // namespace
+
+double fncChartStep(double span, int most) {
+  const double least = span / most;
+  const double power = std::pow(10, std::floor(std::log10(least)));
+  for (const double factor : {1.0, 2.0, 5.0}) {
+    if (factor * power >= least * (1 - 1e-9)) {
+      return factor * power;
+    }
+  }
+  return 10 * power;
+}
+
+ChartPlot fncChartPlot(const Control& chart) {
+  Range x{}, y{};
+  if (chart.Chart != nullptr) {
+    for (const ChartLine& line : chart.Chart->Lines) {
+      for (const ChartPoint& point : line.Points) {
+        x.prcTake(double{point.X});
+        y.prcTake(double{point.Y});
+      }
+    }
+    for (const ChartBand& band : chart.Chart->Bands) {
+      for (const ChartSpan& span : band.Spans) {
+        x.prcTake(double{span.X});
+        y.prcTake(double{span.Low});
+        y.prcTake(double{span.High});
+      }
+    }
+  }
+  const double span = std::max(y.High - y.Low, 1.0);
+  const double step = fncChartStep(span, intMostSteps);
+  const double low = std::floor(y.Low / step) * step;
+  return {dblLeft,
+          dblTop,
+          std::max(chart.Width - dblLeft - dblRight, 15.0),
+          std::max(chart.Height - dblTop - dblBottom, 15.0),
+          x.Low,
+          std::max(x.High, x.Low + 1),
+          low,
+          std::max(std::ceil(y.High / step) * step, low + step)};
+}
+
+int fncChartPointAt(const Control& chart, double x) {
+  if (chart.Chart == nullptr || chart.Chart->Lines.empty() ||
+      chart.Chart->Lines.front().Points.empty()) {
+    return -1;
+  }
+  const std::vector<ChartPoint>& points = chart.Chart->Lines.front().Points;
+  const ChartPlot plot = fncChartPlot(chart);
+  const auto right = std::ranges::partition_point(
+      points, [&](const ChartPoint& point) { return plot.fncX(double{point.X}) < x; });
+  const auto place = static_cast<int>(right - points.begin());
+  if (right == points.begin()) {
+    return 0;
+  }
+  const bool blnLeft = right == points.end() ||
+                       x - plot.fncX(double{(right - 1)->X}) < plot.fncX(double{right->X}) - x;
+  return blnLeft ? place - 1 : place;
+}

@@ -1,0 +1,298 @@
+#include "platform/qt/views/Chart.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Chart.h"
+#include "platform/Picking.h"
+#include "platform/Texts.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/ControlViews.h"
+
+namespace qt {
+
+namespace {
+
+constexpr QRgb rgbGrid = 0xFFE9E1CB;
+constexpr int intBandAlpha = 44;
+constexpr double dblDot = 3.5;  // Pixels at scale 1.
+
+/// A chart being drawn: its plot in pixels from the painter's origin.
+struct Sheet {
+  QPainter& Painter;
+  const ChartData& Data;
+  ChartPlot Plot;
+  double Pixel;  ///< One pixel of the design.
+  QFontMetricsF Metrics;
+
+  QPointF fncAt(const ChartPoint& point) const {
+    return {Plot.fncX(double{point.X}), Plot.fncY(double{point.Y})};
+  }
+  double fncRight() const { return Plot.Left + Plot.Width; }
+  double fncBottom() const { return Plot.Top + Plot.Height; }
+  QRectF fncField() const { return {Plot.Left, Plot.Top, Plot.Width, Plot.Height}; }
+};
+
+ChartPlot fncInPixels(ChartPlot plot) {
+  const double pixel = fncScale() / 15;
+  plot.Left *= pixel;
+  plot.Top *= pixel;
+  plot.Width *= pixel;
+  plot.Height *= pixel;
+  return plot;
+}
+
+/// A row of places, thinned: of those that fall on one column of pixels the first, lowest, highest
+/// and last are all that can be seen.
+class Thinned {
+ public:
+  void prcAdd(QPointF at) {
+    if (blnOpen_ && std::floor(at.x()) == std::floor(first_.x())) {
+      low_ = at.y() > low_.y() ? at : low_;
+      high_ = at.y() < high_.y() ? at : high_;
+      last_ = at;
+      return;
+    }
+    prcClose();
+    first_ = low_ = high_ = last_ = at;
+    blnOpen_ = true;
+  }
+
+  QPolygonF fncTake() {
+    prcClose();
+    return std::move(kept_);
+  }
+
+ private:
+  void prcClose() {
+    if (!blnOpen_) {
+      return;
+    }
+    const bool blnLowFirst = low_.x() < high_.x();
+    for (const QPointF& at :
+         {first_, blnLowFirst ? low_ : high_, blnLowFirst ? high_ : low_, last_}) {
+      if (kept_.isEmpty() || kept_.back() != at) {
+        kept_.append(at);
+      }
+    }
+    blnOpen_ = false;
+  }
+
+  QPolygonF kept_;
+  QPointF first_, low_, high_, last_;
+  bool blnOpen_ = false;
+};
+
+QPen fncPen(const Sheet& sheet, const QColor& ink, double width, bool blnDashed) {
+  QPen pen(ink, width * sheet.Pixel);
+  pen.setCapStyle(blnDashed ? Qt::FlatCap : Qt::RoundCap);
+  pen.setJoinStyle(Qt::RoundJoin);
+  if (blnDashed) {
+    pen.setDashPattern({4, 3});
+  }
+  return pen;
+}
+
+QString fncHeight(const ChartData& data, double y) {
+  return fncText(data.YText != nullptr ? data.YText(y) : fncPlainNumberText(y));
+}
+
+void prcDrawHeights(const Sheet& sheet) {
+  const ChartPlot& plot = sheet.Plot;
+  const double step = fncChartStep(plot.YHigh - plot.YLow, 8);
+  for (double y = std::ceil(plot.YLow / step) * step; y <= plot.YHigh + step / 1000; y += step) {
+    // A line of the grid lies on whole pixels: half on each of two it would be a grey smear.
+    const double at = std::floor(plot.fncY(y)) + 0.5;
+    sheet.Painter.setPen(QPen(QColor::fromRgb(rgbGrid), sheet.Pixel));
+    sheet.Painter.drawLine(QPointF(plot.Left, at), QPointF(sheet.fncRight(), at));
+    sheet.Painter.setPen(QColor::fromRgb(rgbFaded));
+    sheet.Painter.drawText(QRectF(0, at - sheet.Metrics.height() / 2, plot.Left - 6 * sheet.Pixel,
+                                  sheet.Metrics.height()),
+                           Qt::AlignRight | Qt::AlignVCenter,
+                           fncHeight(sheet.Data, std::abs(y) < step / 1000 ? 0 : y));
+  }
+}
+
+/// Texts below the lines; one that would touch its left neighbour is left out.
+void prcDrawBelow(const Sheet& sheet, double x, const QString& text, int row, double& free) {
+  const double width = sheet.Metrics.horizontalAdvance(text);
+  const double left = std::clamp(x - width / 2, 0.0, sheet.fncRight() - width);
+  if (left < free) {
+    return;
+  }
+  free = left + width + 8 * sheet.Pixel;
+  sheet.Painter.drawText(QPointF(left, sheet.fncBottom() + 3 * sheet.Pixel +
+                                           sheet.Metrics.ascent() + row * sheet.Metrics.height()),
+                         text);
+}
+
+void prcDrawSteps(const Sheet& sheet) {
+  const ChartPlot& plot = sheet.Plot;
+  sheet.Painter.setPen(QColor::fromRgb(rgbFaded));
+  const double step = std::max(1.0, fncChartStep(plot.XHigh - plot.XLow, 10));
+  const QString name = fncText(sheet.Data.AxisName);
+  double free = sheet.Metrics.horizontalAdvance(name) + 14 * sheet.Pixel;
+  sheet.Painter.drawText(
+      QPointF(6 * sheet.Pixel, sheet.fncBottom() + 3 * sheet.Pixel + sheet.Metrics.ascent()), name);
+  for (double x = std::ceil(plot.XLow / step) * step; x <= plot.XHigh + step / 1000; x += step) {
+    prcDrawBelow(sheet, plot.fncX(x), fncText(fncPlainNumberText(std::round(x))), 0, free);
+  }
+}
+
+void prcDrawTicks(const Sheet& sheet) {
+  double free = 0;
+  for (const ChartTick& tick : sheet.Data.Ticks) {
+    const double x = std::floor(sheet.Plot.fncX(double{tick.X})) + 0.5;
+    sheet.Painter.setPen(fncPen(sheet, QColor::fromRgb(rgbOutline), 1, true));
+    sheet.Painter.drawLine(QPointF(x, sheet.Plot.Top), QPointF(x, sheet.fncBottom()));
+    sheet.Painter.setPen(QColor::fromRgb(rgbInk));
+    prcDrawBelow(sheet, x, fncText(tick.Text), 1, free);
+  }
+}
+
+void prcDrawBand(const Sheet& sheet, const ChartBand& band) {
+  Thinned upper, lower;
+  for (const ChartSpan& span : band.Spans) {
+    upper.prcAdd(sheet.fncAt({span.X, span.High}));
+    lower.prcAdd(sheet.fncAt({span.X, span.Low}));
+  }
+  QPolygonF field = upper.fncTake();
+  const QPolygonF back = lower.fncTake();
+  std::copy(back.rbegin(), back.rend(), std::back_inserter(field));
+  QColor tint = fncColour(band.Tint);
+  tint.setAlpha(intBandAlpha);
+  sheet.Painter.setPen(Qt::NoPen);
+  sheet.Painter.setBrush(tint);
+  sheet.Painter.drawPolygon(field);
+}
+
+void prcDrawLine(const Sheet& sheet, const ChartLine& line) {
+  Thinned row;
+  for (const ChartPoint& point : line.Points) {
+    row.prcAdd(sheet.fncAt(point));
+  }
+  sheet.Painter.setPen(fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed));
+  sheet.Painter.setBrush(Qt::NoBrush);
+  sheet.Painter.drawPolyline(row.fncTake());
+}
+
+void prcDrawDot(const Sheet& sheet, QPointF at, const QColor& ink) {
+  sheet.Painter.setPen(QPen(QColor::fromRgb(rgbPaper), 1.5 * sheet.Pixel));
+  sheet.Painter.setBrush(ink);
+  sheet.Painter.drawEllipse(at, dblDot * sheet.Pixel, dblDot * sheet.Pixel);
+}
+
+/// A dot with its text to the right of it, or to the left where there is no room, on a plate of
+/// paper so that lines do not run through it.
+void prcDrawMark(const Sheet& sheet, const ChartMark& mark) {
+  const QPointF at = sheet.fncAt(mark.At);
+  const QColor ink = fncColour(mark.Ink);
+  prcDrawDot(sheet, at, ink);
+  const QString text = fncText(mark.Text);
+  const QSizeF size(sheet.Metrics.horizontalAdvance(text) + 8 * sheet.Pixel,
+                    sheet.Metrics.height() + 2 * sheet.Pixel);
+  const double gap = 8 * sheet.Pixel;
+  const bool blnRight = at.x() + gap + size.width() <= sheet.fncRight();
+  const double top =
+      std::clamp(at.y() - size.height() / 2, sheet.Plot.Top, sheet.fncBottom() - size.height());
+  const QRectF plate(QPointF(blnRight ? at.x() + gap : at.x() - gap - size.width(), top), size);
+  QColor paper = QColor::fromRgb(rgbPaper);
+  paper.setAlpha(225);
+  sheet.Painter.setPen(Qt::NoPen);
+  sheet.Painter.setBrush(paper);
+  sheet.Painter.drawRoundedRect(plate, 3 * sheet.Pixel, 3 * sheet.Pixel);
+  sheet.Painter.setPen(ink);
+  sheet.Painter.drawText(plate, Qt::AlignCenter, text);
+}
+
+/// What has a name, in a row above the lines: bands by a patch, lines by a stroke.
+void prcDrawLegend(const Sheet& sheet) {
+  const double middle = sheet.Plot.Top / 2, swatch = 18 * sheet.Pixel;
+  double left = sheet.Plot.Left;
+  const auto name = [&](const std::string& text) {
+    sheet.Painter.setPen(QColor::fromRgb(rgbInk));
+    left += swatch + 5 * sheet.Pixel;
+    sheet.Painter.drawText(
+        QPointF(left, middle + (sheet.Metrics.ascent() - sheet.Metrics.descent()) / 2),
+        fncText(text));
+    left += sheet.Metrics.horizontalAdvance(fncText(text)) + 16 * sheet.Pixel;
+  };
+  for (const ChartLine& line : sheet.Data.Lines) {
+    if (!line.Name.empty()) {
+      sheet.Painter.setPen(fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed));
+      sheet.Painter.drawLine(QPointF(left, middle), QPointF(left + swatch, middle));
+      name(line.Name);
+    }
+  }
+  int nested = 0;
+  for (const ChartBand& band : sheet.Data.Bands) {
+    ++nested;
+    if (!band.Name.empty()) {
+      QColor tint = fncColour(band.Tint);
+      tint.setAlpha(std::min(255, intBandAlpha * nested));
+      const double half = 5 * sheet.Pixel;
+      sheet.Painter.fillRect(QRectF(left, middle - half, swatch, 2 * half), tint);
+      name(band.Name);
+    }
+  }
+}
+
+/// The point that the user has picked: a line through it, and a dot on every named line there.
+void prcDrawPicked(const Sheet& sheet, int picked) {
+  if (picked < 0 || sheet.Data.Lines.empty() ||
+      static_cast<std::size_t>(picked) >= sheet.Data.Lines.front().Points.size()) {
+    return;
+  }
+  const float x = sheet.Data.Lines.front().Points[static_cast<std::size_t>(picked)].X;
+  const double at = std::floor(sheet.Plot.fncX(double{x})) + 0.5;
+  sheet.Painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), sheet.Pixel));
+  sheet.Painter.drawLine(QPointF(at, sheet.Plot.Top), QPointF(at, sheet.fncBottom()));
+  for (const ChartLine& line : sheet.Data.Lines) {
+    const auto point = std::ranges::lower_bound(line.Points, x, {}, &ChartPoint::X);
+    if (!line.Name.empty() && !line.blnDashed && point != line.Points.end() && point->X == x) {
+      prcDrawDot(sheet, sheet.fncAt(*point), fncColour(line.Ink));
+    }
+  }
+}
+
+}  // namespace
+
+void prcDrawChart(QPainter& painter, const Control& control, const QRectF& rect) {
+  painter.save();
+  painter.translate(rect.topLeft());
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double pixel = fncScale();
+  const QFont font = fncFont(control.Face);
+  painter.setFont(font);
+  painter.setPen(QPen(QColor::fromRgb(rgbOutline), pixel));
+  painter.setBrush(QColor::fromRgb(rgbPaper));
+  const double half = pixel / 2;
+  painter.drawRoundedRect(QRectF(QPointF(0, 0), rect.size()).adjusted(half, half, -half, -half),
+                          5 * pixel, 5 * pixel);
+  if (fncPickable(control) > 0) {
+    const Sheet sheet{painter, *control.Chart, fncInPixels(fncChartPlot(control)), pixel,
+                      QFontMetricsF(font)};
+    prcDrawHeights(sheet);
+    prcDrawSteps(sheet);
+    prcDrawTicks(sheet);
+    painter.setClipRect(sheet.fncField().adjusted(-dblDot * pixel, -dblDot * pixel, dblDot * pixel,
+                                                  dblDot * pixel));
+    for (const ChartBand& band : sheet.Data.Bands) {
+      prcDrawBand(sheet, band);
+    }
+    for (const ChartLine& line : sheet.Data.Lines) {
+      prcDrawLine(sheet, line);
+    }
+    for (const ChartMark& mark : sheet.Data.Marks) {
+      prcDrawMark(sheet, mark);
+    }
+    prcDrawPicked(sheet, control.ListIndex);
+    painter.setClipping(false);
+    prcDrawLegend(sheet);
+  }
+  painter.restore();
+}
+
+}  // namespace qt
