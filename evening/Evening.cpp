@@ -1,8 +1,10 @@
 #include "evening/Evening.h"
 
 #include "evening/Bets.h"
+#include "evening/Course.h"
 #include "evening/Curve.h"
 #include "evening/EveningMenu.h"
+#include "evening/Hands.h"
 #include "evening/Record.h"
 #include "table/Hooks.h"
 
@@ -11,6 +13,8 @@ namespace {
 void prcHandSettled() {
   prcNoteHand();
   prcNoteBetsPlayed();
+  prcFollowHands();
+  prcFollowCourse();
 }
 
 void prcStatisticsReset() {
@@ -24,6 +28,8 @@ void prcStartEvening() {
   prcForgetHands();
   prcForgetBets();
   prcForgetCurve();
+  prcPrepareHands();
+  prcPrepareCourse();
   hooks = {.HandSettled = prcHandSettled,
            .BetChanging = prcNoteBetChange,
            .StatisticsReset = prcStatisticsReset,

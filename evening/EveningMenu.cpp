@@ -4,13 +4,16 @@
 #include <string>
 
 #include "evening/Bets.h"
+#include "evening/Course.h"
+#include "evening/Hands.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "shell/MDIForm1.h"
 
 namespace {
 
-Control mnuEvening, mnuRepeatBets, mnuTakeBack, mnuDoubleBets;
+Control mnuEvening, mnuRepeatBets, mnuTakeBack, mnuDoubleBets, mnuSep7, mnuHandsOfEvening,
+    mnuCourse;
 
 struct EveningRow {
   Control& Entry;
@@ -24,6 +27,9 @@ constexpr EveningRow eveningRows[] = {
     {mnuRepeatBets, "mnuRepeatBets", "&Repeat Last Bets", "Ctrl+R", prcRepeatBets},
     {mnuTakeBack, "mnuTakeBack", "&Take Back", "Ctrl+Z", prcTakeBack},
     {mnuDoubleBets, "mnuDoubleBets", "&Double", "Ctrl+D", prcDoubleBets},
+    {mnuSep7, "mnuSep7", "-"},
+    {mnuHandsOfEvening, "mnuHandsOfEvening", "&Hands of the Evening...", "F8", prcShowHands},
+    {mnuCourse, "mnuCourse", "&Course of the Money...", "F9", prcShowCourse},
 };
 
 void prcEveningClick(Control& entry) {

@@ -1,0 +1,236 @@
+#include "evening/CourseChart.h"
+
+#include <algorithm>
+#include <array>
+
+#include "evening/Curve.h"
+#include "evening/EveningWindow.h"
+#include "evening/Record.h"
+#include "platform/Texts.h"
+
+namespace {
+
+constexpr std::array<Colour, intSeats> clrSeats{Colour{20, 92, 60}, Colour{38, 74, 140}};
+constexpr Colour clrStake{138, 106, 16};
+constexpr double dblCurveWidth = 1.75, dblRunWidth = 3.5;
+
+/// The hands that a scope shows: from the one behind which it begins, 0 for the start, to its last.
+struct Reach {
+  int From = 0, To = 0;
+
+  bool fncHolds(const Stretch& stretch) const {
+    return stretch.Amount > 0 && stretch.From >= From && stretch.To <= To;
+  }
+};
+
+Reach fncReach(const Scope& scope) {
+  const int hands = static_cast<int>(colEveningHands.size());
+  if (scope.Shoe == 0) {
+    return {0, hands};
+  }
+  const auto shoe = std::ranges::equal_range(
+      colEveningHands, scope.Shoe, {}, [](const EveningHand& hand) { return int{hand.Shoe}; });
+  const auto from = static_cast<int>(shoe.begin() - colEveningHands.begin());
+  return {from, from + static_cast<int>(std::ssize(shoe))};
+}
+
+bool fncHasSeat(const Scope& scope, int seat) { return scope.Seat < 0 || scope.Seat == seat; }
+
+float fncFloat(double number) { return static_cast<float>(number); }
+
+/// A chart under construction, of one seat at a time.
+struct Sheet {
+  ChartData& Chart;
+  Reach Hands;
+  int Seat;
+  std::vector<CurvePoint> Curve;  ///< By hand.
+
+  const CurvePoint& fncPoint(int hand) const { return Curve[static_cast<std::size_t>(hand)]; }
+  ChartPoint fncMoney(int hand) const { return {fncFloat(hand), fncFloat(fncPoint(hand).Money)}; }
+};
+
+template <class Value>
+std::vector<ChartPoint> fncPoints(const Sheet& sheet, Reach reach, Value value) {
+  std::vector<ChartPoint> points;
+  points.reserve(static_cast<std::size_t>(reach.To - reach.From) + 1);
+  for (int hand = reach.From; hand <= reach.To; ++hand) {
+    points.push_back({fncFloat(hand), fncFloat(value(sheet.fncPoint(hand)))});
+  }
+  return points;
+}
+
+double fncMoneyOf(const CurvePoint& point) { return point.Money; }
+
+void prcAddCurve(Sheet& sheet) {
+  sheet.Chart.Lines.push_back({.Name = fncSeatName(sheet.Seat),
+                               .Ink = clrSeats.at(static_cast<std::size_t>(sheet.Seat)),
+                               .Width = dblCurveWidth,
+                               .Points = fncPoints(sheet, sheet.Hands, fncMoneyOf)});
+}
+
+/// The base line, with a step where the stake changes.
+void prcAddStake(Sheet& sheet, bool blnNamed) {
+  std::vector<ChartPoint> points;
+  for (const ChartPoint& point :
+       fncPoints(sheet, sheet.Hands, [](const CurvePoint& at) { return at.Stake; })) {
+    if (!points.empty() && points.back().Y != point.Y) {
+      points.push_back({point.X - 1, points.back().Y});
+      points.push_back({point.X - 1, point.Y});
+    } else if (points.empty()) {
+      points.push_back(point);
+    }
+    if (point.X == fncFloat(sheet.Hands.To)) {
+      points.push_back(point);
+    }
+  }
+  sheet.Chart.Lines.push_back({.Name = blnNamed ? "Stake" : "",
+                               .Ink = clrStake,
+                               .Width = 1,
+                               .blnDashed = true,
+                               .Points = std::move(points)});
+}
+
+void prcAddBands(Sheet& sheet, bool blnNamed) {
+  struct Row {
+    const char* Name;
+    std::size_t Low, High;
+  };
+  for (const Row& row : {Row{"90 of 100 players", 0, 3}, Row{"50 of 100 players", 1, 2}}) {
+    ChartBand band{.Name = blnNamed ? row.Name : "",
+                   .Tint = clrSeats.at(static_cast<std::size_t>(sheet.Seat))};
+    band.Spans.reserve(static_cast<std::size_t>(sheet.Hands.To - sheet.Hands.From) + 1);
+    for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
+      const auto& edges = sheet.fncPoint(hand).Band;
+      band.Spans.push_back(
+          {fncFloat(hand), fncFloat(edges.at(row.Low)), fncFloat(edges.at(row.High))});
+    }
+    sheet.Chart.Bands.push_back(std::move(band));
+  }
+}
+
+void prcAddMarks(Sheet& sheet) {
+  const Stretch fall = fncDeepestFall(sheet.Seat);
+  if (sheet.Hands.fncHolds(fall)) {
+    sheet.Chart.Lines.push_back({.Ink = clrLoss,
+                                 .Width = 1,
+                                 .blnDashed = true,
+                                 .Points = {sheet.fncMoney(fall.From), sheet.fncMoney(fall.To)}});
+    sheet.Chart.Marks.push_back(
+        {sheet.fncMoney(fall.To), clrLoss, "Deepest fall " + fncCurrency(fall.Amount)});
+  }
+  const Stretch run = fncLongestLosingRun(sheet.Seat);
+  if (sheet.Hands.fncHolds(run)) {
+    sheet.Chart.Lines.push_back({.Ink = clrLoss,
+                                 .Width = dblRunWidth,
+                                 .Points = fncPoints(sheet, {run.From, run.To}, fncMoneyOf)});
+    sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
+                                 std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
+  }
+  for (int hand = sheet.Hands.From + 1; hand <= sheet.Hands.To; ++hand) {
+    if (colEveningHands[static_cast<std::size_t>(hand) - 1].Reset) {
+      sheet.Chart.Marks.push_back({sheet.fncMoney(hand), clrStake, "Statistics reset"});
+    }
+  }
+}
+
+void prcAddShoes(ChartData& chart, Reach reach) {
+  int shoe = 0;
+  for (int hand = reach.From; hand < reach.To; ++hand) {
+    if (const int of = colEveningHands[static_cast<std::size_t>(hand)].Shoe; of != shoe) {
+      shoe = of;
+      chart.Ticks.push_back({fncFloat(hand), "Shoe " + std::to_string(shoe)});
+    }
+  }
+}
+
+std::string fncSeatSentence(const Scope& scope, int seat) {
+  const std::vector<CurvePoint> curve = fncCurve(seat);
+  const Reach reach = fncReach(scope);
+  const auto from = curve.begin() + reach.From;
+  const auto to = curve.begin() + reach.To + 1;
+  const auto [low, high] = std::ranges::minmax_element(from, to, {}, &CurvePoint::Money);
+  const auto at = [&](auto point) {
+    return fncCurrency(point->Money) + " behind hand " + std::to_string(point - curve.begin());
+  };
+  std::string sentence = " " + fncSeatName(seat) + " came with " + fncCurrency(from->Money) +
+                         " and has " + fncCurrency((to - 1)->Money) + ", had most, " + at(high) +
+                         ", and least, " + at(low) + ".";
+  const Stretch fall = fncDeepestFall(seat);
+  const Stretch run = fncLongestLosingRun(seat);
+  if (reach.fncHolds(fall)) {
+    sentence += " The deepest fall was " + fncCurrency(fall.Amount) + ", from hand " +
+                std::to_string(fall.From) + " to " + std::to_string(fall.To) + ".";
+  }
+  if (reach.fncHolds(run)) {
+    sentence += " Most losses in a row: " + std::to_string(static_cast<int>(run.Amount)) + ".";
+  }
+  return sentence;
+}
+
+}  // namespace
+
+std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
+  auto chart = std::make_shared<ChartData>();
+  if (colEveningHands.empty()) {
+    return chart;
+  }
+  chart->AxisName = "Hand";
+  chart->YText = fncCurrency;
+  const Reach reach = fncReach(scope);
+  std::vector<Sheet> sheets;
+  for (int seat = 0; seat < intSeats; ++seat) {
+    if (fncHasSeat(scope, seat)) {
+      sheets.push_back({*chart, reach, seat, fncCurve(seat)});
+    }
+  }
+  for (Sheet& sheet : sheets) {
+    prcAddCurve(sheet);
+  }
+  for (Sheet& sheet : sheets) {
+    const bool blnFirst = &sheet == &sheets.front();
+    prcAddStake(sheet, blnFirst);
+    prcAddBands(sheet, blnFirst);
+    prcAddMarks(sheet);
+  }
+  prcAddShoes(*chart, reach);
+  return chart;
+}
+
+std::string fncCourseSentence(const Scope& scope) {
+  const Reach reach = fncReach(scope);
+  if (reach.To == reach.From) {
+    return "Course of the money: no hand has been settled yet.";
+  }
+  std::string sentence =
+      "Course of the money over " + fncCounted(reach.To - reach.From, "hand") + ".";
+  for (int seat = 0; seat < intSeats; ++seat) {
+    if (fncHasSeat(scope, seat)) {
+      sentence += fncSeatSentence(scope, seat);
+    }
+  }
+  return sentence;
+}
+
+int fncHandOfPoint(const ChartData& chart, int point) {
+  return static_cast<int>(chart.Lines.front().Points[static_cast<std::size_t>(point)].X);
+}
+
+std::string fncHandSentence(int number) {
+  if (number == 0) {
+    return "Before the first hand";
+  }
+  const EveningHand& hand = colEveningHands.at(static_cast<std::size_t>(number) - 1);
+  const std::string totals = std::to_string(fncTotalOf(hand, Side::Player)) + " to " +
+                             std::to_string(fncTotalOf(hand, Side::Banker));
+  std::string sentence = "Hand " + std::to_string(number) + ", shoe " + std::to_string(hand.Shoe) +
+                         ": Player to Banker " + totals + ".";
+  for (int seat = 0; seat < intSeats; ++seat) {
+    const double net = fncNet(hand, seat);
+    const std::string change = net == 0  ? "as before"
+                               : net > 0 ? "won " + fncCurrency(net)
+                                         : "lost " + fncCurrency(-net);
+    sentence += "  " + fncSeatName(seat) + ": " +
+                fncCurrency(hand.Money.at(static_cast<std::size_t>(seat))) + ", " + change + ".";
+  }
+  return sentence;
+}

@@ -1,0 +1,223 @@
+#include <algorithm>
+#include <fstream>
+
+#include "betting/frmStatistics.h"
+#include "evening/Course.h"
+#include "evening/Hands.h"
+#include "evening/Record.h"
+#include "platform/Chart.h"
+#include "platform/Grid.h"
+#include "platform/headless/Headless.h"
+#include "tests/Game.h"
+
+namespace {
+
+class EveningWindows : public Game {
+ protected:
+  void SetUp() override {
+    Game::SetUp();
+    Start();
+    Shuffle();
+  }
+
+  /// A won Banker bet of 10 chips, a lost one beside 5 chips of seat 1, and a tie without bets.
+  static void PlayThree() {
+    Bet(betBanker, 0, "10");
+    DealResult("B");
+    Bet(betPlayer, 1, "5");
+    DealResult("P");
+    DealResult("T");
+  }
+
+  static void Open(void (*prcShowWindow)()) {
+    prcShowWindow();
+    headless::Wait(300);
+  }
+
+  /// The rows of a grid, columns separated by "|", as they are seen.
+  static std::vector<std::string> Rows(const Control& grid) {
+    std::vector<std::string> rows;
+    for (const std::int32_t number : grid.Grid->Rows) {
+      std::string row;
+      for (int column = 0; column < std::ssize(grid.Grid->Columns); ++column) {
+        const std::string cell = grid.Grid->Cell(number, column);
+        row += cell.substr(std::min(cell.find_first_not_of(' '), cell.size())) + "|";
+      }
+      rows.push_back(row);
+    }
+    return rows;
+  }
+
+  static const ChartLine& Line(const std::string& name) {
+    const auto& lines = frmCourse.crtMoney.Chart->Lines;
+    const auto line = std::ranges::find(lines, name, &ChartLine::Name);
+    return line == lines.end() ? throw std::logic_error("no line " + name) : *line;
+  }
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(EveningWindows, TheListShowsEachSettledHandAndFollowsThePlay) {
+  Open(prcShowHands);
+  EXPECT_EQ(frmHands.lblHand.Text, "No hand has been settled yet.");
+  PlayThree();
+  headless::Wait(300);
+  const Lines rows = Rows(frmHands.grdHands);
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[0].substr(0, 4), "1|1|");
+  EXPECT_TRUE(rows[0].ends_with("|9|Banker|B $100|$1,095||$1,000|")) << rows[0];
+  EXPECT_TRUE(rows[1].ends_with("|9||7|Player|B $100|$995|P $50|$1,050|") ||
+              rows[1].ends_with("|7|Player|B $100|$995|P $50|$1,050|"))
+      << rows[1];
+  EXPECT_TRUE(rows[2].ends_with("|7|Tie||$995|P $50|$1,050|")) << rows[2];
+  EXPECT_EQ(frmHands.grdHands.ListIndex, 2) << "who looks at the last hand goes on to the new one";
+  headless::Pick(frmHands.grdHands, 1);
+  EXPECT_EQ(frmHands.lblHand.Text, "Hand 2, shoe 1: Player wins");
+  EXPECT_EQ(frmHands.lblReasons.Text,
+            "Player 9 is a natural\r\nBanker 7 gets no card against a natural\r\n");
+  EXPECT_EQ(frmHands.lblSide[0].Text + ", " + frmHands.lblSide[1].Text, "PLAYER  9, BANKER  7");
+  EXPECT_EQ(int{frmHands.pctCard[0].Picture}, int{colEveningHands[1].Cards[0]});
+  EXPECT_FALSE(frmHands.pctCard[2].Visible);
+  DealResult("B");
+  headless::Wait(300);
+  EXPECT_EQ(frmHands.grdHands.ListIndex, 1) << "who looks at another stays there";
+}
+
+TEST_F(EveningWindows, TheListIsFilteredByShoeAndResult) {
+  PlayThree();
+  headless::Answer(platform::Answer::Ok);
+  Shuffle(2);
+  DealResult("P");
+  Open(prcShowHands);
+  const auto shown = [] { return frmHands.grdHands.Grid->Rows; };
+  EXPECT_EQ(shown(), (std::vector<std::int32_t>{1, 2, 3, 4}));
+  headless::Click(frmHands.optResult[2]);
+  EXPECT_EQ(shown(), (std::vector<std::int32_t>{2, 4}));
+  prcSetValue(frmHands.Shoe.sldShoe, 2);
+  EXPECT_EQ(shown(), (std::vector<std::int32_t>{4}));
+  EXPECT_EQ(frmHands.Shoe.lblShoe.Text, "Shoe 2 of 2");
+  headless::Click(frmHands.optResult[1]);
+  EXPECT_TRUE(shown().empty());
+  EXPECT_EQ(frmHands.lblHand.Text, "No such hand.");
+  prcShowHand(3);
+  EXPECT_EQ(frmHands.lblHand.Text, "Hand 3, shoe 1: a tie") << "shown though the filter hid it";
+}
+
+TEST_F(EveningWindows, WhatIsListedIsCopiedAndSavedAndAFailureLosesNothing) {
+  PlayThree();
+  Open(prcShowHands);
+  headless::Click(frmHands.cmdCopy);
+  ASSERT_EQ(headless::Copied().size(), 1U);
+  headless::SaveAs(Folder() + "/hands.csv");
+  headless::Click(frmHands.cmdSave);
+  std::ifstream file(Folder() + "/hands.csv", std::ios::binary);
+  const std::string saved{std::istreambuf_iterator<char>(file), {}};
+  EXPECT_EQ(saved, headless::Copied().front());
+  EXPECT_EQ(std::ranges::count(saved, '\n'), 4);
+  headless::Click(frmHands.cmdSave);
+  EXPECT_TRUE(headless::Boxes().empty()) << "the dialog was given up";
+  for (const auto& [button, path] : {std::pair{&frmHands.cmdSave, "/missing/hands.csv"},
+                                     std::pair{&frmCourse.cmdSave, "/missing/course.png"}}) {
+    Open(prcShowCourse);
+    headless::SaveAs(Folder() + path);
+    headless::Click(*button);
+    EXPECT_EQ(LastBox(), "The file could not be saved: Could not be written");
+  }
+  EXPECT_EQ(Rows(frmHands.grdHands).size(), 3U);
+}
+
+TEST_F(EveningWindows, AHandThatWaitsForItsCardsIsNotThereAndWindowsMayCloseMeanwhile) {
+  PlayThree();
+  Open(prcShowHands);
+  Open(prcShowCourse);
+  blnCardFaceUp = false;
+  for (int second = 2; second < 20; ++second) {
+    headless::After(1000U * static_cast<unsigned>(second), [] {
+      for (int i = 0; i < intPositions; ++i) {
+        if (blnCardClickable[i]) {
+          headless::Click(BaccTable.pctCardBack[i]);
+        }
+      }
+    });
+  }
+  headless::After(1500, [] {
+    EXPECT_EQ(frmHands.grdHands.Grid->Rows.size(), 3U);
+    headless::Close(frmHands.Form);
+    headless::Click(frmCourse.cmdClose);
+  });
+  DealResult("B");
+  EXPECT_EQ(colEveningHands.size(), 4U);
+  EXPECT_EQ(std::int32_t{frmHands.Form.hWnd} + std::int32_t{frmCourse.Form.hWnd}, 0);
+  EXPECT_NE(Stored("frmHands", "Top"), "No");
+  EXPECT_NE(Stored("frmCourse", "Left"), "No");
+  Open(prcShowHands);
+  EXPECT_EQ(frmHands.grdHands.Grid->Rows.size(), 4U);
+}
+
+TEST_F(EveningWindows, TheCurveGoesOverTheHandsAndTellsThem) {
+  Open(prcShowCourse);
+  EXPECT_EQ(frmCourse.crtMoney.Spoken, "Course of the money: no hand has been settled yet.");
+  headless::Click(frmCourse.crtMoney);
+  PlayThree();
+  headless::Wait(300);
+  EXPECT_EQ(Line("Player 1").Points,
+            (std::vector<ChartPoint>{{0, 1000}, {1, 1095}, {2, 995}, {3, 995}}));
+  EXPECT_EQ(frmCourse.crtMoney.Chart->Ticks.size(), 1U);
+  EXPECT_EQ(frmCourse.crtMoney.Chart->Bands.size(), 4U);
+  headless::Pick(frmCourse.crtMoney, 2);
+  EXPECT_EQ(frmCourse.lblPointed.Text,
+            "Hand 2, shoe 1: Player to Banker 9 to 7.  Player 1: $995, lost $100.  Player 2: "
+            "$1,050, won $50.");
+  headless::Click(frmCourse.optSeat[0]);
+  EXPECT_EQ(frmCourse.crtMoney.ListIndex, 2) << "the hand pointed at stays so";
+  EXPECT_THROW(Line("Player 2"), std::logic_error);
+  EXPECT_EQ(frmCourse.crtMoney.Spoken,
+            "Course of the money over 3 hands. Player 1 came with $1,000 and has $995, had most, "
+            "$1,095 behind hand 1, and least, $995 behind hand 2. The deepest fall was $100, from "
+            "hand 1 to 2. Most losses in a row: 1.");
+  headless::Click(frmCourse.crtMoney);
+  EXPECT_EQ(frmHands.lblHand.Text.substr(0, 14), frmCourse.lblPointed.Text.substr(0, 14));
+}
+
+TEST_F(EveningWindows, LuckIsTheResultLessWhatTheEdgeCosts) {
+  PlayThree();
+  Open(prcShowCourse);
+  headless::Click(frmCourse.optSeat[0]);
+  // Worked out by hand: two hands with B 0.458597, P 0.446247, T 0.095156. Lost $5 is a win and a
+  // loss; worse are PP and PT, 0.1991 + 0.0849; better TT, BT and BB, 0.0091 + 0.0873 + 0.2103.
+  // The Banker's edge is 1.0579 % of $200 on two hands; seat 0 had no bet on the tie.
+  EXPECT_EQ(Rows(frmCourse.grdEdge), (Lines{"Banker|$200|1.06 %|$2|", "Player|$0||$0|",
+                                            "Tie|$0||$0|", "All|$200|1.06 %|$2|"}));
+  EXPECT_EQ(frmCourse.lblOutcome.Text, "Lost $5");
+  EXPECT_TRUE(frmCourse.lblOutcome.ForeColor == clrLoss);
+  EXPECT_EQ(fncPiped(frmCourse.lblLuck.Text),
+            "Player 1, whole evening: 2 hands with a bet.|Staked $200; on average the house keeps "
+            "$2 of that.|Bad luck took $3: 0.0 standard deviations of $131.|Of 100 players with "
+            "the same bets 28 would have done worse, 31 better.|These shares are exact for full "
+            "shoes.");
+  headless::Click(frmCourse.cmdPrint);
+  EXPECT_EQ(headless::Printed(), Lines{"Course of the Money"});
+}
+
+TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarked) {
+  PlayThree();
+  headless::WhileModal([] {
+    headless::Type(frmStatistics.mskSteak[0], "1500");
+    headless::Click(frmStatistics.Command1);
+  });
+  prcStatistics();
+  DealResult("P");
+  headless::Answer(platform::Answer::Ok);
+  headless::WhileModal([] { headless::Click(frmStatistics.cmdResetStats); });
+  prcStatistics();
+  DealResult("P");
+  Open(prcShowCourse);
+  headless::Click(frmCourse.optSeat[0]);
+  EXPECT_EQ(Line("Stake").Points,
+            (std::vector<ChartPoint>{{0, 1000}, {3, 1000}, {3, 1500}, {5, 1500}}));
+  EXPECT_EQ(Line("Player 1").Points.back(), (ChartPoint{5, 1500}));
+  const auto& marks = frmCourse.crtMoney.Chart->Marks;
+  EXPECT_EQ(std::ranges::count(marks, "Statistics reset", &ChartMark::Text), 1);
+}
+
+}  // namespace
