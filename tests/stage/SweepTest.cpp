@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDragEnterEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QToolTip>
 #include <QWindow>
@@ -15,15 +16,11 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/views/Painted.h"
-#include "shell/CardsDealt.h"
-#include "shell/Program.h"
-#include "shell/StartScreen.h"
 #include "tests/Game.h"
 #include "tests/stage/Stage.h"
 
-// Every control of every window in each of its states, by every way in: what reaches it is judged
-// by the model alone. The handlers are stood in for by ones that only tell that they ran, so that
-// the state stays while it is swept.
+// Every control of every window in each of its states, by every way in. Who should answer is judged
+// by the model alone; handlers that only tell stand in for the game's, so that the state stays.
 
 namespace {
 
@@ -33,7 +30,9 @@ using Lines = std::vector<std::string>;
 Lines strTold;
 std::set<std::string> strSwept, strWindows;
 std::string strState;
-int intStates, intActs;
+int intStates, intPresses;
+
+// Who tells.
 
 std::string fncName(const Control& control) {
   return control.Form->Name + std::string(".") + qt::fncObjectName(control).toStdString();
@@ -41,7 +40,7 @@ std::string fncName(const Control& control) {
 
 void prcTell(const std::string& who, const char* what) { strTold.push_back(who + ' ' + what); }
 
-const ControlEvents evtAll{
+const ControlEvents evtTells{
     .Click = [](Control& c) { prcTell(fncName(c), "click"); },
     .MouseDown = [](Control& c, const Mouse&) { prcTell(fncName(c), "down"); },
     .MouseMove = [](Control& c, const Mouse&) { prcTell(fncName(c), "move"); },
@@ -49,7 +48,7 @@ const ControlEvents evtAll{
     .GotFocus = [](Control& c) { prcTell(fncName(c), "got"); },
     .LostFocus = [](Control& c) { prcTell(fncName(c), "lost"); },
     .Validate = [](Control& c, bool&) { prcTell(fncName(c), "check"); }};
-const WindowEvents evtWindow{
+const WindowEvents evtWindowTells{
     .KeyDown = [](Window& w, const std::string&, int) { prcTell(w.Name, "keydown"); },
     .KeyPress = [](Window& w, char) { prcTell(w.Name, "keypress"); },
     .MouseMove = [](Window& w, const Mouse&) { prcTell(w.Name, "move"); }};
@@ -61,13 +60,11 @@ const ControlEvents evtRefuses{.Validate = [](Control& c, bool& blnCancel) {
 
 /// The tellers for those events that a table has a handler for.
 template <class Events, class... Event>
-const Events& fncStandIn(const Events* real, const Events& tellers, Event... events) {
+const Events* fncStandIn(const Events* real, const Events& tellers, Event... events) {
   static std::map<const Events*, Events> known;
   const auto [at, blnNew] = known.try_emplace(real);
-  if (blnNew) {
-    ((at->second.*events = real->*events != nullptr ? tellers.*events : nullptr), ...);
-  }
-  return at->second;
+  ((at->second.*events = real->*events != nullptr ? tellers.*events : nullptr), ...);
+  return &at->second;
 }
 
 /// While it lives no handler of the game runs; then all is as it was.
@@ -78,11 +75,11 @@ class StandIn {
     using W = WindowEvents;
     for (Window* window : fncWindows()) {
       windows_.emplace_back(window, *window);
-      window->On = &fncStandIn(window->On, evtWindow, &W::KeyDown, &W::KeyPress, &W::MouseMove);
+      window->On = fncStandIn(window->On, evtWindowTells, &W::KeyDown, &W::KeyPress, &W::MouseMove);
       for (Control* control : window->Controls) {
         controls_.emplace_back(control, *control);
-        control->On = &fncStandIn(control->On, evtAll, &C::Click, &C::MouseDown, &C::MouseMove,
-                                  &C::MouseUp, &C::GotFocus, &C::LostFocus, &C::Validate);
+        control->On = fncStandIn(control->On, evtTells, &C::Click, &C::MouseDown, &C::MouseMove,
+                                 &C::MouseUp, &C::GotFocus, &C::LostFocus, &C::Validate);
       }
     }
     user::Settle();
@@ -105,76 +102,26 @@ class StandIn {
   std::vector<std::pair<Control*, Control>> controls_;
 };
 
-std::string fncJoined(const Lines& lines) {
-  std::string text;
-  for (const std::string& line : lines) {
-    text += (text.empty() ? "" : ", ") + line;
-  }
-  return text;
-}
-
-void prcFault(bool blnFault, const std::string& what) {
-  if (blnFault) {
-    ADD_FAILURE() << strState << ", " << what;
-  }
-}
-
-void prcExpectText(const std::string& what, const std::string& have, const std::string& want) {
-  prcFault(have != want, what + ": \"" + have + "\" for \"" + want + "\"");
-}
+// Who should tell.
 
 bool fncOpen(const Control& control) { return fncSeen(control) && fncUsable(control); }
-
-/// Compares what was told since the last time with what should have been.
-void prcExpect(const std::string& what, const Lines& want) {
-  prcExpectText(what, fncJoined(std::exchange(strTold, {})), fncJoined(want));
-}
-
-// The judge.
-
-void prcAdd(Lines& lines, const Control* control, auto event, const char* what) {
-  if (control != nullptr && control->On->*event != nullptr) {
-    lines.push_back(fncName(*control) + ' ' + what);
-  }
-}
-
-/// The focus leaves from, if there is one, for to.
-Lines fncReached(const Control* from, const Control& to) {
-  Lines lines;
-  if (from != &to) {
-    prcAdd(lines, from, &ControlEvents::Validate, "check");
-  }
-  if (from != &to && fncTakesFocus(to)) {
-    prcAdd(lines, from, &ControlEvents::LostFocus, "lost");
-    prcAdd(lines, &to, &ControlEvents::GotFocus, "got");
-  }
-  return lines;
-}
-
-/// A whole click on what lies under the mouse, or a press that ends outside.
-Lines fncClicked(const Control* from, const Control* to, Qt::MouseButton button,
-                 bool blnInside = true) {
-  const bool blnKnown = (button & (Qt::LeftButton | Qt::RightButton | Qt::MiddleButton)) != 0;
-  if (to == nullptr || !fncUsable(*to) || !blnKnown) {
-    return {};
-  }
-  Lines lines = fncReached(from, *to);
-  prcAdd(lines, to, &ControlEvents::MouseDown, "down");
-  prcAdd(lines, to, &ControlEvents::MouseUp, "up");
-  if (blnInside && (button == Qt::LeftButton || to->Kind == ControlKind::Label)) {
-    if (!fncTakesFocus(*to)) {
-      prcAdd(lines, from, &ControlEvents::Validate, "check");
-    }
-    prcAdd(lines, to, &ControlEvents::Click, "click");
-  }
-  return lines;
-}
 
 /// Whether a control takes room in its window; what only adorns it is not there for the mouse.
 bool fncLies(const Control& control) {
   using enum ControlKind;
-  constexpr std::array none{Shape, Line, Timer, MenuEntry, Toolbar, ToolButton};
+  constexpr std::array none{Shape, Line, Timer, MenuEntry, Toolbar};
   return std::ranges::find(none, control.Kind) == none.end();
+}
+
+bool fncStop(const Control* control) {
+  return control->TabStop && fncTakesFocus(*control) && fncOpen(*control);
+}
+
+bool fncOfInterest(const Control& control) {
+  const ControlEvents& on = *control.On;
+  return fncLies(control) && control.Style != ButtonStyle::Separator &&
+         (on.Click != nullptr || on.MouseDown != nullptr || on.MouseMove != nullptr ||
+          on.GotFocus != nullptr || !control.ToolTip.empty() || fncStop(&control));
 }
 
 /// The uppermost control at a place in a window's ground, or in what holds it; none if it is bare.
@@ -190,12 +137,61 @@ Control* fncUnder(const Window& window, const Control* holder, QPoint at) {
   return nullptr;
 }
 
-bool fncOfInterest(const Control& control) {
-  const ControlEvents& on = *control.On;
-  return fncLies(control) &&
-         (on.Click != nullptr || on.MouseDown != nullptr || on.MouseMove != nullptr ||
-          on.GotFocus != nullptr || !control.ToolTip.empty() ||
-          (control.TabStop && fncTakesFocus(control)));
+void prcAdd(Lines& lines, const Control* control, auto event, const char* what) {
+  if (control != nullptr && control->On->*event != nullptr) {
+    lines.push_back(fncName(*control) + ' ' + what);
+  }
+}
+
+/// Something reaches a control while from has the focus; none means nobody has it.
+Lines fncReached(const Control* from, const Control& to) {
+  Lines lines;
+  if (from != &to) {
+    prcAdd(lines, from, &ControlEvents::Validate, "check");
+  }
+  if (from != &to && fncTakesFocus(to)) {
+    prcAdd(lines, from, &ControlEvents::LostFocus, "lost");
+    prcAdd(lines, &to, &ControlEvents::GotFocus, "got");
+  }
+  return lines;
+}
+
+/// A whole click on what lies under the mouse, or a press that ends outside.
+Lines fncClicked(const Control* from, const Control* to, Qt::MouseButton button = Qt::LeftButton,
+                 bool blnInside = true) {
+  if (to == nullptr || !fncUsable(*to) || button > Qt::MiddleButton) {
+    return {};
+  }
+  Lines lines = fncReached(from, *to);
+  prcAdd(lines, to, &ControlEvents::MouseDown, "down");
+  prcAdd(lines, to, &ControlEvents::MouseUp, "up");
+  if (blnInside && (button == Qt::LeftButton || to->Kind == ControlKind::Label)) {
+    if (!fncTakesFocus(*to)) {  // Keys may have gone to a box meanwhile.
+      prcAdd(lines, from, &ControlEvents::Validate, "check");
+    }
+    prcAdd(lines, to, &ControlEvents::Click, "click");
+  }
+  return lines;
+}
+
+void prcFault(bool blnFault, const std::string& what) {
+  if (blnFault) {
+    ADD_FAILURE() << strState << ", " << what;
+  }
+}
+
+void prcExpectText(const std::string& what, const std::string& have, const std::string& want) {
+  prcFault(have != want, what + ": \"" + have + "\" for \"" + want + "\"");
+}
+
+/// Compares what was told since the last time with what should have been.
+void prcExpect(const std::string& what, const Lines& want) {
+  const auto joined = [](const Lines& lines) {
+    std::string text;
+    std::ranges::for_each(lines, [&](const std::string& line) { text += line + ". "; });
+    return text;
+  };
+  prcExpectText(what, joined(std::exchange(strTold, {})), joined(want));
 }
 
 /// One window, swept while it has the input.
@@ -203,20 +199,16 @@ class Sweep {
  public:
   explicit Sweep(Window& window)
       : window_(window), ground_(*fncView(window).Ground), top_(*ground_.window()) {
-    user::Activate(window);
-    strTold.clear();
     strWindows.insert(window.Name);
   }
 
   void Run() {
+    user::Activate(window_);
+    for (Control* control : fncControls()) {
+      SweepPlaces(*control);
+      SweepEar(*control, fncOpen(*control));
+    }
     for (Control* control : window_.Controls) {
-      if (fncOfInterest(*control)) {
-        SweepPlaces(*control);
-        SweepEar(*control);
-      } else if (control->Kind == ControlKind::ToolButton && fncWidget(*control) != nullptr) {
-        SweepTool(*control);
-        SweepEar(*control);
-      }
       if (control->Kind == ControlKind::MenuEntry && control->On->Click != nullptr) {
         SweepEntry(*control);
       }
@@ -224,129 +216,153 @@ class Sweep {
     SweepKeys();
   }
 
- private:
-  void Begin(Control* focus = nullptr) {
-    if (window_.ActiveControl != focus) {
-      window_.ActiveControl = focus;
-      user::Settle();
+  /// Below a dialog nothing answers.
+  void RunBelow() {
+    for (Control* control : fncControls()) {
+      Begin();
+      prcPoint(top_, fncRoom(*control).center());
+      Click();
+      prcExpect(fncName(*control) + " below a dialog", {});
+      SweepEar(*control, false);
     }
-    strTold.clear();
-    ++intActs;
   }
 
-  void ExpectFocus(const std::string& what, const Control* want) {
-    const QWidget* widget = want != nullptr ? fncWidget(*want) : &ground_;
+ private:
+  std::vector<Control*> fncControls() const {
+    std::vector<Control*> controls;
+    std::ranges::copy_if(window_.Controls, std::back_inserter(controls), [](const Control* c) {
+      return fncOfInterest(*c) && fncWidget(*c) != nullptr;
+    });
+    return controls;
+  }
+
+  void Begin(Control* focus = nullptr) {
+    window_.ActiveControl = focus;
+    user::Settle();
+    strTold.clear();
+  }
+
+  void Click(Qt::MouseButton button = Qt::LeftButton, bool blnSoon = false) {
+    ++intPresses;
+    prcPress(top_, button, blnSoon);
+    prcLift(top_, button);
+  }
+
+  /// Compares what was told, and who has the focus, with what should be.
+  void Expect(const std::string& what, const Lines& want, const Control* focus) {
+    prcExpect(what, want);
+    const QWidget* widget = focus != nullptr ? fncWidget(*focus) : &ground_;
     const bool blnShown =
         window_.Kind == WindowKind::Frame || QApplication::focusWidget() == widget;
-    prcFault(window_.ActiveControl != want || !blnShown, what + ": the focus is elsewhere");
+    prcFault(window_.ActiveControl != focus || !blnShown, what + ": the focus is elsewhere");
   }
 
-  void Click(const std::string& what, const Control* under, QPoint global, Qt::MouseButton button) {
-    Begin();
-    prcPoint(top_, global);
-    strTold.clear();
-    prcPress(top_, button);
-    prcLift(top_, button);
-    const Lines want = fncClicked(nullptr, under, button);
-    prcExpect(what, want);
-    const bool blnReached = under != nullptr && fncUsable(*under) && button <= Qt::MiddleButton;
-    ExpectFocus(what, blnReached && fncTakesFocus(*under) ? under : nullptr);
+  /// Where a control lies on the screen: by its places, or by its room on a toolbar.
+  QRect fncRoom(const Control& control) const {
+    if (control.Kind == ControlKind::ToolButton) {
+      const QWidget& button = *fncWidget(control);
+      return {button.mapToGlobal(QPoint()), button.size()};
+    }
+    QPoint at = ground_.mapToGlobal(QPoint());
+    for (const Control* holder = &control; holder != nullptr; holder = holder->Container) {
+      at += qt::fncPlace(*holder).topLeft();
+    }
+    return {at, qt::fncPlace(control).size()};
   }
 
-  /// Whether a place on the ground lies within all that holds it.
-  bool fncShows(QPoint at) {
-    const QWidget* holder = &ground_;
-    for (; holder != nullptr && holder->rect().contains(at); holder = holder->parentWidget()) {
-      at = holder->mapToParent(at);
+  /// Whether a place on the screen lies within all that holds a control.
+  bool fncShows(const Control& control, QPoint global) const {
+    const bool blnTool = control.Kind == ControlKind::ToolButton;
+    const QWidget* holder = blnTool ? fncWidget(control) : &ground_;
+    while (holder != nullptr && holder->isVisible() &&
+           holder->rect().contains(holder->mapFromGlobal(global))) {
+      holder = holder->parentWidget();
     }
     return holder == nullptr;
   }
 
+  void ClickAt(const std::string& what, const Control* under, QPoint global,
+               Qt::MouseButton button = Qt::LeftButton) {
+    Begin();
+    prcPoint(top_, global);
+    strTold.clear();
+    Click(button);
+    prcFault(QApplication::activePopupWidget() != nullptr, what + ": the toolkit's own menu");
+    const bool blnTaken = under != nullptr && fncTakesFocus(*under) && button <= Qt::MiddleButton;
+    Expect(what, fncClicked(nullptr, under, button), blnTaken ? under : nullptr);
+  }
+
+  /// Presses at the corners and the middle, and where it must, all over, until one place is found
+  /// where the control lies uppermost; there all the rest.
   void SweepPlaces(Control& control) {
     const std::string name = fncName(control);
-    QPoint at = qt::fncPlace(control).topLeft();
-    for (const Control* holder = control.Container; holder != nullptr; holder = holder->Container) {
-      at += qt::fncPlace(*holder).topLeft();
-    }
-    const QRect place(at, qt::fncPlace(control).size());
-    bool blnFound = false;
+    const bool blnTool = control.Kind == ControlKind::ToolButton;
+    const QRect room = fncRoom(control);
     const int steps = fncSeen(control) ? 8 : 1;
-    for (int x = 0; x <= steps; ++x) {
-      for (int y = 0; y <= steps; ++y) {
-        const bool blnEdge = (x == 0 || x == steps) && (y == 0 || y == steps);
-        const bool blnMiddle = 2 * x == steps && 2 * y == steps;
-        if (!(blnMiddle || blnEdge || !blnFound)) {
-          continue;
-        }
-        const QPoint to(place.left() + 1 + (place.width() - 3) * x / steps,
-                        place.top() + 1 + (place.height() - 3) * y / steps);
-        if (!fncShows(to)) {
-          continue;
-        }
-        Control* under = fncUnder(window_, nullptr, to);
-        const QPoint global = ground_.mapToGlobal(to);
-        Click(name + " pressed", under, global, Qt::LeftButton);
-        if (under == &control && !std::exchange(blnFound, true)) {
-          Middle(control, global);
-        }
+    bool blnFound = false, blnShows = false;
+    for (int step = 0; step < (steps + 1) * (steps + 1); ++step) {
+      const int x = step / (steps + 1), y = step % (steps + 1);
+      const QPoint at = room.topLeft() + QPoint(1 + (room.width() - 3) * x / steps,
+                                                1 + (room.height() - 3) * y / steps);
+      const bool blnCorner = x % steps == 0 && y % steps == 0;
+      if (!fncShows(control, at) || !(blnCorner || (x == 4 && y == 4) || !blnFound)) {
+        continue;
+      }
+      blnShows = true;
+      Control* under = blnTool ? &control : fncUnder(window_, nullptr, ground_.mapFromGlobal(at));
+      ClickAt(name + " pressed", under, at);
+      if (under == &control && !std::exchange(blnFound, true)) {
+        SweepPlace(control, name, at);
       }
     }
-    prcFault(!blnFound && fncOpen(control), name + " is out of the mouse's reach");
+    const bool blnNoRoom = blnTool && !blnShows;  // The other toolbar's, or one in the menus alone.
+    prcFault(!blnFound && !blnNoRoom && fncOpen(control), name + " is out of the mouse's reach");
   }
 
-  void SweepTool(Control& control) {
-    const QWidget& widget = *fncWidget(control);
-    if (widget.isVisible()) {
-      for (const QPoint at :
-           {widget.rect().topLeft(), widget.rect().bottomRight(), widget.rect().center()}) {
-        Click(fncName(control) + " pressed", &control, widget.mapToGlobal(at), Qt::LeftButton);
-      }
-      Middle(control, widget.mapToGlobal(widget.rect().center()));
-    }
-  }
-
-  /// All but the plain click, at one place where the control lies uppermost.
-  void Middle(Control& control, QPoint global) {
-    const std::string name = fncName(control);
+  void SweepPlace(Control& control, const std::string& name, QPoint at) {
     strSwept.insert(name);
     for (const Qt::MouseButton button :
          {Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
-      Click(name + " by button " + std::to_string(button), &control, global, button);
+      ClickAt(name + " by button " + std::to_string(button), &control, at, button);
     }
-    Hover(control, global);
+    Hover(control, name, at);
     Begin();
-    Lines once = fncClicked(nullptr, &control, Qt::LeftButton), twice = once;
-    const Lines again = fncClicked(&control, &control, Qt::LeftButton);
+    Click();
+    Click(Qt::LeftButton, true);
+    const Lines once = fncClicked(nullptr, &control), again = fncClicked(&control, &control);
+    Lines twice = once;
     twice.insert(twice.end(), again.begin(), again.end());
-    for (const bool blnSoon : {false, true}) {
-      prcPress(top_, Qt::LeftButton, blnSoon);
-      prcLift(top_, Qt::LeftButton);
-    }
     prcExpect(name + " double clicked", twice);
     for (const bool blnBack : {true, false}) {
       Begin();
       prcPress(top_, Qt::LeftButton);
       prcPoint(top_, top_.mapToGlobal(QPoint(-40, -40)));
-      prcPoint(top_, blnBack ? global : top_.mapToGlobal(QPoint(-40, -40)));
+      prcPoint(top_, blnBack ? at : top_.mapToGlobal(QPoint(-40, -40)));
       prcLift(top_, Qt::LeftButton);
       std::erase(strTold, name + " move");
       prcExpect(name + (blnBack ? " dragged about" : " dragged away"),
                 blnBack ? once : fncClicked(nullptr, &control, Qt::LeftButton, false));
     }
     Begin();
-    prcPoint(top_, global);
+    prcPoint(top_, at);
     strTold.clear();
     prcTurnWheel(top_, 1);
     prcExpect(name + " under the wheel", {});
-    Refused(control, global);
+    Refuse(control, name, at);
   }
 
-  void Hover(const Control& control, QPoint global) {
+  /// A box of the window other than this control.
+  Control* fncTyped(const Control& control) const {
+    const auto found = std::ranges::find_if(window_.Controls, [&](const Control* box) {
+      return box != &control && box->Kind == ControlKind::MaskedEdit && fncOpen(*box);
+    });
+    return found != window_.Controls.end() ? *found : nullptr;
+  }
+
+  void Hover(const Control& control, const std::string& name, QPoint at) {
     Begin();
-    const std::string name = fncName(control);
     prcPoint(top_, top_.mapToGlobal(QPoint(-1, -1)));
-    strTold.clear();
-    prcPoint(top_, global);
+    prcPoint(top_, at);
     Lines want;
     prcAdd(want, fncUsable(control) ? &control : nullptr, &ControlEvents::MouseMove, "move");
     prcExpect(name + " under the pointer", want);
@@ -362,18 +378,16 @@ class Sweep {
                   control.ToolTip);
     QToolTip::hideText();
     user::Wait(400);
-    strTold.clear();
   }
 
-  /// A press while a box of the window refuses to let the focus go, and the click behind it.
-  void Refused(Control& control, QPoint global) {
-    const auto typed = std::ranges::find_if(window_.Controls, [&](const Control* box) {
-      return box->Kind == ControlKind::MaskedEdit && fncOpen(*box);
-    });
-    if (typed == window_.Controls.end() || *typed == &control || !fncUsable(control)) {
+  /// Presses while a box of the window refuses to let the focus go, its message answered by key or
+  /// by mouse while the button is down; then a click that nothing refuses.
+  void Refuse(Control& control, const std::string& name, QPoint at) {
+    Control* const typed = fncTyped(control);
+    if (typed == nullptr || !fncUsable(control)) {
       return;
     }
-    Control& box = **typed;
+    Control& box = *typed;
     const ControlEvents* was = std::exchange(box.On, &evtRefuses);
     for (const bool blnByMouse : {false, true}) {
       Begin(&box);
@@ -381,49 +395,61 @@ class Sweep {
       if (blnByMouse) {
         user::Answer(platform::Answer::Ok);
       }
-      user::WhileModal([] { prcTypeCharacter('7'); });
+      user::WhileModal([&] {
+        prcTypeCharacter('7');
+        if (blnByMouse) {
+          prcLift(top_, Qt::LeftButton);
+        }
+      });
       prcPress(top_, Qt::LeftButton);
-      prcPoint(top_, global);
-      prcLift(top_, Qt::LeftButton);
-      std::erase(strTold, fncName(control) + " move");
-      prcExpect(fncName(control) + " refused", {fncName(box) + " check"});
-      ExpectFocus(fncName(control) + " refused", &box);
-      prcExpectText(fncName(box) + " below a message", box.Text, text);
+      prcExpectText(fncName(box) + " below its message", box.Text, text);
+      prcPoint(top_, at);
+      if (!blnByMouse) {
+        prcLift(top_, Qt::LeftButton);
+      }
+      std::erase(strTold, name + " move");
+      Expect(name + " refused", {fncName(box) + " check"}, &box);
       prcTypeCharacter('7');
       prcExpectText(fncName(box) + " typed over", box.Text, "7");
     }
+    Begin(&box);
+    QAccessible::queryAccessibleInterface(fncWidget(control))
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
+    user::Wait(200);
+    std::erase(strTold, fncName(box) + " check");
+    Expect(name + " refused to an assistive tool", {}, &box);
     box.On = was;
-    Click(fncName(control) + " behind a refusal", &control, global, Qt::LeftButton);
+    ClickAt(name + " behind a refusal", &control, at);
   }
 
   /// What an assistive tool can do at a control.
-  void SweepEar(Control& control) {
-    QWidget* widget = fncWidget(control);
-    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(widget);
-    QAccessibleActionInterface* acts = found != nullptr ? found->actionInterface() : nullptr;
-    const bool blnThere = fncOpen(control);
+  void SweepEar(Control& control, bool blnThere) {
+    const std::string name = fncName(control);
+    QAccessibleInterface* found = QAccessible::queryAccessibleInterface(fncWidget(control));
+    QAccessibleActionInterface* acts = found->actionInterface();
     const QStringList names = acts != nullptr ? acts->actionNames() : QStringList();
     prcFault(blnThere && control.On->Click != nullptr && names.isEmpty(),
-             fncName(control) + " is out of a screen reader's reach");
+             name + " is out of a screen reader's reach");
+    Control* const from = blnThere ? fncTyped(control) : nullptr;
     for (const QString& act : names) {
-      Begin();
+      Begin(from);
       acts->doAction(act);
       user::Wait(200);
       const bool blnFocus = act == QAccessibleActionInterface::setFocusAction();
-      prcExpect(fncName(control) + ' ' + act.toStdString() + " by a screen reader",
-                !blnThere  ? Lines()
-                : blnFocus ? fncReached(nullptr, control)
-                           : fncClicked(nullptr, &control, Qt::LeftButton));
-      ExpectFocus(fncName(control) + ' ' + act.toStdString() + " by a screen reader",
-                  blnThere && fncTakesFocus(control) ? &control : nullptr);
-      const Control seen = user::Seen(control);
-      prcExpectText(fncName(control) + " shows", std::to_string(seen.Value),
-                    std::to_string(control.Value));
+      const std::string what = name + " at an assistive " + act.toStdString();
+      prcExpect(what, !blnThere  ? Lines()
+                      : blnFocus ? fncReached(from, control)
+                                 : fncClicked(from, &control));
+      const Control* focus = blnThere && fncTakesFocus(control) ? &control : from;
+      prcFault(window_.ActiveControl != focus, what + ": the focus is elsewhere");
+      prcFault(user::Seen(control).Value != control.Value, what + ": it shows another state");
     }
   }
 
   void SweepEntry(Control& entry) {
-    const bool blnThere = fncOpen(entry);
+    const std::string name = fncName(entry);
+    strSwept.insert(name);
     Begin();
     bool blnReached = true;
     try {
@@ -432,91 +458,77 @@ class Sweep {
       blnReached = false;
     }
     std::erase_if(strTold, [](const std::string& line) { return line.ends_with(" move"); });
-    prcExpect(fncName(entry) + " chosen",
-              fncClicked(nullptr, blnThere ? &entry : nullptr, Qt::LeftButton));
-    prcFault(blnReached != blnThere,
-             fncName(entry) + (blnThere ? " is out of reach" : " is there"));
-    strSwept.insert(fncName(entry));
+    prcExpect(name + " chosen", fncClicked(nullptr, fncOpen(entry) ? &entry : nullptr));
+    prcFault(blnReached != fncOpen(entry), name + (blnReached ? " is there" : " is out of reach"));
+    if (QApplication::activePopupWidget() != nullptr) {  // One press beside a menu only closes it.
+      prcPoint(top_, top_.mapToGlobal(top_.rect().center()));
+      strTold.clear();
+      Click();
+      prcExpect("beside the menu of " + name, {});
+    }
     while (QWidget* popup = QApplication::activePopupWidget()) {
       popup->close();
     }
   }
 
-  Control* Answering(bool Control::*which) {
-    const auto found = std::ranges::find_if(window_.Controls, [&](const Control* button) {
-      return button->Kind == ControlKind::Button && button->*which && fncOpen(*button);
-    });
-    return found != window_.Controls.end() ? *found : nullptr;
-  }
-
-  void Key(Control* from, Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers,
-           Lines want, const Control* focus, bool blnLast = false) {
+  void Key(Control* from, Qt::Key key, Qt::KeyboardModifiers modifiers, Lines want,
+           const Control* focus) {
     Begin(from);
+    const bool blnPrints = key == Qt::Key_Space;
+    const bool blnTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
     Lines heard;
-    const auto on = [&](auto event, const char* what) {
-      if (window_.On->*event != nullptr) {
-        heard.push_back(window_.Name + std::string(" ") + what);
-      }
-    };
-    on(&WindowEvents::KeyDown, "keydown");
-    if (!text.isEmpty() && modifiers == Qt::NoModifier) {
-      on(&WindowEvents::KeyPress, "keypress");
+    if (window_.On->KeyDown != nullptr) {
+      heard.push_back(window_.Name + std::string(" keydown"));
     }
-    want.insert(blnLast ? want.end() : want.begin(), heard.begin(), heard.end());
-    prcKey(key, modifiers, text);
-    const std::string what = (from != nullptr ? fncName(*from) : window_.Name) + " at key " +
-                             QKeySequence(key | modifiers).toString().toStdString();
-    prcExpect(what, want);
-    ExpectFocus(what, focus);
+    if (window_.On->KeyPress != nullptr && blnPrints) {
+      heard.push_back(window_.Name + std::string(" keypress"));
+    }
+    want.insert(blnTab ? want.end() : want.begin(), heard.begin(), heard.end());
+    prcKey(key, modifiers, blnPrints ? QStringLiteral(" ") : QString());
+    Expect((from != nullptr ? fncName(*from) : window_.Name) + " at key " +
+               QKeySequence(key | modifiers).toString().toStdString(),
+           want, focus);
   }
 
   void SweepKeys() {
     std::vector<Control*> stops;
-    std::ranges::copy_if(window_.Controls, std::back_inserter(stops), [](const Control* control) {
-      return control->TabStop && fncTakesFocus(*control) && fncOpen(*control);
-    });
-    const auto click = [](Control* from, Control* to) {
-      return to != nullptr ? fncClicked(from, to, Qt::LeftButton) : Lines();
-    };
+    std::ranges::copy_if(window_.Controls, std::back_inserter(stops), fncStop);
     for (std::size_t n = 0; n < stops.size(); ++n) {
-      Control* stop = stops[n];
-      Control *next = stops[(n + 1) % stops.size()],
-              *before = stops[(n + stops.size() - 1) % stops.size()];
-      Key(stop, Qt::Key_Tab, {}, {}, fncReached(stop, *next), next, true);
-      Key(stop, Qt::Key_Backtab, {}, Qt::ShiftModifier, fncReached(stop, *before), before, true);
-      const bool blnPressed =
-          stop->Kind == ControlKind::Button || stop->Kind == ControlKind::Picture;
-      const bool blnTurned =
-          stop->Kind == ControlKind::CheckBox || stop->Kind == ControlKind::OptionButton;
-      Key(stop, Qt::Key_Space, " ", {}, blnPressed || blnTurned ? click(stop, stop) : Lines(),
-          stop);
-      for (const bool blnEnter : {true, false}) {
-        Control* meant = blnEnter && blnPressed
-                             ? stop
-                             : Answering(blnEnter ? &Control::Default : &Control::CancelButton);
-        Key(stop, blnEnter ? Qt::Key_Return : Qt::Key_Escape, {}, {}, click(stop, meant),
-            meant != nullptr ? meant : stop);
-      }
-      if (stop->Kind == ControlKind::MaskedEdit) {
-        SweepTyping(*stop);
+      Control& stop = *stops[n];
+      const Control& next = *stops[(n + 1) % stops.size()];
+      const Control& before = *stops[(n + stops.size() - 1) % stops.size()];
+      Key(&stop, Qt::Key_Tab, {}, fncReached(&stop, next), &next);
+      Key(&stop, Qt::Key_Backtab, Qt::ShiftModifier, fncReached(&stop, before), &before);
+      const bool blnEnters = stop.Kind == ControlKind::Button || stop.Kind == ControlKind::Picture;
+      const bool blnBox = stop.Kind == ControlKind::MaskedEdit;
+      const bool blnSpaces = !blnBox && stop.Kind != ControlKind::ListBox;
+      Answer(stop, Qt::Key_Space, blnSpaces ? &stop : nullptr);
+      Answer(stop, Qt::Key_Return, blnEnters ? &stop : fncAnswering(&Control::Default));
+      Answer(stop, Qt::Key_Escape, fncAnswering(&Control::CancelButton));
+      if (blnBox) {
+        SweepTyping(stop);
       }
     }
+    std::map<char, Control*> before;  // The control with the same key that comes before.
     for (Control* control : window_.Controls) {
-      if (control->AccessKey != 0 && control->Kind != ControlKind::Label && fncOpen(*control)) {
-        Control* from = nullptr;  // The one with the same key before it in the stack.
-        for (Control* other : window_.Controls) {
-          if (other == control) {
-            break;
-          }
-          const bool blnSame = other->AccessKey == control->AccessKey && fncTakesFocus(*other) &&
-                               fncSeen(*other) && other->Kind != ControlKind::Label;
-          from = blnSame ? other : from;
-        }
+      if (control->AccessKey != 0 && fncStop(control)) {
+        Control*& from = before[control->AccessKey];
         const bool blnButton = control->Kind == ControlKind::Button;
-        Key(from, static_cast<Qt::Key>(control->AccessKey), {}, Qt::AltModifier,
-            blnButton ? click(from, control) : fncReached(from, *control), control);
+        Key(from, static_cast<Qt::Key>(control->AccessKey), Qt::AltModifier,
+            blnButton ? fncClicked(from, control) : fncReached(from, *control), control);
+        from = control;
       }
     }
+  }
+
+  Control* fncAnswering(bool Control::*which) const {
+    const auto found = std::ranges::find_if(
+        window_.Controls, [&](const Control* c) { return c->*which && fncOpen(*c); });
+    return found != window_.Controls.end() ? *found : nullptr;
+  }
+
+  void Answer(Control& stop, Qt::Key key, Control* pressed) {
+    Key(&stop, key, {}, fncClicked(&stop, pressed), pressed != nullptr ? pressed : &stop);
   }
 
   void SweepTyping(Control& box) {
@@ -524,9 +536,7 @@ class Sweep {
     box.Text.clear();
     fncSetFocus(box);
     user::Settle();
-    for (const char typed : {'x', '7', ' '}) {
-      prcTypeCharacter(typed);
-    }
+    std::ranges::for_each(std::string("x7 "), prcTypeCharacter);
     prcExpectText(fncName(box) + " typed into", box.Text, "7");
     QApplication::clipboard()->setText(QStringLiteral("1a"));
     prcKey(Qt::Key_A, Qt::ControlModifier);
@@ -537,7 +547,7 @@ class Sweep {
     QDragEnterEvent drop(QPoint(3, 3), Qt::CopyAction, &text, Qt::LeftButton, {});
     drop.ignore();
     QApplication::sendEvent(fncWidget(box), &drop);
-    prcExpectText(fncName(box) + " dropped into", drop.isAccepted() ? "taken" : "", "");
+    prcFault(drop.isAccepted(), fncName(box) + " takes what is dropped");
   }
 
   Window& window_;
@@ -545,27 +555,25 @@ class Sweep {
   QWidget& top_;
 };
 
-/// Sweeps what is open; behind a dialog nothing may answer.
 void prcSweep(const std::string& state) {
   strState = state;
   ++intStates;
   const StandIn standIn;
   const QWidget* modal = QApplication::activeModalWidget();
   for (Window* window : fncWindows()) {
-    if (!window->Visible || !fncView(*window).Shell->isVisible()) {
+    const QWidget* shell = fncView(*window).Shell;
+    if (!shell->isVisible()) {
       continue;
     }
-    if (modal == nullptr || fncView(*window).Shell == modal) {
-      Sweep(*window).Run();
-    }
+    modal == nullptr || shell == modal ? Sweep(*window).Run() : Sweep(*window).RunBelow();
   }
 }
 
 class SweepTest : public Game {
  protected:
   static void TearDownTestSuite() {
-    std::printf("Swept: %zu windows, %d states, %zu controls, %d acts\n", strWindows.size(),
-                intStates, strSwept.size(), intActs);
+    std::printf("Swept: %zu windows, %d states, %zu controls, %d presses\n", strWindows.size(),
+                intStates, strSwept.size(), intPresses);
   }
 };
 
@@ -609,7 +617,7 @@ TEST_F(SweepTest, TableAndItsHands) {
   prcSweep("end of the shoe");
 }
 
-TEST_F(SweepTest, DialogsAndTheLargeToolbar) {
+TEST_F(SweepTest, DialogsAndTheOtherToolbar) {
   Start();
   for (const auto& [state, entry] :
        {std::pair{"statistics", &MDIForm1.mnuStatistics}, std::pair{"About", &MDIForm1.mnuAbout}}) {

@@ -2,8 +2,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QTest>
-#include <QTimer>
 #include <set>
 
 #include "betting/frmStatistics.h"
@@ -13,10 +11,11 @@
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
+#include "shell/Program.h"
 #include "shell/StartScreen.h"
 #include "table/BaccTable.h"
-#include "tests/qt/Evening.h"
-#include "tests/qt/RealUser.h"
+#include "tests/Game.h"
+#include "tests/stage/Stage.h"
 
 // The whole game by keyboard and by ear: what a screen reader finds in each window, and what it is
 // told of a hand.
@@ -25,18 +24,27 @@ namespace {
 
 std::string strHeard;  // A line for each reading.
 
-class Ear : public Evening {
+class Ear : public Game {
  protected:
   void SetUp() override {
     strHeard = "\n";
-    Evening::SetUp();
+    Game::SetUp();
+    Setting("Misc", "Nerodik", "0");
+    Setting("File", "Learn", "True");
+    Setting("Shoe Size", "Decks", "4");
+    for (const auto& [section, key] :
+         {std::pair{"Card Options", "Card Face Up"}, std::pair{"Deal", "Delay"},
+          std::pair{"Deal", "Animation"}}) {
+      Setting(section, key, "False");
+    }
+    user::Run(fncStartProgram);
   }
 
   /// A key to whatever has the focus, as the user presses it.
   static void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QWidget* focus = QApplication::focusWidget();
-    ASSERT_NE(focus, nullptr) << "nothing has the focus";
-    QTest::keyClick(focus->window()->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+    const bool blnPrints = key < Qt::Key_Escape && modifiers == Qt::NoModifier;
+    stage::prcKey(static_cast<Qt::Key>(key), modifiers,
+                  blnPrints ? QString(QChar(key)).toLower() : QString());
   }
 
   static void Shuffle() {
@@ -44,7 +52,7 @@ class Ear : public Evening {
     user::Wait(50);
     ASSERT_STREQ(qt::fncActiveWindow()->Name, BaccTable.Form.Name);
     Key(Qt::Key_U, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([] { return BaccTable.duokkortos[0].Visible && !blnBusy; }, 20000));
+    ASSERT_TRUE(BaccTable.duokkortos[0].Visible && !blnBusy);
   }
 
   /// Puts the cards of these slots of a deck out first, in this order.
@@ -59,20 +67,18 @@ class Ear : public Evening {
   }
 
   /// Chooses each card that waits by its number and turns it by Enter, until the hand is over.
-  static void TurnAll() {
-    QTimer fingers;
-    QObject::connect(&fingers, &QTimer::timeout, [] {
-      for (int n = 0; n < intPositions; ++n) {
-        if (blnCardClickable[n] && BaccTable.pctCardBack[n].Visible) {
-          CheckTree(BaccTable.Form);
-          Key(Qt::Key_1 + n);
-          return Key(Qt::Key_Return);
-        }
+  static void TurnNext() {
+    for (int n = 0; n < intPositions; ++n) {
+      if (blnCardClickable[n] && BaccTable.pctCardBack[n].Visible) {
+        CheckTree(BaccTable.Form);
+        Key(Qt::Key_1 + n);
+        Key(Qt::Key_Return);
+        break;
       }
-    });
-    fingers.start(200);
-    Key(Qt::Key_E, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([] { return !blnBusy; }, 20000));
+    }
+    if (blnBusy) {
+      user::After(200, TurnNext);
+    }
   }
 
   /// What a screen reader misses at the controls that show in a window.
@@ -109,7 +115,7 @@ TEST_F(Ear, EveryControlOfEveryWindowIsNamed) {
   for (const Window* window : fncWindows()) {
     CheckTree(*window);
   }
-  QAccessible::queryAccessibleInterface(&real::Widget(*fncChips(0)[1]))
+  QAccessible::queryAccessibleInterface(stage::fncWidget(*fncChips(0)[1]))
       ->actionInterface()
       ->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(dblPlayerTotal[0], 990) << "a chip pressed by a screen reader";
@@ -147,7 +153,7 @@ TEST_F(Ear, MenuEntriesAreClickedByTheirOwnKeysFromABoxAndFromAFloatingWindow) {
 
 TEST_F(Ear, AHandIsFollowedByEarAndPlayedByKeys) {
   Shuffle();
-  auto* ear = real::Ground(BaccTable.Form).findChild<qt::EarView*>();
+  auto* ear = stage::fncView(BaccTable.Form).Ground->findChild<qt::EarView*>();
   ASSERT_NE(ear, nullptr) << "the shuffle was not told of";
   QObject::connect(ear, &qt::EarView::told,
                    [](const QString& text) { strHeard += text.toStdString() + "\n"; });
@@ -161,7 +167,8 @@ TEST_F(Ear, AHandIsFollowedByEarAndPlayedByKeys) {
   Key(Qt::Key_B, Qt::AltModifier);
   Key(Qt::Key_2);
   Key(Qt::Key_Tab);
-  TurnAll();
+  user::After(200, TurnNext);
+  Key(Qt::Key_E, Qt::AltModifier);
   EXPECT_EQ(strHeard, R"(
 Player 1, money $950
 Player 1, money $940

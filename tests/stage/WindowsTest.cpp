@@ -1,47 +1,32 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 #include <QWindow>
-#include <fstream>
 
 #include "marking/MarkCard.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/machine/OneInstance.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/WindowViews.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
-#include "shell/Program.h"
-#include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
-#include "tests/conformance/Adapter.h"
-#include "tests/qt/RealUser.h"
+#include "tests/Game.h"
+#include "tests/stage/Stage.h"
 
 // The windows of the game among each other: which one a key, a closing or a switch means.
 
 namespace {
 
-class Windows : public testing::Test {
+class Windows : public Game {
  protected:
   void SetUp() override {
-    user::Reset();
-    qputenv("XDG_DATA_HOME", folder_.path().toUtf8());
-    ASSERT_TRUE(fncStartProgram());
-    strIniFile = folder_.filePath("VELMORA.INI").toStdString();
-    std::ofstream(strIniFile) << "[Shoe Size]\nDecks=1\n[Player1Stats]\nStake=1000\n"
-                                 "[frmCardsDealtCount]\nTop=3000\nLeft=1500\n";
-    prcShowFrame();
-    user::Settle();
-    ASSERT_TRUE(QTest::qWaitFor([] { return List().isVisible(); }));
-  }
-  void TearDown() override {
-    user::Reset();
-    qt::prcGiveUpLock();
-    qunsetenv("XDG_DATA_HOME");
+    Game::SetUp();
+    Setting("Shoe Size", "Decks", "1");
+    Setting("frmCardsDealtCount", "Top", "3000");
+    Setting("frmCardsDealtCount", "Left", "1500");
+    Start();
+    ASSERT_TRUE(List().isVisible());
   }
 
   static QWidget& Shell(const Window& window) { return *qt::fncViewOf(window)->Shell; }
@@ -52,15 +37,12 @@ class Windows : public testing::Test {
     user::Click(frmCardsDealtCount.lstCardsDealtCount);
     ASSERT_EQ(qt::fncActiveWindow(), &frmCardsDealtCount.Form);
   }
-
- private:
-  QTemporaryDir folder_;
 };
 
 TEST_F(Windows, CtrlF4AsksTheChildThatHasTheInputAndMayBeClosed) {
   const auto ctrlF4 = [](Window& window) {
-    platform::Activate(window);
-    real::Key(window, Qt::Key_F4, Qt::ControlModifier);
+    user::Activate(window);
+    stage::prcKey(Qt::Key_F4, Qt::ControlModifier);
   };
   ctrlF4(fncMarkCard(0)->Form);
   EXPECT_TRUE(blnMarkCardLoaded && !user::Ended()) << "the marking card cannot be closed";
@@ -77,17 +59,17 @@ TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
   GoToList();
   prcShowModal(KasSitas.Form);
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "after About";
-  QTimer::singleShot(500, GoToList);
+  user::After(500, GoToList);
   user::Click(BaccTable.maisyk);
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "after a shuffle";
-  EXPECT_EQ(QApplication::focusWidget(), &real::Widget(BaccTable.duokkortos[0]));
+  EXPECT_EQ(QApplication::focusWidget(), stage::fncWidget(BaccTable.duokkortos[0]));
 }
 
 TEST_F(Windows, AChildThatGoesLeavesTheInputToTheOther) {
   const auto expectInput = [](const Window& window) {
     user::Settle();
     EXPECT_EQ(qt::fncActiveWindow(), &window);
-    EXPECT_EQ(QApplication::focusWidget(), &real::Ground(window));
+    EXPECT_EQ(QApplication::focusWidget(), stage::fncView(window).Ground);
   };
   Window& card = fncMarkCard(0)->Form;
   user::Click(BaccTable.txtUnitValue);
