@@ -80,8 +80,8 @@ void prcLayShoe() {
   BaccTableWindow& t = BaccTable;
   prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4665, 75, 1440, 960});
   t.picShoeBox.Picture = picShoe;
-  prcAdd({&t.prgShoe, "prgShoe", -1, ProgressBar, 4050, 1125, 2655, 120, "",
-          "Cards that have left the shoe"});
+  prcAdd({&t.prgShoe, "prgShoe", -1, ProgressBar, 4050, 1125, 2655, 120});
+  t.prgShoe.Spoken = "Cards that have left the shoe";
   t.prgShoe.Visible = false;
   prcAdd({&t.fraShoeNumber, "fraShoeNumber", -1, Frame, 6240, 300, 735, 600, "",
           "Click to select a shoe"});

@@ -29,9 +29,19 @@ QRect fncDesk() {
   return screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 700);
 }
 
+/// A dialog and the start screen have no entry in the task bar.
 Qt::WindowFlags fncFlags(const Window& window) {
   Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-  flags |= window.Kind == WindowKind::Dialog ? Qt::Dialog : Qt::Window;
+  switch (window.Kind) {
+    case WindowKind::Dialog:
+      flags |= Qt::Dialog;
+      break;
+    case WindowKind::Start:
+      flags |= Qt::Tool;
+      break;
+    default:
+      flags |= Qt::Window;
+  }
   return flags.setFlag(Qt::WindowCloseButtonHint, window.CloseBox);
 }
 
@@ -203,6 +213,10 @@ void prcShowTop(WindowView& view) {
   }
   if (window.Kind == WindowKind::Float) {
     prcStandBefore(*view.Shell);
+  } else if (window.Kind == WindowKind::Start) {
+    // Some window managers give a window without a task bar entry no input unasked, and its keys
+    // would be dead.
+    view.Shell->activateWindow();
   }
 }
 
