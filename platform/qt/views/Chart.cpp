@@ -44,19 +44,20 @@ ChartPlot fncInPixels(ChartPlot plot) {
   return plot;
 }
 
-/// A row of places, thinned: of those that fall on one column of pixels the first, lowest, highest
-/// and last are all that can be seen.
+/// A row of places, thinned: of those that fall on one column, a pixel of the design broad, the
+/// lowest and highest are all that can be seen.
 class Thinned {
  public:
+  explicit Thinned(double column) : column_(column) {}
+
   void prcAdd(QPointF at) {
-    if (blnOpen_ && std::floor(at.x()) == std::floor(first_.x())) {
+    if (blnOpen_ && std::floor(at.x() / column_) == std::floor(low_.x() / column_)) {
       low_ = at.y() > low_.y() ? at : low_;
       high_ = at.y() < high_.y() ? at : high_;
-      last_ = at;
       return;
     }
     prcClose();
-    first_ = low_ = high_ = last_ = at;
+    low_ = high_ = at;
     blnOpen_ = true;
   }
 
@@ -70,25 +71,23 @@ class Thinned {
     if (!blnOpen_) {
       return;
     }
-    const bool blnLowFirst = low_.x() < high_.x();
-    for (const QPointF& at :
-         {first_, blnLowFirst ? low_ : high_, blnLowFirst ? high_ : low_, last_}) {
-      if (kept_.isEmpty() || kept_.back() != at) {
-        kept_.append(at);
-      }
+    kept_.append(low_.x() < high_.x() ? low_ : high_);
+    if (low_ != high_) {
+      kept_.append(low_.x() < high_.x() ? high_ : low_);
     }
     blnOpen_ = false;
   }
 
+  double column_;
   QPolygonF kept_;
-  QPointF first_, low_, high_, last_;
+  QPointF low_, high_;
   bool blnOpen_ = false;
 };
 
 QPen fncPen(const Sheet& sheet, const QColor& ink, double width, bool blnDashed) {
   QPen pen(ink, width * sheet.Pixel);
   pen.setCapStyle(blnDashed ? Qt::FlatCap : Qt::RoundCap);
-  pen.setJoinStyle(Qt::RoundJoin);
+  pen.setJoinStyle(Qt::BevelJoin);
   if (blnDashed) {
     pen.setDashPattern({4, 3});
   }
@@ -115,17 +114,18 @@ void prcDrawHeights(const Sheet& sheet) {
   }
 }
 
-/// Texts below the lines; one that would touch its left neighbour is left out.
-void prcDrawBelow(const Sheet& sheet, double x, const QString& text, int row, double& free) {
+/// A text below the lines. One that would touch its left neighbour is left out. Returns whether it
+/// was drawn.
+bool fncDrawBelow(const Sheet& sheet, double x, const QString& text, int row, double& free) {
   const double width = sheet.Metrics.horizontalAdvance(text);
   const double left = std::clamp(x - width / 2, 0.0, sheet.fncRight() - width);
   if (left < free) {
-    return;
+    return false;
   }
   free = left + width + 8 * sheet.Pixel;
-  sheet.Painter.drawText(QPointF(left, sheet.fncBottom() + 3 * sheet.Pixel +
-                                           sheet.Metrics.ascent() + row * sheet.Metrics.height()),
-                         text);
+  const double base = sheet.fncBottom() + 3 * sheet.Pixel + sheet.Metrics.ascent();
+  sheet.Painter.drawText(QPointF(left, base + row * sheet.Metrics.height()), text);
+  return true;
 }
 
 void prcDrawSteps(const Sheet& sheet) {
@@ -137,23 +137,25 @@ void prcDrawSteps(const Sheet& sheet) {
   sheet.Painter.drawText(
       QPointF(6 * sheet.Pixel, sheet.fncBottom() + 3 * sheet.Pixel + sheet.Metrics.ascent()), name);
   for (double x = std::ceil(plot.XLow / step) * step; x <= plot.XHigh + step / 1000; x += step) {
-    prcDrawBelow(sheet, plot.fncX(x), fncText(fncPlainNumberText(std::round(x))), 0, free);
+    fncDrawBelow(sheet, plot.fncX(x), fncText(fncPlainNumberText(std::round(x))), 0, free);
   }
 }
 
+/// A step that has its name below goes through all of the chart, the others only nick its edge.
 void prcDrawTicks(const Sheet& sheet) {
   double free = 0;
   for (const ChartTick& tick : sheet.Data.Ticks) {
     const double x = std::floor(sheet.Plot.fncX(double{tick.X})) + 0.5;
-    sheet.Painter.setPen(fncPen(sheet, QColor::fromRgb(rgbOutline), 1, true));
-    sheet.Painter.drawLine(QPointF(x, sheet.Plot.Top), QPointF(x, sheet.fncBottom()));
     sheet.Painter.setPen(QColor::fromRgb(rgbInk));
-    prcDrawBelow(sheet, x, fncText(tick.Text), 1, free);
+    const bool blnNamed = fncDrawBelow(sheet, x, fncText(tick.Text), 1, free);
+    sheet.Painter.setPen(fncPen(sheet, QColor::fromRgb(rgbOutline), 1, blnNamed));
+    const double top = blnNamed ? sheet.Plot.Top : sheet.fncBottom() - 5 * sheet.Pixel;
+    sheet.Painter.drawLine(QPointF(x, top), QPointF(x, sheet.fncBottom()));
   }
 }
 
 void prcDrawBand(const Sheet& sheet, const ChartBand& band) {
-  Thinned upper, lower;
+  Thinned upper(sheet.Pixel), lower(sheet.Pixel);
   for (const ChartSpan& span : band.Spans) {
     upper.prcAdd(sheet.fncAt({span.X, span.High}));
     lower.prcAdd(sheet.fncAt({span.X, span.Low}));
@@ -168,14 +170,23 @@ void prcDrawBand(const Sheet& sheet, const ChartBand& band) {
   sheet.Painter.drawPolygon(field);
 }
 
+/// A long line in short pieces with round ends: the toolkit's time for a broad line that goes up
+/// and down grows with the square of its corners.
+void prcStroke(QPainter& painter, const QPolygonF& row) {
+  constexpr qsizetype intPiece = 8;
+  for (qsizetype at = 0; at + 1 < row.size() || at == 0; at += intPiece - 1) {
+    painter.drawPolyline(row.mid(at, intPiece));
+  }
+}
+
 void prcDrawLine(const Sheet& sheet, const ChartLine& line) {
-  Thinned row;
+  Thinned row(sheet.Pixel);
   for (const ChartPoint& point : line.Points) {
     row.prcAdd(sheet.fncAt(point));
   }
   sheet.Painter.setPen(fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed));
   sheet.Painter.setBrush(Qt::NoBrush);
-  sheet.Painter.drawPolyline(row.fncTake());
+  prcStroke(sheet.Painter, row.fncTake());
 }
 
 void prcDrawDot(const Sheet& sheet, QPointF at, const QColor& ink) {
