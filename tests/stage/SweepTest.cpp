@@ -489,13 +489,14 @@ class Sweep {
       const Control& before = *stops[(n + stops.size() - 1) % stops.size()];
       Key(&stop, Qt::Key_Tab, {}, fncReached(&stop, next), &next);
       Key(&stop, Qt::Key_Backtab, Qt::ShiftModifier, fncReached(&stop, before), &before);
-      const bool blnEnters = stop.Kind == ControlKind::Button || stop.Kind == ControlKind::Picture;
-      const bool blnBox = stop.Kind == ControlKind::MaskedEdit;
-      const bool blnSpaces = !blnBox && stop.Kind != ControlKind::ListBox;
+      const bool blnEnters = stop.Kind == ControlKind::Button ||
+                             stop.Kind == ControlKind::Picture || stop.Kind == ControlKind::Chart;
+      const bool blnSpaces =
+          blnEnters || stop.Kind == ControlKind::CheckBox || stop.Kind == ControlKind::OptionButton;
       Answer(stop, Qt::Key_Space, blnSpaces ? &stop : nullptr);
       Answer(stop, Qt::Key_Return, blnEnters ? &stop : fncAnswering(&Control::Default));
       Answer(stop, Qt::Key_Escape, fncAnswering(&Control::CancelButton));
-      if (blnBox) {
+      if (stop.Kind == ControlKind::MaskedEdit) {
         SweepTyping(stop);
       }
     }
@@ -605,6 +606,17 @@ TEST_F(SweepTest, TableAndItsHands) {
   Deal();
   user::Wait(5000);
   prcSweep("end of the shoe");
+}
+
+TEST_F(SweepTest, WindowsOfTheEvening) {
+  Start();
+  Shuffle();
+  Bet(betBanker, 0, "5");
+  Deal(3);
+  prcKey(Qt::Key_F8);
+  prcKey(Qt::Key_F9);
+  user::Wait(1000);
+  prcSweep("the evening");
 }
 
 TEST_F(SweepTest, DialogsAndTheOtherToolbar) {

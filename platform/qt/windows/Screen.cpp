@@ -277,11 +277,13 @@ void prcPaintNow(Window& window) {
 }
 
 void prcClearScreen() {
+  blnSyncing = true;  // The focus that goes round among what is left is no user's.
   vwWindows.clear();
   vwByWidget.clear();
   wndActive = nullptr;
   wndLastChild = nullptr;
   tckSynced.reset();
+  blnSyncing = false;
 }
 
 WindowView* fncViewOf(const Window& window) {
