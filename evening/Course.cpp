@@ -40,8 +40,9 @@ constexpr GridColumn edgeColumns[] = {{" Bet", 1050},
                                       {"Costs", 1200, Alignment::Right}};
 
 double fncOfRow(const std::array<double, 3>& amounts, std::int32_t row) {
-  return row == rowAll ? std::accumulate(amounts.begin(), amounts.end(), 0.0)
-                       : amounts.at(betRows.at(static_cast<std::size_t>(row)).Side);
+  return row == rowAll
+             ? std::accumulate(amounts.begin(), amounts.end(), 0.0)
+             : amounts.at(static_cast<std::size_t>(betRows.at(static_cast<std::size_t>(row)).Side));
 }
 
 /// A share as percent with two places, such as "1.06 %".

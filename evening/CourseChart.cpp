@@ -28,10 +28,10 @@ Reach fncReach(const Scope& scope) {
   if (scope.Shoe == 0) {
     return {0, hands};
   }
-  const auto shoe = std::ranges::equal_range(
-      colEveningHands, scope.Shoe, {}, [](const EveningHand& hand) { return int{hand.Shoe}; });
-  const auto from = static_cast<int>(shoe.begin() - colEveningHands.begin());
-  return {from, from + static_cast<int>(std::ssize(shoe))};
+  const auto of = [](const EveningHand& hand) { return int{hand.Shoe}; };
+  const auto place = [](auto hand) { return static_cast<int>(hand - colEveningHands.begin()); };
+  return {place(std::ranges::lower_bound(colEveningHands, scope.Shoe, {}, of)),
+          place(std::ranges::upper_bound(colEveningHands, scope.Shoe, {}, of))};
 }
 
 bool fncHasSeat(const Scope& scope, int seat) { return scope.Seat < 0 || scope.Seat == seat; }

@@ -67,10 +67,9 @@ std::string fncCardSign(int card) {
 
 std::string fncCardSigns(const EveningHand& hand, Side side) {
   std::string signs = " ";
-  for (int at = 0; at < fncCardsOf(hand, side); ++at) {
-    signs +=
-        " " +
-        fncCardSign(hand.Cards.at(static_cast<std::size_t>(at + (side == Side::Banker ? 3 : 0))));
+  const int first = side == Side::Banker ? 3 : 0;
+  for (int at = first; at < first + fncCardsOf(hand, side); ++at) {
+    signs += " " + fncCardSign(hand.Cards.at(static_cast<std::size_t>(at)));
   }
   return signs;
 }
