@@ -140,11 +140,12 @@ void prcDropUnloaded() {
     }
   }
   // Whoever looks into the list while a view goes finds it whole.
-  const auto gone = std::ranges::stable_partition(
-      vwWindows, [](const auto& view) { return fncLoaded(view->Source, view->Handle); });
-  const std::vector<std::unique_ptr<WindowView>> going(std::move_iterator(gone.begin()),
-                                                       std::move_iterator(gone.end()));
-  vwWindows.erase(gone.begin(), gone.end());
+  const auto gone = std::stable_partition(vwWindows.begin(), vwWindows.end(), [](const auto& view) {
+    return fncLoaded(view->Source, view->Handle);
+  });
+  const std::vector<std::unique_ptr<WindowView>> going(std::make_move_iterator(gone),
+                                                       std::make_move_iterator(vwWindows.end()));
+  vwWindows.erase(gone, vwWindows.end());
   if (wndActive != nullptr && std::ranges::find(fncWindows(), wndActive) == fncWindows().end()) {
     wndActive = nullptr;
   }
