@@ -10,7 +10,7 @@
 #include "platform/UserInput.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/Cards.h"
 #include "tests/conformance/Adapter.h"
 

@@ -9,7 +9,7 @@
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/Toolbar.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "tests/conformance/Adapter.h"
 
 namespace {

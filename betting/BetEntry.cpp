@@ -2,12 +2,12 @@
 
 #include "betting/Funds.h"
 #include "betting/TableLimits.h"
+#include "marking/MarkCard.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
 #include "table/Hooks.h"
 #include "table/TableStatus.h"
-#include "table/Waits.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Numbers.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // Bets by typing and by chips. Index is the seat 0..1. The money of a bet leaves the seat's total
 // at once.

@@ -5,7 +5,7 @@
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "platform/Texts.h"
 #include "platform/platform.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "shell/WindowPlace.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/Hooks.h"
 #include "table/TableState.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // Bets placed again, taken back and doubled. Each goes the way of a click on a chip, through the
 // same tests and messages; where chips cannot be clicked, nothing happens.

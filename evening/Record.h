@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <deque>
 
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // Every hand settled since the program started. It lives in memory alone: the end of the program
 // forgets it. A hand is small, so that an evening of ten thousand costs half a megabyte.

@@ -4,7 +4,7 @@
 
 #include "marking/MarkCard.h"
 #include "platform/Procedure.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/Odds.h"
 #include "table/TableState.h"
 

@@ -262,3 +262,11 @@ void RemoveCardViewForm(MarkCardWindow& form) {
   colMarkCards.erase(fncHandleText(form.Form.hWnd));
   blnMarkCardLoaded = !colMarkCards.empty();
 }
+
+void prcMarkCardTimers() {
+  for (int k = 0; k < intShoes; ++k) {
+    if (MarkCardWindow* form = lngMarkCardHwnd[k] != 0 ? fncMarkCard(k) : nullptr) {
+      form->Timer1.Enabled = true;
+    }
+  }
+}

@@ -57,6 +57,9 @@ void SetCardView(const Integer& card);
 /// Takes a closing window out of colMarkCards; its card has none from then on.
 void RemoveCardViewForm(MarkCardWindow& form);
 
+/// Starts Timer1 of every open marking card.
+void prcMarkCardTimers();
+
 /// Makes element n of a family by copying element 0, hidden; an element that exists is left alone.
 Control& fncMakeElement(MarkCardWindow& form, ControlFamily& family, int n);
 

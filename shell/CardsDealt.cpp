@@ -8,6 +8,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "shell/WindowPlace.h"
+#include "table/Cards.h"
 #include "table/TableState.h"
 
 CardsDealtWindow frmCardsDealt;
@@ -15,7 +16,10 @@ CardsDealtCountWindow frmCardsDealtCount;
 
 namespace {
 
-constexpr std::size_t intRowWidth = 21;
+/// Columns of a row of the list: the card's name, and behind a blank its mark.
+constexpr std::size_t intNameColumns = 13;
+constexpr std::size_t intMarkColumn = 14;
+constexpr std::size_t intRowColumns = 21;
 
 /// Columns of a count row, from 0, in the order of the suits 1 to 4.
 constexpr std::array<std::size_t, 4> intSuitColumns{5, 8, 11, 14};
@@ -159,7 +163,7 @@ constexpr WindowEvents evtList{.Load = Form_Load, .Unload = Form_Unload};
 
 std::string fncCountRow(const CardsDealtRow& counts) {
   std::string row = counts.Name;
-  row.resize(intRowWidth, ' ');
+  row.resize(intRowColumns, ' ');
   for (std::size_t suit = 0; suit < intSuitColumns.size(); ++suit) {
     const std::string count = fncPlainNumberText(counts.Suit[static_cast<std::int64_t>(suit) + 1]);
     row.replace(intSuitColumns[suit], count.size(), count);
@@ -200,9 +204,22 @@ void prcClearCardsDealt() {
   prcEmpty(frmCardsDealt.lstCardsDealt);
 }
 
-void prcAddCardsDealt(const std::string& row) {
+void prcInitCardsDealtCount() {
+  for (int value = 1; value <= 13; ++value) {
+    varCardsDealtCount[value - 1].Name = fncCardValueName(value);
+    varCardsDealtCount[value - 1].Suit.fill(0);
+  }
+}
+
+void prcListCard(Integer card, Integer value, const std::string& mark) {
+  std::string row = fncCardValueName(value) + " " + CardSuite(card);
+  row.resize(intNameColumns, ' ');
+  row.resize(intMarkColumn, ' ');
+  row += mark;
+  row.resize(intRowColumns, ' ');
   prcLoad(frmCardsDealt.Form);
   prcAddRow(frmCardsDealt.lstCardsDealt, row);
+  ++varCardsDealtCount[value - 1].Suit[intSuitRow];
 }
 
 void prcPrepareCardsDealt() {

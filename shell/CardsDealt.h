@@ -23,9 +23,12 @@ void LoadlstCardsDealtCount();
 /// Empties the list of cards dealt, loading its window on first use.
 void prcClearCardsDealt();
 
-/// Adds a row of 21 characters to the list of cards dealt and selects it, loading the window on
-/// first use.
-void prcAddCardsDealt(const std::string& row);
+/// Sets the names and zeroes the counts of varCardsDealtCount.
+void prcInitCardsDealtCount();
+
+/// Adds the slot's card to lstCardsDealt with a mark of up to 7 characters, selects the row, and
+/// counts the card. Loads the window on first use.
+void prcListCard(Integer card, Integer value, const std::string& mark);
 
 /// Gives both windows their names, kinds and events.
 void prcPrepareCardsDealt();

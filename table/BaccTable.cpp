@@ -14,6 +14,7 @@
 #include "reveal/KeyboardReveal.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "table/Bets.h"
 
 BaccTableWindow BaccTable;
 
@@ -131,43 +132,6 @@ constexpr WindowEvents evtBaccTable{.Load = Form_Load,
                                     .MouseMove = Form_MouseMove};
 
 }  // namespace
-
-BetControls fncBet(BetSide side, Integer intSeat) {
-  BaccTableWindow& table = BaccTable;
-  switch (side) {
-    case betTie:
-      return {table.txtTieBet[intSeat], table.txtTieBetValue[intSeat], table.lblTWin[intSeat],
-              table.lblTLose[intSeat], lngTieBet[intSeat]};
-    case betBanker:
-      return {table.txtBankerBet[intSeat], table.txtBankerBetValue[intSeat], table.lblBWin[intSeat],
-              table.lblBLose[intSeat], lngBankerBet[intSeat]};
-    default:
-      return {table.txtPlayerBet[intSeat], table.txtPlayerBetValue[intSeat], table.lblPWin[intSeat],
-              table.lblPLose[intSeat], lngPlayerBet[intSeat]};
-  }
-}
-
-std::array<Control*, 12> fncChips(Integer intSeat) {
-  BaccTableWindow& table = BaccTable;
-  return {&table.lblTBetInc0[intSeat], &table.lblTBetInc1[intSeat], &table.lblTBetInc2[intSeat],
-          &table.lblTBetInc5[intSeat], &table.lblBBetInc0[intSeat], &table.lblBBetInc1[intSeat],
-          &table.lblBBetInc2[intSeat], &table.lblBBetInc5[intSeat], &table.lblPBetInc0[intSeat],
-          &table.lblPBetInc1[intSeat], &table.lblPBetInc2[intSeat], &table.lblPBetInc5[intSeat]};
-}
-
-double fncBetChips(BetSide side, Integer intSeat) { return fncVal(fncBet(side, intSeat).Box.Text); }
-
-double fncUnitValue() { return fncVal(BaccTable.txtUnitValue.Text); }
-
-bool fncWins(BetSide side, const std::string& result) {
-  return result == (side == betTie ? "T" : side == betBanker ? "B" : "P");
-}
-
-bool fncLoses(BetSide side, const std::string& result) {
-  return side == betTie ? result != "T" : result == (side == betBanker ? "P" : "B");
-}
-
-void prcShowMoney(Control& label, double money) { label.Text = fncCurrency(money); }
 
 void prcPrepareBaccTable() {
   Window& form = BaccTable.Form;

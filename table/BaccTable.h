@@ -59,41 +59,6 @@ struct BaccTableWindow {
 
 extern BaccTableWindow BaccTable;
 
-/// The bets of a seat. betSides goes in the order in which the game treats them: Tie, Banker,
-/// Player.
-enum BetSide : int { betTie, betBanker, betPlayer };
-inline constexpr std::array<BetSide, 3> betSides{betTie, betBanker, betPlayer};
-
-/// The controls of one bet of seat 0..1: its box, its value label, its win and lose labels and its
-/// money field.
-struct BetControls {
-  Control& Box;
-  Control& Value;
-  Control& Win;
-  Control& Lose;
-  Long& Money;
-};
-BetControls fncBet(BetSide side, Integer intSeat);
-
-/// The twelve chip labels of seat 0..1: Tie, Banker, Player, and in each 0, 1, 2, 5.
-std::array<Control*, 12> fncChips(Integer intSeat);
-
-/// The numeric value of a bet's box; a bet stands while it is not 0.
-double fncBetChips(BetSide side, Integer intSeat);
-inline bool fncBetStands(BetSide side, Integer intSeat) { return fncBetChips(side, intSeat) != 0; }
-
-/// The chip value in money per chip, as the box holds it; 0 until the user or the settings give
-/// one.
-double fncUnitValue();
-
-/// Whether a result "P", "B" or "T" wins, or loses, a bet of this side; a Banker or Player bet does
-/// neither on a tie.
-bool fncWins(BetSide side, const std::string& result);
-bool fncLoses(BetSide side, const std::string& result);
-
-/// Shows money in a label, as currency text without decimals.
-void prcShowMoney(Control& label, double money);
-
 /// Gives every control of the table its kind, place, texts and handlers, as the window is designed.
 /// Called by its load.
 void prcLayOutBaccTable();

@@ -3,7 +3,7 @@
 #include "betting/TableLimits.h"
 #include "platform/Layout.h"
 #include "reveal/CardReveal.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/DealCommand.h"
 #include "table/Shoe.h"
 #include "table/TableTimer.h"

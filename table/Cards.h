@@ -23,10 +23,3 @@ std::string fncCardName(Integer number);
 
 /// Point value of a face value: itself up to 9, 0 for the tens and pictures.
 inline Integer fncCardPoint(Integer value) { return value > 9 ? Integer(0) : value; }
-
-/// Sets the names and zeroes the counts of varCardsDealtCount.
-void prcInitCardsDealtCount();
-
-/// Adds the slot's card to lstCardsDealt with a mark of up to 7 characters, selects the row, and
-/// counts the card.
-void prcListCard(Integer card, Integer value, const std::string& mark);

@@ -5,11 +5,12 @@
 #include "betting/Funds.h"
 #include "betting/frmStatistics.h"
 #include "learn/CardNeed.h"
+#include "marking/MarkCard.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
 #include "shell/MDIForm1.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/EndOfShoe.h"
 #include "table/HandDealing.h"
 #include "table/HandPresentation.h"
@@ -81,23 +82,6 @@ void prcLockTable() {
   }
 }
 
-/// The bets that stand and that the hand just dealt has lost, seat by seat: Tie, Banker, Player.
-template <class Action>
-void prcForLostBets(Action action) {
-  for (int i = 0; i < intSeats; ++i) {
-    for (const BetSide side : betSides) {
-      if (fncBetStands(side, i) && fncLoses(side, strResult[intShoeNumber])) {
-        action(fncBet(side, i), Integer(i));
-      }
-    }
-  }
-}
-
-void prcTakeOff(const BetControls& bet) {
-  bet.Money = 0;
-  bet.Box.Text = "0";
-}
-
 void prcRenewLostBets() {
   prcForLostBets([](const BetControls& bet, Integer i) {
     if (!prcSufficientFunds(bet.Money, i)) {
@@ -163,18 +147,6 @@ void prcOpenRun() {
 }
 
 }  // namespace
-
-void prcClearLostBets() {
-  prcForLostBets([](const BetControls& bet, Integer) { prcTakeOff(bet); });
-}
-
-void prcOpenDealControls() {
-  BaccTable.maisyk.Visible = BaccTable.maisyk.Enabled = true;
-  for (Control& button : BaccTable.duokkortos) {
-    button.Visible = true;
-  }
-  BaccTable.mskHandsAtaTime.Visible = BaccTable.mskHandsAtaTime.Enabled = true;
-}
 
 void duokkortos_Click(Integer Index) {
   Guarded("Baccarat table duokkortos_Click", [&] {

@@ -3,9 +3,7 @@
 #include "betting/Funds.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
-#include "table/Cards.h"
-#include "table/DealCommand.h"
+#include "table/Bets.h"
 #include "table/TableStatus.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "marking/ManualShoe.h"
 #include "marking/MarkCard.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/Hooks.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // Where the game tells what has happened to it, for a companion that looks on. The game needs none:
 // each hook does nothing until it is set.

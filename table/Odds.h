@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // The exact odds of a hand out of a full shoe, by the draw rules of the table.
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 
 // The labels that tell the result of the last hand, by strResult and the bets as their boxes hold
 // them now.

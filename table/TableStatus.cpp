@@ -2,7 +2,7 @@
 
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/SeatResults.h"
 
 namespace {
@@ -143,4 +143,12 @@ void prcSetCardBG(const Integer& shoe) {
     At(40);
     table.shpCardDealBG[1].FillColor = blnBlue ? clrRed : clrBlue;
   });
+}
+
+void prcOpenDealControls() {
+  BaccTable.maisyk.Visible = BaccTable.maisyk.Enabled = true;
+  for (Control& button : BaccTable.duokkortos) {
+    button.Visible = true;
+  }
+  BaccTable.mskHandsAtaTime.Visible = BaccTable.mskHandsAtaTime.Enabled = true;
 }

@@ -17,3 +17,6 @@ void ResultsInvisible();
 
 /// Colours the two card areas by blnShoePlayerBlue of shoe 0..8.
 void prcSetCardBG(const Integer& shoe);
+
+/// Reopens the Shuffle button, the Deal buttons and the hands box at the close of a run.
+void prcOpenDealControls();

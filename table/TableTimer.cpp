@@ -1,9 +1,9 @@
 #include "table/TableTimer.h"
 
 #include "platform/Procedure.h"
-#include "table/BaccTable.h"
-#include "table/DealCommand.h"
+#include "table/Bets.h"
 #include "table/SeatResults.h"
+#include "table/TableStatus.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "marking/MarkCard.h"
 #include "platform/platform.h"
 
 void prcWaitSeconds(double seconds) {
@@ -14,13 +13,5 @@ void prcWaitSeconds(double seconds) {
   while (passed <= limit) {
     platform::WaitEvents(static_cast<std::uint32_t>(std::floor(limit - passed)) + 1);
     passed = platform::TickCount() - start;
-  }
-}
-
-void prcMarkCardTimers() {
-  for (int k = 0; k < intShoes; ++k) {
-    if (MarkCardWindow* form = lngMarkCardHwnd[k] != 0 ? fncMarkCard(k) : nullptr) {
-      form->Timer1.Enabled = true;
-    }
   }
 }

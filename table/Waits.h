@@ -3,6 +3,3 @@
 /// Returns when more than this many seconds have passed; events are served meanwhile, the processor
 /// rests.
 void prcWaitSeconds(double seconds);
-
-/// Starts Timer1 of every open marking card.
-void prcMarkCardTimers();

@@ -8,7 +8,7 @@
 #include "betting/BetEntry.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/TableState.h"
 #include "tests/conformance/Adapter.h"
 

@@ -27,7 +27,7 @@
 #include "platform/qt/windows/Screen.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "table/Shoe.h"
 
 // The toolkit's own way in for a mouse event, as its display plug-ins and its test library use it.

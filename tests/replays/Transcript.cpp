@@ -10,7 +10,7 @@
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
 #include "shell/SettingsStore.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "tests/Game.h"
 
 namespace {

@@ -13,7 +13,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/Program.h"
 #include "shell/StartScreen.h"
-#include "table/BaccTable.h"
+#include "table/Bets.h"
 #include "tests/Game.h"
 #include "tests/stage/Stage.h"
 
