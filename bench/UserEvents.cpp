@@ -8,7 +8,7 @@
 #include "platform/UserInput.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
-#include "shell/Toolbar.h"
+#include "shell/ToolButtons.h"
 #include "table/Bets.h"
 #include "tests/conformance/Adapter.h"
 

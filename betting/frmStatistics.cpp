@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "shell/ToolButtons.h"
 #include "shell/WindowPlace.h"
 #include "table/Bets.h"
 #include "table/Hooks.h"

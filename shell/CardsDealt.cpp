@@ -7,6 +7,7 @@
 #include "platform/Texts.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "shell/ToolButtons.h"
 #include "shell/WindowPlace.h"
 #include "table/Cards.h"
 #include "table/TableState.h"

@@ -3,17 +3,18 @@
 #include <algorithm>
 #include <string>
 
-#include "betting/frmStatistics.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 #include "shell/About.h"
+#include "shell/Closing.h"
+#include "shell/Dialogs.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "shell/ShoeSize.h"
 #include "shell/Switches.h"
-#include "shell/frmKaNori.h"
-#include "shell/frmSelectaShoe.h"
+#include "shell/ToolButtons.h"
+#include "shell/WebSite.h"
 #include "table/Hooks.h"
 
 namespace {
@@ -141,40 +142,6 @@ void prcEntryClick(Control& entry) {
 constexpr ControlEvents evtEntry{.Click = prcEntryClick};
 
 }  // namespace
-
-void prcStatistics() {
-  Guarded("MDIForm1_prcStatistics", [] {
-    At(10);
-    prcInvert(MDIForm1.mnuStatistics);
-    At(20);
-    if (MDIForm1.mnuStatistics.Value == 1) {
-      prcShowModal(frmStatistics.Form);
-    } else {
-      frmStatistics.Form.Visible = false;
-    }
-  });
-}
-
-void prcSelectaShoe() {
-  Guarded("MDIForm1_prcSelectaShoe", [] {
-    At(10);
-    prcLoad(frmSelectaShoe.Form);
-    frmSelectaShoe.Form.Visible = !frmSelectaShoe.Form.Visible;
-  });
-}
-
-void prcOptions() {
-  Guarded("MDIForm1_prcOptions", [] {
-    At(10);
-    prcInvert(MDIForm1.mnuOptions);
-    At(20);
-    if (MDIForm1.mnuOptions.Value == 1) {
-      prcShowModal(frmKaNori.Form);
-    } else {
-      frmKaNori.Form.Visible = false;
-    }
-  });
-}
 
 void prcLayOutMenus() {
   Control* menu = nullptr;

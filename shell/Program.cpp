@@ -6,7 +6,7 @@
 #include "platform/platform.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
-#include "shell/MDIForm1.h"
+#include "shell/FrameEvents.h"
 #include "shell/StartScreen.h"
 #include "shell/frmKaNori.h"
 #include "shell/frmSelectaShoe.h"

@@ -5,10 +5,10 @@
 #include <string>
 
 #include "platform/Procedure.h"
+#include "platform/platform.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
-#include "shell/Switches.h"
-#include "shell/Toolbar.h"
+#include "shell/ToolButtons.h"
 #include "table/TableState.h"
 
 namespace {
@@ -26,6 +26,15 @@ Integer fncStoredDecks() {
 }
 
 }  // namespace
+
+bool fncChangeWanted() {
+  if (!blnShuffled[intShoeNumber] || blnEndOfShoe[intShoeNumber]) {
+    return true;
+  }
+  return platform::MsgBox("Note! change effective only after end of shoe",
+                          platform::Icon::Exclamation, "Velmora", platform::Buttons::OkCancel,
+                          platform::Answer::Cancel) == platform::Answer::Ok;
+}
 
 void prcDecks(Integer decks, Control& button) {
   Guarded("MDIForm1_prcDecks", [&] {

@@ -4,6 +4,10 @@
 
 // The size of the next shoe: 1, 2, 4, 6 or 8 decks, by menu, by toolbar and from the settings file.
 
+/// Asks whether a change that acts from the next shoe on is wanted, if a shoe is in play. True goes
+/// on with it.
+bool fncChangeWanted();
+
 /// Sets the size of the next shoe of the table, stores it, and marks its entry and button.
 void prcDecks(Integer decks, Control& button);
 

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "shell/WebSite.h"
 
 PlaukWindow Plauk;
 

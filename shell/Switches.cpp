@@ -5,13 +5,12 @@
 
 #include "learn/CardNeed.h"
 #include "platform/Procedure.h"
-#include "platform/platform.h"
 #include "reveal/CardReveal.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "shell/ShoeSize.h"
-#include "shell/Toolbar.h"
+#include "shell/ToolButtons.h"
 #include "table/TableState.h"
 
 namespace {
@@ -162,15 +161,6 @@ void prcShowNaturals() { prcTurn(MDIForm1.mnuShowNaturals, "MDIForm1_prcShowNatu
 void prcPlayerBlue() { prcTurn(MDIForm1.mnuPlayerBlue, "MDIForm1_prcPlayerBlue"); }
 void prcDelay() { prcTurn(MDIForm1.mnuDealDelay, "MDIForm1_prcDelay"); }
 void prcAnimation() { prcTurn(MDIForm1.mnuDealAnimation, "MDIForm1_prcAnimation"); }
-
-bool fncChangeWanted() {
-  if (!blnShuffled[intShoeNumber] || blnEndOfShoe[intShoeNumber]) {
-    return true;
-  }
-  return platform::MsgBox("Note! change effective only after end of shoe",
-                          platform::Icon::Exclamation, "Velmora", platform::Buttons::OkCancel,
-                          platform::Answer::Cancel) == platform::Answer::Ok;
-}
 
 void prcSetMenusAndButtons() {
   Guarded("MDIForm1_prcSetMenusAndButtons", [] {

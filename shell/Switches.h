@@ -21,10 +21,6 @@ void prcAnimation();
 /// The same for Player Blue, which asks first while a shoe is in play; taken back, nothing changes.
 void prcPlayerBlue();
 
-/// Asks whether a change that acts from the next shoe on is wanted, if a shoe is in play. True goes
-/// on with it.
-bool fncChangeWanted();
-
 /// Brings menus, buttons, flags and shoe size up from the settings file.
 void prcSetMenusAndButtons();
 

@@ -7,11 +7,11 @@
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
+#include "shell/Dialogs.h"
 #include "shell/MDIForm1.h"
 #include "shell/ShoeSize.h"
 #include "shell/Switches.h"
-
-Control* tlbrRef = &MDIForm1.tlbrMDIForm1;
+#include "shell/ToolButtons.h"
 
 namespace {
 
@@ -83,12 +83,6 @@ const ToolRow& fncRow(const std::string& key) {
   return *row;
 }
 
-std::ptrdiff_t fncPlace(const std::string& key) { return &fncRow(key) - toolRows.data(); }
-
-Table<Control, intToolButtons>& fncButtons(const Control& toolbar) {
-  return &toolbar == &MDIForm1.tlbrMDIForm2 ? MDIForm1.tlbrButtons2 : MDIForm1.tlbrButtons1;
-}
-
 void tlbrMDIForm1_ButtonClick(Control& button) {
   Guarded("MDIForm1_tlbrMDIForm1_ButtonClick", [&] {
     At(10);
@@ -100,22 +94,6 @@ void tlbrMDIForm2_ButtonClick(Control& button) { tlbrMDIForm1_ButtonClick(button
 
 constexpr ControlEvents evtLargeButton{.Click = tlbrMDIForm1_ButtonClick};
 constexpr ControlEvents evtSmallButton{.Click = tlbrMDIForm2_ButtonClick};
-
-/// The group of a button runs from separator to separator.
-void prcReleaseGroup(Control& button) {
-  Table<Control, intToolButtons>& buttons = fncButtons(*button.Container);
-  const std::ptrdiff_t place = &button - &buttons[0];
-  const auto release = [&](std::ptrdiff_t at, int step) {
-    for (at += step; at >= 0 && at < intToolButtons; at += step) {
-      if (buttons[at].Style != ButtonStyle::Group) {
-        return;
-      }
-      buttons[at].Value = 0;
-    }
-  };
-  release(place, -1);
-  release(place, 1);
-}
 
 void prcLayOutToolbar(Control& toolbar, const char* name, double top, double height,
                       bool blnLarge) {
@@ -138,35 +116,6 @@ void prcLayOutToolbar(Control& toolbar, const char* name, double top, double hei
 }
 
 }  // namespace
-
-Control& fncToolButton(const std::string& key) { return fncButtons(*tlbrRef)[fncPlace(key)]; }
-
-void prcSetButton(Control& button, int value) {
-  if (value == 1 && button.Style == ButtonStyle::Group) {
-    prcReleaseGroup(button);
-  }
-  button.Value = value;
-}
-
-void prcSetButton(const std::string& key, int value) { prcSetButton(fncToolButton(key), value); }
-
-void prcMoveButton(const std::string& key) {
-  prcSetButton(key, fncToolButton(key).Value == 1 ? 0 : 1);
-}
-
-void prcUseToolbar(bool blnLarge) {
-  MDIForm1.mnuLargeButtons.Value = blnLarge ? 1 : 0;
-  MDIForm1.tlbrMDIForm1.Visible = MDIForm1.tlbrMDIForm1.Enabled = blnLarge;
-  MDIForm1.tlbrMDIForm2.Visible = MDIForm1.tlbrMDIForm2.Enabled = !blnLarge;
-  tlbrRef = blnLarge ? &MDIForm1.tlbrMDIForm1 : &MDIForm1.tlbrMDIForm2;
-}
-
-void prcHideButton(const std::string& key) {
-  for (auto* buttons : {&MDIForm1.tlbrButtons1, &MDIForm1.tlbrButtons2}) {
-    Control& button = (*buttons)[fncPlace(key)];
-    button.Visible = button.Enabled = false;
-  }
-}
 
 void prcLayOutToolbars() {
   prcLayOutToolbar(MDIForm1.tlbrMDIForm1, "tlbrMDIForm1", 420, 540, true);

@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "reveal/CardReveal.h"
 #include "reveal/KeyboardReveal.h"
+#include "shell/Closing.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "table/Bets.h"

@@ -4,6 +4,7 @@
 #include "platform/UserInput.h"
 #include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
+#include "shell/Dialogs.h"
 #include "shell/Program.h"
 #include "shell/frmKaNori.h"
 #include "tests/Game.h"

@@ -1,0 +1,57 @@
+#include "shell/Closing.h"
+
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
+#include "marking/MarkCard.h"
+#include "platform/Procedure.h"
+#include "platform/platform.h"
+#include "shell/MDIForm1.h"
+#include "shell/SettingsStore.h"
+#include "table/BaccTable.h"
+
+namespace {
+
+void prcCloseMarkCards() {
+  // Each closing takes its window out of the collection.
+  std::vector<MarkCardWindow*> open;
+  open.reserve(colMarkCards.size());
+  for (const auto& [handle, card] : colMarkCards) {
+    open.push_back(card);
+  }
+  for (MarkCardWindow* card : open) {
+    fncUnload(card->Form);
+  }
+}
+
+/// The lists of cards dealt, and what else floats: each window keeps its place.
+void prcCloseFloats() {
+  // Each closing may take its window off the loaded ones.
+  std::vector<Window*> floats;
+  std::ranges::copy_if(fncWindows(), std::back_inserter(floats),
+                       [](const Window* window) { return window->Kind == WindowKind::Float; });
+  for (Window* window : floats) {
+    fncUnload(*window);
+  }
+}
+
+}  // namespace
+
+void MDIForm1_Unload() {
+  Guarded("MDIForm1_Unload", [] {
+    At(10);
+    prcWriteSetting("MDIForm1", "Top", MDIForm1.Form.Top);
+    prcWriteSetting("MDIForm1", "Left", MDIForm1.Form.Left);
+    prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
+    prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
+    At(20);
+    prcCloseFloats();
+    fncUnload(BaccTable.Form);
+    prcCloseMarkCards();
+    // The frame's own unload is what runs here.
+    prcForgetWindow(MDIForm1.Form);
+    At(30);
+    platform::End();
+  });
+}

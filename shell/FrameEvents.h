@@ -1,0 +1,4 @@
+#pragma once
+
+/// Gives the frame its name, kind and events.
+void prcPrepareFrame();
