@@ -18,6 +18,7 @@
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
+#include "table/DrawRules.h"
 #include "table/HandDealing.h"
 #include "table/Random.h"
 #include "table/Shoe.h"

@@ -1,5 +1,7 @@
 #include "betting/BetEntry.h"
 
+#include <array>
+
 #include "betting/Funds.h"
 #include "betting/TableLimits.h"
 #include "marking/MarkCard.h"
@@ -222,38 +224,7 @@ void prcValidate(BetSide side, Integer Index, bool& Cancel) {
   });
 }
 
-template <BetSide side>
-constexpr ControlEvents evtBox{
-    .GotFocus = [](Control& box) { prcGotFocus(side, box.Index); },
-    .Validate = [](Control& box, bool& Cancel) { prcValidate(side, box.Index, Cancel); }};
-
-template <BetSide side, int chips>
-constexpr ControlEvents evtChip{
-    .Click = [](Control& chip) { prcBetInc(side, chip.Index, BaccTable.intAddSub * chips); },
-    .MouseDown = [](Control&, const Mouse& mouse) { prcAddSub(mouse.Button); }};
-
-template <BetSide side>
-constexpr ControlEvents evtClear{.Click = [](Control& chip) {
-  prcBetInc(side, chip.Index, fncInteger(-fncBetChips(side, chip.Index)));
-}};
-
-template <BetSide side>
-const ControlEvents& fncChipEventsOf(int intChips) {
-  switch (intChips) {
-    case 1:
-      return evtChip<side, 1>;
-    case 2:
-      return evtChip<side, 2>;
-    case 5:
-      return evtChip<side, 5>;
-    default:
-      return evtClear<side>;
-  }
-}
-
 }  // namespace
-
-int fncMostChips(BetSide side) { return fncRules(side).Most; }
 
 void prcAddSub(Integer Button) {
   if (Button == intLeftButton || Button == intMiddleButton) {
@@ -268,7 +239,8 @@ void PBetInc(Integer Index, Integer intMultiple) { prcInc(betPlayer, Index, intM
 void TBetInc(Integer Index, Integer intMultiple) { prcInc(betTie, Index, intMultiple); }
 
 void prcBetInc(BetSide side, Integer Index, Integer intMultiple) {
-  prcInc(side, Index, intMultiple);
+  static constexpr std::array incs{TBetInc, BBetInc, PBetInc};
+  incs.at(side)(Index, intMultiple);
 }
 
 void txtTieBet_GotFocus(Integer Index) { prcGotFocus(betTie, Index); }
@@ -278,25 +250,3 @@ void txtPlayerBet_GotFocus(Integer Index) { prcGotFocus(betPlayer, Index); }
 void txtTieBet_Validate(Integer Index, bool& Cancel) { prcValidate(betTie, Index, Cancel); }
 void txtBankerBet_Validate(Integer Index, bool& Cancel) { prcValidate(betBanker, Index, Cancel); }
 void txtPlayerBet_Validate(Integer Index, bool& Cancel) { prcValidate(betPlayer, Index, Cancel); }
-
-const ControlEvents& fncBetBoxEvents(BetSide side) {
-  switch (side) {
-    case betTie:
-      return evtBox<betTie>;
-    case betBanker:
-      return evtBox<betBanker>;
-    default:
-      return evtBox<betPlayer>;
-  }
-}
-
-const ControlEvents& fncChipEvents(BetSide side, int intChips) {
-  switch (side) {
-    case betTie:
-      return fncChipEventsOf<betTie>(intChips);
-    case betBanker:
-      return fncChipEventsOf<betBanker>(intChips);
-    default:
-      return fncChipEventsOf<betPlayer>(intChips);
-  }
-}

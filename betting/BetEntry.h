@@ -6,9 +6,6 @@
 // Bets by typing and by chips. Index is the seat 0..1. The money of a bet leaves the seat's total
 // at once.
 
-/// Chips a bet may hold: Tie 0 to 50, Banker and Player 0 to 100.
-int fncMostChips(BetSide side);
-
 /// Sets intAddSub by the mouse button of the press: +1 for left and middle, -1 for right, else as
 /// it was.
 void prcAddSub(Integer Button);
@@ -30,7 +27,3 @@ void txtPlayerBet_GotFocus(Integer Index);
 void txtTieBet_Validate(Integer Index, bool& Cancel);
 void txtBankerBet_Validate(Integer Index, bool& Cancel);
 void txtPlayerBet_Validate(Integer Index, bool& Cancel);
-
-/// Handlers of the bet boxes and chips of a side, for the window's layout.
-const ControlEvents& fncBetBoxEvents(BetSide side);
-const ControlEvents& fncChipEvents(BetSide side, int intChips);

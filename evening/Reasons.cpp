@@ -1,7 +1,7 @@
 #include "evening/Reasons.h"
 
 #include "table/Cards.h"
-#include "table/HandDealing.h"
+#include "table/DrawRules.h"
 
 namespace {
 

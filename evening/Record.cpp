@@ -4,7 +4,7 @@
 
 #include "shell/SettingsStore.h"
 #include "table/Cards.h"
-#include "table/HandDealing.h"
+#include "table/DrawRules.h"
 #include "table/Odds.h"
 
 std::deque<EveningHand> colEveningHands;

@@ -12,19 +12,6 @@ std::map<std::string, MarkCardWindow*> colMarkCards;
 
 namespace {
 
-std::string fncHandleText(const Long& handle) { return std::to_string(std::int32_t{handle}); }
-
-MarkCardWindow* fncWindowOf(const Long& handle) {
-  const auto found = colMarkCards.find(fncHandleText(handle));
-  const bool blnOpen = found != colMarkCards.end() && found->second->Form.hWnd == handle;
-  return blnOpen ? found->second : nullptr;
-}
-
-void prcBringUp(Window& form) {
-  prcToFront(form);
-  form.Visible = true;
-}
-
 std::array<ControlFamily*, 4> fncFamilies(MarkCardWindow& form) {
   return {&form.lblTotal, &form.lblBP, &form.shpTBP, &form.lblTBP};
 }
@@ -173,6 +160,14 @@ void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
 
 }  // namespace
 
+std::string fncHandleText(const Long& handle) { return std::to_string(std::int32_t{handle}); }
+
+MarkCardWindow* fncWindowOf(const Long& handle) {
+  const auto found = colMarkCards.find(fncHandleText(handle));
+  const bool blnOpen = found != colMarkCards.end() && found->second->Form.hWnd == handle;
+  return blnOpen ? found->second : nullptr;
+}
+
 MarkCardWindow* fncMarkCard(Integer card) { return fncWindowOf(lngMarkCardHwnd[card]); }
 
 Integer fncMarkCardNumber(const Window& form) {
@@ -193,36 +188,6 @@ Control& fncMakeElement(MarkCardWindow& form, ControlFamily& family, int n) {
     prcAddControl(form.Form, element);
   }
   return element;
-}
-
-void NewCardViewForm(const Long& lngHwnd, const Integer& card) {
-  Guarded("NewCardViewForm", [&] {
-    At(10);
-    intMarkCardNumber = card;
-    At(20);
-    if (MarkCardWindow* open = fncWindowOf(lngHwnd)) {
-      prcBringUp(open->Form);
-      return;
-    }
-    At(30);
-    MarkCardWindow& form = MarkCards[card];
-    if (form.Form.hWnd != 0) {
-      prcBringUp(form.Form);
-      return;
-    }
-    form = MarkCardWindow{};
-    prcPrepareMarkCard(form);
-    prcLoad(form.Form);
-    colMarkCards[fncHandleText(form.Form.hWnd)] = &form;
-    At(40);
-    form.Form.Caption = "Marking Card for Player 3";
-    form.Picture1.BackColor = clrWhite;
-    At(50);
-    lngMarkCardHwnd[card] = form.Form.hWnd;
-    ClearCardView(card);
-    form.Form.Visible = true;
-    blnMarkCardLoaded = true;
-  });
 }
 
 void ClearCardView(const Integer& card) {
@@ -252,15 +217,6 @@ void SetCardView(const Integer& card) {
       prcDrawMark(*form, i, mark);
     }
   });
-}
-
-void RemoveCardViewForm(MarkCardWindow& form) {
-  const Integer card = fncMarkCardNumber(form.Form);
-  if (card >= 0) {
-    lngMarkCardHwnd[card] = 0;
-  }
-  colMarkCards.erase(fncHandleText(form.Form.hWnd));
-  blnMarkCardLoaded = !colMarkCards.empty();
 }
 
 void prcMarkCardTimers() {

@@ -36,15 +36,17 @@ inline constexpr int intTieLineHeight = 30;
 inline constexpr int intTieLineDrop = 260;  ///< From the top of the last mark's cell to the line.
 inline constexpr int intTieLineAbove = 30;  ///< From the line to the first cell below it.
 
+/// The key of a window handle in colMarkCards.
+std::string fncHandleText(const Long& handle);
+
+/// The open window that has this handle, or none.
+MarkCardWindow* fncWindowOf(const Long& handle);
+
 /// The open window of card 0..8, or none. A card outside is a fault.
 MarkCardWindow* fncMarkCard(Integer card);
 
 /// The card number of an open window; -1 for any other window.
 Integer fncMarkCardNumber(const Window& form);
-
-/// Opens card 0..8, or brings up the window that has the handle lngHwnd. A card that is open
-/// already is brought up too: it has one window. A card outside is a fault.
-void NewCardViewForm(const Long& lngHwnd, const Integer& card);
 
 /// Empties card 0..8 for a new shoe and makes its shoe one that may not be dealt. A card without a
 /// window has nothing to empty. A card outside is a fault.
@@ -54,29 +56,8 @@ void ClearCardView(const Integer& card);
 /// events. A card outside is a fault.
 void SetCardView(const Integer& card);
 
-/// Takes a closing window out of colMarkCards; its card has none from then on.
-void RemoveCardViewForm(MarkCardWindow& form);
-
 /// Starts Timer1 of every open marking card.
 void prcMarkCardTimers();
 
 /// Makes element n of a family by copying element 0, hidden; an element that exists is left alone.
 Control& fncMakeElement(MarkCardWindow& form, ControlFamily& family, int n);
-
-/// Gives an unloaded card's window its frame and its events.
-void prcPrepareMarkCard(MarkCardWindow& form);
-
-/// Gives the controls of a card their kinds, places and looks, as the window is designed. Called by
-/// its load.
-void prcLayOutMarkCard(MarkCardWindow& form);
-
-/// Moves a card that overlaps the table window to just below it.
-void prcBelowTable(Window& form);
-
-/// Lays out the scroll bars of the window of card 0..8 by its inner size. A card without a window
-/// is left alone; a card outside is a fault.
-void prcMarkCardResize(const Integer& card);
-
-/// A tick of tmrDeal: the card deals its own shoe a hand further, if automatic dealing is on. An
-/// ended shoe is shuffled first, which serves events; no second tick begins meanwhile.
-void tmrDeal_Timer(MarkCardWindow& form);

@@ -1,18 +1,18 @@
+#include "marking/MarkCardEvents.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <utility>
 
-#include "marking/MarkCard.h"
+#include "marking/AutomaticDeal.h"
+#include "marking/MarkCardLayout.h"
 #include "marking/MarkState.h"
 #include "platform/Places.h"
 #include "platform/Procedure.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
-#include "table/HandDealing.h"
-#include "table/Shoe.h"
-#include "table/Waits.h"
 
 namespace {
 
@@ -24,8 +24,6 @@ constexpr double dblLeftShift = 150;
 constexpr double dblPictureWidth = 30000;
 constexpr double dblBarWidth = 225;
 constexpr double dblInset = 15;  ///< From the drawing area's edge to its rectangle and rules.
-
-constexpr double dblShuffleDelay = 2;  ///< Seconds before automatic dealing shuffles an ended shoe.
 
 /// The places that a card's section of the settings file holds.
 std::array<std::pair<const char*, double*>, 4> fncStoredPlace(Window& form) {
@@ -43,6 +41,11 @@ MarkCardWindow& fncOwner(const Window& window) {
     throw faultSubscript;
   }
   return *owner;
+}
+
+/// Moves a card that overlaps the table window to just below it.
+void prcBelowTable(Window& form) {
+  form.Top = std::max(form.Top, BaccTable.Form.Top + BaccTable.Form.Height);
 }
 
 void prcPlaceForm(Window& form) {
@@ -68,8 +71,6 @@ void prcMakeRules(MarkCardWindow& form) {
     line.Visible = true;
   }
 }
-
-void prcSetDealInterval(MarkCardWindow& form) { form.tmrDeal.Interval = intAutoDealDelay * 1000; }
 
 void Picture1_Resize(Control& picture) {
   Guarded("MarkCard_Picture1_Resize", [&] {
@@ -215,28 +216,9 @@ void prcSetSteps(Control& bar) {
   prcSetValue(bar, bar.Value);
 }
 
-/// Whether a shoe has a hand left before its next shuffle.
-bool fncInPlay(const Integer& shoe) { return blnShuffled[shoe] && !blnEndOfShoe[shoe]; }
-
-/// Shuffles a card's own shoe after a pause in which the last mark can be seen. The timer rests
-/// meanwhile, or its next tick would begin a second shuffle within the first.
-void prcShuffleOwnShoe(MarkCardWindow& form, const Integer& shoe) {
-  const bool blnRuns = form.tmrDeal.Enabled;
-  form.tmrDeal.Enabled = false;
-  prcWaitSeconds(dblShuffleDelay);
-  Shuffle(shoe);
-  for (int j = 0; j < intShoes; ++j) {
-    if (j != shoe && intMarkCardShoe[j] == shoe) {
-      ClearCardView(j);
-    }
-  }
-  form.tmrDeal.Enabled = blnRuns;
-}
-
-}  // namespace
-
-void prcBelowTable(Window& form) {
-  form.Top = std::max(form.Top, BaccTable.Form.Top + BaccTable.Form.Height);
+void prcBringUp(Window& form) {
+  prcToFront(form);
+  form.Visible = true;
 }
 
 void prcPrepareMarkCard(MarkCardWindow& form) {
@@ -245,6 +227,47 @@ void prcPrepareMarkCard(MarkCardWindow& form) {
   form.Form.Sizable = true;
   form.Form.CloseBox = false;
   form.Form.On = &evtMarkCard;
+}
+
+}  // namespace
+
+void NewCardViewForm(const Long& lngHwnd, const Integer& card) {
+  Guarded("NewCardViewForm", [&] {
+    At(10);
+    intMarkCardNumber = card;
+    At(20);
+    if (MarkCardWindow* open = fncWindowOf(lngHwnd)) {
+      prcBringUp(open->Form);
+      return;
+    }
+    At(30);
+    MarkCardWindow& form = MarkCards[card];
+    if (form.Form.hWnd != 0) {
+      prcBringUp(form.Form);
+      return;
+    }
+    form = MarkCardWindow{};
+    prcPrepareMarkCard(form);
+    prcLoad(form.Form);
+    colMarkCards[fncHandleText(form.Form.hWnd)] = &form;
+    At(40);
+    form.Form.Caption = "Marking Card for Player 3";
+    form.Picture1.BackColor = clrWhite;
+    At(50);
+    lngMarkCardHwnd[card] = form.Form.hWnd;
+    ClearCardView(card);
+    form.Form.Visible = true;
+    blnMarkCardLoaded = true;
+  });
+}
+
+void RemoveCardViewForm(MarkCardWindow& form) {
+  const Integer card = fncMarkCardNumber(form.Form);
+  if (card >= 0) {
+    lngMarkCardHwnd[card] = 0;
+  }
+  colMarkCards.erase(fncHandleText(form.Form.hWnd));
+  blnMarkCardLoaded = !colMarkCards.empty();
 }
 
 void prcMarkCardResize(const Integer& card) {
@@ -264,39 +287,5 @@ void prcMarkCardResize(const Integer& card) {
     At(100);
     prcControlToFront(form->HScroll1);
     prcControlToFront(form->VScroll1);
-  });
-}
-
-void tmrDeal_Timer(MarkCardWindow& form) {
-  Guarded("tmrDeal_Timer", [&] {
-    At(10);
-    prcSetDealInterval(form);
-    At(20);
-    if (!blnAutoDeal) {
-      return;
-    }
-    At(30);
-    const Integer k = fncMarkCardNumber(form.Form);
-    if (k < 0 || intMarkCardShoe[k] != k) {
-      return;
-    }
-    At(40);
-    if (!fncInPlay(k)) {
-      prcShuffleOwnShoe(form, k);
-      if (fncMarkCardNumber(form.Form) != k) {
-        return;  // The card was closed meanwhile.
-      }
-    }
-    At(50);
-    ZNEW_DealHand(k);
-    At(60);
-    varHandUnits[k] = std::nullopt;
-    intHandsDealt[k] += 1;
-    At(70);
-    for (int j = 0; j < intShoes; ++j) {
-      if (intMarkCardShoe[j] == k) {
-        SetCardView(j);
-      }
-    }
   });
 }

@@ -1,6 +1,7 @@
+#include "marking/MarkCardLayout.h"
+
 #include <array>
 
-#include "marking/MarkCard.h"
 #include "platform/Layout.h"
 
 namespace {

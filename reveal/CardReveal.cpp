@@ -1,12 +1,12 @@
 #include "reveal/CardReveal.h"
 
-#include <array>
 #include <string>
 
 #include "learn/CardNeed.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 #include "table/Cards.h"
+#include "table/Positions.h"
 #include "table/TableState.h"
 
 namespace {
@@ -79,18 +79,6 @@ void prcSetPointers(Pointer bottom, Pointer right) {
 
 }  // namespace
 
-Integer fncPositionValue(Integer Index) {
-  const std::array<const Table<Integer, intShoes>*, 3> player{&intPlayerValue1, &intPlayerValue2,
-                                                              &intPlayerValue3};
-  const std::array<const Table<Integer, intShoes>*, 3> banker{&intBankerValue1, &intBankerValue2,
-                                                              &intBankerValue3};
-  if (Index < 0 || Index >= intPositions) {
-    throw faultSubscript;
-  }
-  const auto& side = Index < 3 ? player : banker;
-  return (*side.at(static_cast<std::size_t>(Index % 3)))[intShoeNumber];
-}
-
 void prcShowOuterPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow) {
   const Patches patches = fncPatches(frm, value, Index);
   patches.TopLeft.Visible = blnShow;
@@ -101,12 +89,6 @@ void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, boo
   const Patches patches = fncPatches(frm, value, Index);
   patches.TopRight.Visible = blnShow;
   patches.BottomLeft.Visible = blnShow;
-}
-
-std::string fncSpokenPosition(Integer Index) {
-  static constexpr std::array<const char*, 3> numbers{" first card", " second card", " third card"};
-  return std::string(Index < 3 ? "Player" : "Banker") +
-         numbers.at(static_cast<std::size_t>(int{Index} % 3));
 }
 
 void prcUncover(Integer Index) {
@@ -125,7 +107,7 @@ void pctCardBack_Click(Integer Index) {
       return;
     }
     At(20);
-    const Integer value = fncPositionValue(Index);
+    const Integer value = fncHandValue(shoe, Index);
     At(30);
     BaccTable.lblCardBottom[Index].Visible = false;
     BaccTable.lblCardRight[Index].Visible = false;
@@ -213,20 +195,3 @@ void prcLoadArrows() {
     prcSetPointers(Pointer::SizeUpDown, Pointer::SizeLeftRight);
   });
 }
-
-const ControlEvents evtCardBack{
-    .Click = [](Control& card) { pctCardBack_Click(card.Index); },
-    .MouseMove = [](Control& card, const Mouse& /*mouse*/) { pctCardBack_MouseMove(card.Index); },
-};
-
-const ControlEvents evtCardBottom{
-    .MouseMove = [](Control& strip,
-                    const Mouse& mouse) { lblCardBottom_MouseMove(strip.Index, mouse.Y); },
-    .MouseUp = [](Control& strip, const Mouse& /*mouse*/) { lblCardBottom_MouseUp(strip.Index); },
-};
-
-const ControlEvents evtCardRight{
-    .MouseMove = [](Control& strip,
-                    const Mouse& mouse) { lblCardRight_MouseMove(strip.Index, mouse.X); },
-    .MouseUp = [](Control& strip, const Mouse& /*mouse*/) { lblCardRight_MouseUp(strip.Index); },
-};

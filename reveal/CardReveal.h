@@ -1,17 +1,11 @@
 #pragma once
 
-#include <string>
-
 #include "platform/Numbers.h"
 #include "platform/Window.h"
 #include "table/BaccTable.h"
 
 // Turning a card by click or squeeze. Index is the table position 0..5, any other is
 // faultSubscript; mouse places are twips from the strip's corner.
-
-/// A card is 1065 by 1440 twips: 71 by 96 pixels of 15.
-inline constexpr int intCardWide = 1065;
-inline constexpr int intCardHigh = 1440;
 
 /// Face values from here up have the narrow marks beside a frame, and so the plain patches.
 inline constexpr int intFirstPicture = 11;
@@ -42,12 +36,6 @@ void BaccTable_MouseMove();
 void prcLoadHands();
 void prcLoadArrows();
 
-/// Face value 1..13 of the card dealt to a position.
-Integer fncPositionValue(Integer Index);
-
-/// "Player first card" and so on, as a position 0..5 is spoken of.
-std::string fncSpokenPosition(Integer Index);
-
 /// Takes the back off a card: from now on the ear may know what the face shows.
 void prcUncover(Integer Index);
 
@@ -55,6 +43,3 @@ void prcUncover(Integer Index);
 /// of the family that goes with the face value. The other family is left alone.
 void prcShowOuterPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow);
 void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, bool blnShow);
-
-/// Handlers of the card controls, for the window's layout.
-extern const ControlEvents evtCardBack, evtCardBottom, evtCardRight;

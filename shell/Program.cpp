@@ -10,7 +10,7 @@
 #include "shell/StartScreen.h"
 #include "shell/frmKaNori.h"
 #include "shell/frmSelectaShoe.h"
-#include "table/BaccTable.h"
+#include "table/BaccTableEvents.h"
 #include "table/Cards.h"
 #include "table/TableState.h"
 

@@ -1,12 +1,11 @@
+#include "table/BaccTableLayout.h"
+
+#include <array>
+
 #include "assets/Pictures.h"
-#include "betting/BetEntry.h"
-#include "betting/TableLimits.h"
 #include "platform/Layout.h"
-#include "reveal/CardReveal.h"
 #include "table/Bets.h"
-#include "table/DealCommand.h"
-#include "table/Shoe.h"
-#include "table/TableTimer.h"
+#include "table/Positions.h"
 
 // The table as it is designed. From below: felt, plates and card areas, the seats, the cards,
 // results, buttons.
@@ -192,7 +191,6 @@ void prcLayChips(const BetRow& row, int seat) {
         {&label, row.Chips.at(k), seat, Label,
          colSeats.at(static_cast<std::size_t>(seat)).Chips + dblChipPitch * static_cast<double>(k),
          row.Top + 30, 225, 285, chip.Text, k == 0 ? row.Clear : chip.ToolTip});
-    label.On = &fncChipEvents(row.Side, chip.Chips);
     label.Spoken = fncSpokenBet(row.Side, seat) + ", " +
                    (k == 0   ? "clear"
                     : k == 1 ? "1 chip"
@@ -213,7 +211,6 @@ void prcLayBet(const BetRow& row, int seat) {
   bet.Box.Format = "0";
   bet.Box.Face = tpeStrong;
   bet.Box.Align = Alignment::Centre;
-  bet.Box.On = &fncBetBoxEvents(row.Side);
   bet.Box.Visible = false;
   bet.Box.Spoken = fncSpokenBet(row.Side, seat) + ", chips";
   bet.Box.AccessKey = row.AccessKey;
@@ -323,18 +320,15 @@ void prcLayCard(int n) {
   }
   prcAdd({&t.pctCardBack[n], "pctCardBack", n, Picture, at.Left, at.Top, intCardWide, intCardHigh,
           "", "Click to reveal card"});
-  t.pctCardBack[n].On = &evtCardBack;
   t.pctCardBack[n].Dress = Look::Card;
   t.pctCardBack[n].TabStop = true;
   t.pctCardBack[n].Spoken = "Hidden " + fncSpokenPosition(n);
   t.pctCardFace[n].Announce = true;
   prcAdd({&t.lblCardBottom[n], "lblCardBottom", n, Label, at.BottomLeft, at.BottomTop, 1065, 135,
           "", "To reveal card - press left mouse button and move up"});
-  t.lblCardBottom[n].On = &evtCardBottom;
   t.lblCardBottom[n].Spoken = fncSpokenPosition(n) + ", lower edge";
   prcAdd({&t.lblCardRight[n], "lblCardRight", n, Label, at.RightLeft, at.RightTop, 135, 1440, "",
           "To reveal card - press left mouse button and move left"});
-  t.lblCardRight[n].On = &evtCardRight;
   t.lblCardRight[n].Spoken = fncSpokenPosition(n) + ", right edge";
   for (Control* control : {&t.shpCardShadow[n], &t.pctCardFace[n], &t.pctCardBack[n],
                            &t.lblCardBottom[n], &t.lblCardRight[n]}) {
@@ -404,20 +398,11 @@ void prcLayShuffleNotes() {
   }
 }
 
-constexpr ControlEvents evtUnit{.GotFocus = [](Control&) { txtUnitValue_GotFocus(); },
-                                .LostFocus = [](Control&) { txtUnitValue_LostFocus(); }};
-constexpr ControlEvents evtHands{.GotFocus = [](Control&) { mskHandsAtaTime_GotFocus(); },
-                                 .LostFocus = [](Control&) { mskHandsAtaTime_LostFocus(); }};
-constexpr ControlEvents evtDeal{.Click = [](Control& button) { duokkortos_Click(button.Index); }};
-constexpr ControlEvents evtShuffle{.Click = [](Control&) { maisyk_Click(); }};
-constexpr ControlEvents evtTimer{.Timer = [](Control&) { Timer1_Timer(); }};
-
-void prcMasked(Control& box, const char* mask, const char* format, const ControlEvents& events) {
+void prcMasked(Control& box, const char* mask, const char* format) {
   box.Mask = mask;
   box.Format = format;
   box.Face = tpeStrong;
   box.Align = Alignment::Centre;
-  box.On = &events;
 }
 
 constexpr double dblButtonTop = 4905;
@@ -433,7 +418,7 @@ void prcLayButtons() {
   prcDress(t.lblUnitValue, tpeText, clrIvory, Alignment::Left);
   prcAdd({&t.txtUnitValue, "txtUnitValue", -1, MaskedEdit, 1620, dblButtonTop + 15, 780, 315, "0",
           "Enter between $10 and $9990"});
-  prcMasked(t.txtUnitValue, "$9999", "$0", evtUnit);
+  prcMasked(t.txtUnitValue, "$9999", "$0");
   t.txtUnitValue.Spoken = t.lblUnitValue.Text;
   t.txtUnitValue.AccessKey = t.lblUnitValue.AccessKey = 'V';
   prcAdd({&t.lblHandsAtaTime, "lblHandsAtaTime", -1, Label, 2640, dblButtonTop + 45, 1200, 255,
@@ -442,21 +427,19 @@ void prcLayButtons() {
   t.lblHandsAtaTime.Visible = false;
   prcAdd({&t.mskHandsAtaTime, "mskHandsAtaTime", -1, MaskedEdit, 3885, dblButtonTop + 15, 450, 315,
           "1", "Enter Between 1 and 90"});
-  prcMasked(t.mskHandsAtaTime, "99", "0", evtHands);
+  prcMasked(t.mskHandsAtaTime, "99", "0");
   t.mskHandsAtaTime.Spoken = t.lblHandsAtaTime.Text;
   t.mskHandsAtaTime.AccessKey = 'N';
   t.mskHandsAtaTime.Visible = false;
   for (int i = 0; i < t.duokkortos.size(); ++i) {
     prcAdd({&t.duokkortos[i], "duokkortos", i, Button, i == 0 ? 4380.0 : 4470.0 + 1005 * i,
             dblButtonTop, i == 0 ? 1050.0 : 960.0, dblButtonHeight});
-    t.duokkortos[i].On = &evtDeal;
     t.duokkortos[i].Face = i == 0 ? tpeStrong : Type{.Size = 8.25F, .Bold = true};
     t.duokkortos[i].Dress = i == 0 ? Look::Primary : Look::Plain;
     t.duokkortos[i].AccessKey = chrDealKeys.at(static_cast<std::size_t>(i));
     t.duokkortos[i].Visible = false;
   }
   prcAdd({&t.maisyk, "maisyk", -1, Button, 8880, dblButtonTop, 1275, dblButtonHeight});
-  t.maisyk.On = &evtShuffle;
   t.maisyk.Face = tpeStrong;
   t.maisyk.AccessKey = 'U';
   t.maisyk.Visible = false;
@@ -477,7 +460,6 @@ void prcLayFlightAndTimer() {
   prcAdd({&t.Timer1, "Timer1", -1, Timer, 0, 0, 0, 0});
   t.Timer1.Interval = 500;
   t.Timer1.Enabled = false;
-  t.Timer1.On = &evtTimer;
 }
 
 }  // namespace

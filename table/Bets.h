@@ -23,7 +23,10 @@ struct BetControls {
 };
 BetControls fncBet(BetSide side, Integer intSeat);
 
-/// The twelve chip labels of seat 0..1: Tie, Banker, Player, and in each 0, 1, 2, 5.
+/// The chips that a label gives or takes; 0 clears the bet.
+inline constexpr std::array<int, 4> intChipSizes{0, 1, 2, 5};
+
+/// The twelve chip labels of seat 0..1: Tie, Banker, Player, and in each those of intChipSizes.
 std::array<Control*, 12> fncChips(Integer intSeat);
 
 /// The numeric value of a bet's box; a bet stands while it is not 0.

@@ -6,21 +6,13 @@
 #include "shell/CardsDealt.h"
 #include "table/BaccTable.h"
 #include "table/Cards.h"
+#include "table/DrawRules.h"
+#include "table/Positions.h"
 
 namespace {
 
 /// Cards left at or below which one more hand is the last.
 constexpr int intCardsBehindMark = 13;
-
-/// The lowest and highest point of the Player's third card on which the Banker draws, by the
-/// Banker's total. Only 3 has a gap: it draws on all but 8.
-struct DrawSpan {
-  int Low, High;
-};
-constexpr Table<DrawSpan, 8> spnBankerDraws(
-    {{{0, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 7}, {4, 7}, {6, 7}, {10, 10}}});
-constexpr int intPlayerStandsFrom = 6;
-constexpr int intBankerStandsFrom = 6;  ///< When the Player has stood.
 
 /// A card at a position of a shoe.
 struct Drawn {
@@ -40,21 +32,26 @@ void prcListPosition(const Integer& intShoe, int position) {
   }
 }
 
+/// The positions of the first four cards out.
+constexpr std::array<int, 4> intDealOrder{0, 3, 1, 4};
+
+/// The total of a side's first two cards, the first of them at this position.
+Integer fncTwoCards(const Integer& intShoe, int first) {
+  return fncTotal(fncCardPoint(fncHandValue(intShoe, first)),
+                  fncCardPoint(fncHandValue(intShoe, first + 1)));
+}
+
 void prcDealFirstFour(const Integer& intShoe) {
   const int p = intNextCard[intShoe];
-  const Drawn player1 = fncCardAt(intShoe, p), banker1 = fncCardAt(intShoe, p + 1);
-  const Drawn player2 = fncCardAt(intShoe, p + 2), banker2 = fncCardAt(intShoe, p + 3);
-  intPlayerTotal[intShoe] = fncTotal(fncCardPoint(player1.Value), fncCardPoint(player2.Value));
-  intBankerTotal[intShoe] = fncTotal(fncCardPoint(banker1.Value), fncCardPoint(banker2.Value));
-  intPlayerCard1[intShoe] = player1.Number;
-  intPlayerValue1[intShoe] = player1.Value;
-  intPlayerCard2[intShoe] = player2.Number;
-  intPlayerValue2[intShoe] = player2.Value;
+  const std::array<Drawn, 4> drawn{fncCardAt(intShoe, p), fncCardAt(intShoe, p + 1),
+                                   fncCardAt(intShoe, p + 2), fncCardAt(intShoe, p + 3)};
+  for (std::size_t i = 0; i < drawn.size(); ++i) {
+    fncHandCard(intShoe, intDealOrder[i]) = drawn[i].Number;
+    fncHandValue(intShoe, intDealOrder[i]) = drawn[i].Value;
+  }
+  intPlayerTotal[intShoe] = fncTwoCards(intShoe, 0);
+  intBankerTotal[intShoe] = fncTwoCards(intShoe, 3);
   intPlayerTotal2[intShoe] = intPlayerTotal[intShoe];
-  intBankerCard1[intShoe] = banker1.Number;
-  intBankerValue1[intShoe] = banker1.Value;
-  intBankerCard2[intShoe] = banker2.Number;
-  intBankerValue2[intShoe] = banker2.Value;
   intBankerTotal2[intShoe] = intBankerTotal[intShoe];
   for (int i = 0; i < 4; ++i) {
     prcListPosition(intShoe, p + i);
@@ -62,15 +59,13 @@ void prcDealFirstFour(const Integer& intShoe) {
   intNextCard[intShoe] = p + 4;
 }
 
-/// Deals a third card to one side: total, card number, face value and flag of that side. Returns
-/// its point.
-Integer fncDrawThird(const Integer& intShoe, Integer& total, Integer& number, Integer& value,
-                     bool& blnThird) {
+/// Deals a third card to position 2 or 5, into the total and flag of that side. Returns its point.
+Integer fncDrawThird(const Integer& intShoe, int position, Integer& total, bool& blnThird) {
   const Drawn third = fncCardAt(intShoe, intNextCard[intShoe]);
   const Integer point = fncCardPoint(third.Value);
   total = fncTotal(total, point);
-  number = third.Number;
-  value = third.Value;
+  fncHandCard(intShoe, position) = third.Number;
+  fncHandValue(intShoe, position) = third.Value;
   prcListPosition(intShoe, intNextCard[intShoe]);
   ++intNextCard[intShoe];
   blnThird = true;
@@ -88,12 +83,10 @@ void prcDrawThirdCards(const Integer& intShoe) {
   Integer intCard3Point = 0;
   const bool blnPlayerStood = !fncPlayerDraws(player);
   if (!blnPlayerStood) {
-    intCard3Point = fncDrawThird(intShoe, player, intPlayerCard3[intShoe], intPlayerValue3[intShoe],
-                                 blnPlayerThird[intShoe]);
+    intCard3Point = fncDrawThird(intShoe, 2, player, blnPlayerThird[intShoe]);
   }
   if (fncBankerDraws(banker, blnPlayerStood, intCard3Point)) {
-    fncDrawThird(intShoe, banker, intBankerCard3[intShoe], intBankerValue3[intShoe],
-                 blnBankerThird[intShoe]);
+    fncDrawThird(intShoe, 5, banker, blnBankerThird[intShoe]);
   }
 }
 
@@ -105,24 +98,6 @@ const char* fncResult(Integer player, Integer banker) {
 }
 
 }  // namespace
-
-Integer fncTotal(Integer one, Integer other) {
-  const int points = int{one} + int{other};
-  return points > 9 ? points - 10 : points;
-}
-
-bool fncNatural(Integer total) { return total == 8 || total == 9; }
-
-bool fncPlayerDraws(Integer intPlayer) { return intPlayer < intPlayerStandsFrom; }
-
-bool fncBankerDraws(Integer intBanker, bool blnPlayerStood, Integer intCard3Point) {
-  if (blnPlayerStood) {
-    return intBanker < intBankerStandsFrom;
-  }
-  const DrawSpan span = spnBankerDraws[intBanker];
-  return intCard3Point >= span.Low && intCard3Point <= span.High &&
-         (intBanker != 3 || intCard3Point != 8);
-}
 
 void ZNEW_DealHand(const Integer& intShoe) {
   Guarded("ZNEW_DealHand", [&] {

@@ -4,8 +4,8 @@
 #include "platform/Texts.h"
 #include "platform/platform.h"
 #include "reveal/CardMovement.h"
-#include "reveal/CardReveal.h"
 #include "table/BaccTable.h"
+#include "table/Positions.h"
 #include "table/SeatResults.h"
 #include "table/Waits.h"
 
@@ -42,14 +42,6 @@ Side fncBankerSide() {
           blnBankerThird};
 }
 
-/// Picture number of the card dealt to a position.
-Integer fncPositionCard(int n) {
-  const std::array<Integer, intPositions> cards{
-      intPlayerCard1[intShoeNumber], intPlayerCard2[intShoeNumber], intPlayerCard3[intShoeNumber],
-      intBankerCard1[intShoeNumber], intBankerCard2[intShoeNumber], intBankerCard3[intShoeNumber]};
-  return cards.at(static_cast<std::size_t>(n));
-}
-
 void prcLayBack(int n) {
   if (blnDealAnimation) {
     prcMoveCard(BaccTable, n);
@@ -81,9 +73,9 @@ void prcLayFirstFour() {
 
 void prcTurnPair(const Side& side) {
   for (const int n : {side.First, side.First + 1}) {
-    BaccTable.pctCardFace[n].Picture = fncPositionCard(n);
+    BaccTable.pctCardFace[n].Picture = fncHandCard(intShoeNumber, n);
     BaccTable.pctCardFace[n].Visible = true;
-    RevealCards(fncPositionValue(n), n, BaccTable);
+    RevealCards(fncHandValue(intShoeNumber, n), n, BaccTable);
   }
   if (blnCardFaceUp) {
     prcShowNumber(side.Total, side.Total2[intShoeNumber]);
@@ -99,12 +91,12 @@ void prcThirdCard(const Side& side) {
     return;
   }
   const int n = side.First + 2;
-  BaccTable.pctCardFace[n].Picture = fncPositionCard(n);
+  BaccTable.pctCardFace[n].Picture = fncHandCard(intShoeNumber, n);
   prcLayBack(n);
   BaccTable.pctCardFace[n].Visible = true;
   prcWaitSeconds(blnDealDelay ? 0.7 : 0.5);
   blnCardClickable[n] = true;
-  RevealCards(fncPositionValue(n), n, BaccTable);
+  RevealCards(fncHandValue(intShoeNumber, n), n, BaccTable);
   if (blnCardFaceUp) {
     prcShowNumber(side.Total, side.FinalTotal[intShoeNumber]);
   }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "table/HandDealing.h"
+#include "table/DrawRules.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
-#include "marking/MarkCard.h"
+#include "marking/AutomaticDeal.h"
+#include "marking/MarkCardEvents.h"
 #include "marking/MarkState.h"
 #include "platform/headless/Headless.h"
 #include "tests/Game.h"

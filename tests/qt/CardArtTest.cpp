@@ -7,6 +7,7 @@
 
 #include "reveal/CardReveal.h"
 #include "table/BaccTable.h"
+#include "table/BaccTableLayout.h"
 
 // The pictures against the patches that cover their corners: what a squeeze with card values off
 // lets the player see.

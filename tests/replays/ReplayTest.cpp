@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "bench/Invariants.h"
-#include "marking/MarkCard.h"
+#include "marking/MarkCardEvents.h"
 #include "marking/MarkState.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
