@@ -77,59 +77,54 @@ void prcBookMoney(BetSide side, Integer Index) {
 
 void prcInc(BetSide side, Integer Index, Integer intMultiple) {
   const BetRules& rules = fncRules(side);
-  Guarded(rules.IncLabel, [&] {
-    const BetControls bet = fncBet(side, Index);
-    At(10);
-    prcMarkCardTimers();
-    At(20);
-    // A box that is left may refuse, and a bet box is closed without a chip value: then the click
-    // does nothing more.
-    if (!fncSetFocus(bet.Box) || !fncUnitValueStands()) {
-      return;
-    }
-    At(30);
-    CardsInvisible();
-    ResultsInvisible();
-    At(40);
-    const Long NewBet = fncLong(fncUnitValue() * intMultiple) - fncOtherMoney(side, Index);
-    if (!prcSufficientFunds(NewBet, Index)) {
-      return;
-    }
-    At(50);
-    const double chips = fncBetChips(side, Index) + intMultiple;
-    if (chips < 0 || chips > rules.Most) {
-      platform::MsgBox(rules.ChipLimit, platform::Icon::Exclamation, "Velmora");
-      return;
-    }
-    At(60);
-    hooks.BetChanging(side, Index, fncBetChips(side, Index));
-    bet.Box.Text = fncPlainNumberText(chips);
-    bet.Box.SelLength =
-        rules.SelLength;  // What is typed next replaces it, as in a box just reached.
-    At(70);
-    prcTakeOtherOff(side, Index, true);
-    At(80);
-    prcBookMoney(side, Index);
-    At(90);
-    bet.Value.Visible = bet.Money != 0;
-    At(110);
-    dblPlayerTotal[Index] -= fncUnitValue() * intMultiple;
-    prcShowTotal(Index);
-  });
+  const Procedure running(rules.IncLabel);
+  const BetControls bet = fncBet(side, Index);
+  prcMarkCardTimers();
+  running.Step(2);
+  // A box that is left may refuse, and a bet box is closed without a chip value: then the click
+  // does nothing more.
+  if (!fncSetFocus(bet.Box) || !fncUnitValueStands()) {
+    return;
+  }
+  running.Step(3);
+  CardsInvisible();
+  ResultsInvisible();
+  running.Step(4);
+  const Long NewBet = fncLong(fncUnitValue() * intMultiple) - fncOtherMoney(side, Index);
+  if (!prcSufficientFunds(NewBet, Index)) {
+    return;
+  }
+  running.Step(5);
+  const double chips = fncBetChips(side, Index) + intMultiple;
+  if (chips < 0 || chips > rules.Most) {
+    platform::MsgBox(rules.ChipLimit, platform::Icon::Exclamation, "Velmora");
+    return;
+  }
+  running.Step(6);
+  hooks.BetChanging(side, Index, fncBetChips(side, Index));
+  bet.Box.Text = fncPlainNumberText(chips);
+  bet.Box.SelLength = rules.SelLength;  // What is typed next replaces it, as in a box just reached.
+  running.Step(7);
+  prcTakeOtherOff(side, Index, true);
+  running.Step(8);
+  prcBookMoney(side, Index);
+  running.Step(9);
+  bet.Value.Visible = bet.Money != 0;
+  running.Step(10);
+  dblPlayerTotal[Index] -= fncUnitValue() * intMultiple;
+  prcShowTotal(Index);
 }
 
 void prcGotFocus(BetSide side, Integer Index) {
   const BetRules& rules = fncRules(side);
-  Guarded(rules.GotFocusLabel, [&] {
-    At(10);
-    prcMarkCardTimers();
-    At(20);
-    fncBet(side, Index).Box.SelLength = rules.SelLength;
-    if (!fncUnitValueStands()) {
-      // No bet can be reckoned yet: the chip value box tells why, and takes the focus where it may.
-      txtUnitValue_LostFocus();
-    }
-  });
+  const Procedure running(rules.GotFocusLabel);
+  prcMarkCardTimers();
+  running.Step(2);
+  fncBet(side, Index).Box.SelLength = rules.SelLength;
+  if (!fncUnitValueStands()) {
+    // No bet can be reckoned yet: the chip value box tells why, and takes the focus where it may.
+    txtUnitValue_LostFocus();
+  }
 }
 
 /// Chips that a bet held before something was typed into its box.
@@ -149,22 +144,18 @@ void prcRefuse(Control& box, const char* text, bool& Cancel) {
 bool fncTypedBetGood(BetSide side, Integer Index, bool& Cancel) {
   const BetRules& rules = fncRules(side);
   const BetControls bet = fncBet(side, Index);
-  At(10);
   if (!fncIsNumeric(bet.Box.Text)) {
     prcRefuse(bet.Box, rules.TypedLimit, Cancel);
     bet.Box.Text = "0";
     return false;
   }
-  At(20);
   const double chips = fncBetChips(side, Index);
   if (chips < 0 || chips > rules.Most) {
     prcRefuse(bet.Box, rules.TypedLimit, Cancel);
     return false;
   }
-  At(30);
   const double unit = fncUnitValue();
   const Integer old = fncOldChips(side, Index);
-  At(40);
   const Long NewBet = fncLong((chips - old) * unit - fncOtherMoney(side, Index));
   if (!prcSufficientFunds(NewBet, Index)) {
     bet.Box.Text = std::to_string(old);
@@ -176,27 +167,20 @@ bool fncTypedBetGood(BetSide side, Integer Index, bool& Cancel) {
 
 void prcBookTypedBet(BetSide side, Integer Index) {
   const BetControls bet = fncBet(side, Index);
-  At(50);
   dblPlayerTotal[Index] += bet.Money;
-  At(60);
   if (fncBetStands(side, Index)) {
     dblPlayerTotal[Index] += fncOtherMoney(side, Index);
   }
-  At(70);
   prcBookMoney(side, Index);
-  At(80);
   dblPlayerTotal[Index] -= bet.Money;
   prcShowTotal(Index);
-  At(90);
   if (bet.Money == 0) {
     bet.Value.Visible = false;
     return;
   }
-  At(100);
   bet.Value.Visible = true;
   CardsInvisible();
   ResultsInvisible();
-  At(110);
   prcTakeOtherOff(side, Index, false);
 }
 
@@ -212,16 +196,17 @@ void prcTakeUnreckonedOff(BetSide side, Integer Index) {
 }
 
 void prcValidate(BetSide side, Integer Index, bool& Cancel) {
-  Guarded(fncRules(side).ValidateLabel, [&] {
-    if (!fncUnitValueStands()) {
-      prcTakeUnreckonedOff(side, Index);
-      return;
-    }
-    if (fncTypedBetGood(side, Index, Cancel)) {
-      hooks.BetChanging(side, Index, fncOldChips(side, Index));
-      prcBookTypedBet(side, Index);
-    }
-  });
+  const Procedure running(fncRules(side).ValidateLabel);
+  if (!fncUnitValueStands()) {
+    prcTakeUnreckonedOff(side, Index);
+    return;
+  }
+  running.Step(2);
+  if (fncTypedBetGood(side, Index, Cancel)) {
+    running.Step(3);
+    hooks.BetChanging(side, Index, fncOldChips(side, Index));
+    prcBookTypedBet(side, Index);
+  }
 }
 
 }  // namespace

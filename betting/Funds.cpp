@@ -19,29 +19,25 @@ void prcReturnBet(BetSide side, Integer i) {
 }  // namespace
 
 bool prcSufficientFunds(Long NewBet, Integer Index) {
-  return Guarded("Baccarat table prcSufficientFunds", [&] {
-    At(10);
-    if (dblPlayerTotal[Index] - NewBet < 0) {
-      platform::MsgBox(std::string("Sorry, not enough money for the bet placed.") + strLineBreak +
-                           "You must add more stake money using the Statistics screen.",
-                       platform::Icon::Exclamation, "Velmora");
-      return false;
-    }
-    return true;
-  });
+  const Procedure running("Baccarat table prcSufficientFunds");
+  if (dblPlayerTotal[Index] - NewBet < 0) {
+    platform::MsgBox(std::string("Sorry, not enough money for the bet placed.") + strLineBreak +
+                         "You must add more stake money using the Statistics screen.",
+                     platform::Icon::Exclamation, "Velmora");
+    return false;
+  }
+  return true;
 }
 
 void prcReturnBets() {
-  Guarded("prcReturnBets", [] {
-    for (int i = 0; i < intSeats; ++i) {
-      At(10);
-      prcReturnBet(betTie, i);
-      At(20);
-      prcReturnBet(betPlayer, i);
-      At(30);
-      prcReturnBet(betBanker, i);
-      At(40);
-      prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
-    }
-  });
+  const Procedure running("prcReturnBets");
+  for (int i = 0; i < intSeats; ++i) {
+    prcReturnBet(betTie, i);
+    running.Step(2);
+    prcReturnBet(betPlayer, i);
+    running.Step(3);
+    prcReturnBet(betBanker, i);
+    running.Step(4);
+    prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
+  }
 }

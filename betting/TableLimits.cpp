@@ -28,34 +28,30 @@ bool fncUnitValueStands() { return fncUnitValueFault() == nullptr; }
 void txtUnitValue_GotFocus() { BaccTable.txtUnitValue.SelLength = 5; }
 
 void txtUnitValue_LostFocus() {
-  Guarded("Baccarat table txtUnitValue_LostFocus", [] {
-    At(10);
-    const char* fault = fncUnitValueFault();
-    if (fault == nullptr) {
-      At(30);
-      prcWritePrivateProfileString("Misc", "UnitValue", BaccTable.txtUnitValue.Text);
-      return;
-    }
-    platform::MsgBox(fault, platform::Icon::Exclamation, "Velmora");
-    At(40);
-    fncSetFocus(BaccTable.txtUnitValue);
-  });
+  const Procedure running("Baccarat table txtUnitValue_LostFocus");
+  const char* fault = fncUnitValueFault();
+  if (fault == nullptr) {
+    running.Step(2);
+    prcWritePrivateProfileString("Misc", "UnitValue", BaccTable.txtUnitValue.Text);
+    return;
+  }
+  platform::MsgBox(fault, platform::Icon::Exclamation, "Velmora");
+  running.Step(3);
+  fncSetFocus(BaccTable.txtUnitValue);
 }
 
 void mskHandsAtaTime_GotFocus() { BaccTable.mskHandsAtaTime.SelLength = 2; }
 
 void mskHandsAtaTime_LostFocus() {
-  Guarded("Baccarat table mskHandsAtaTime_LostFocus", [] {
-    std::string& text = BaccTable.mskHandsAtaTime.Text;
-    At(10);
-    if (text.empty() || text.front() < '0' || text.front() > '9') {
-      text = "1";
-    }
-    At(20);
-    // As text, not as numbers: "5" lies between "1" and "90", "91" and "0" do not.
-    if (text > "90" || text < "1") {
-      platform::MsgBox("Hands At a Time must be 1 to 90");
-      fncSetFocus(BaccTable.mskHandsAtaTime);
-    }
-  });
+  const Procedure running("Baccarat table mskHandsAtaTime_LostFocus");
+  std::string& text = BaccTable.mskHandsAtaTime.Text;
+  if (text.empty() || text.front() < '0' || text.front() > '9') {
+    text = "1";
+  }
+  running.Step(2);
+  // As text, not as numbers: "5" lies between "1" and "90", "91" and "0" do not.
+  if (text > "90" || text < "1") {
+    platform::MsgBox("Hands At a Time must be 1 to 90");
+    fncSetFocus(BaccTable.mskHandsAtaTime);
+  }
 }

@@ -172,14 +172,12 @@ void prcLoadStatistics(Window& form) {
 }
 
 void prcUnloadStatistics(Window& form, bool&) {
-  Guarded("frmStatistics_Form_Unload", [&] {
-    At(10);
-    prcWritePlace(form, "frmStatistics");
-    At(20);
-    MDIForm1.mnuStatistics.Value = 0;
-    At(30);
-    prcSetButton("Statistics", 0);
-  });
+  const Procedure running("frmStatistics_Form_Unload");
+  prcWritePlace(form, "frmStatistics");
+  running.Step(2);
+  MDIForm1.mnuStatistics.Value = 0;
+  running.Step(3);
+  prcSetButton("Statistics", 0);
 }
 
 constexpr WindowEvents evtStatistics{.Load = prcLoadStatistics, .Unload = prcUnloadStatistics};
@@ -187,49 +185,45 @@ constexpr WindowEvents evtStatistics{.Load = prcLoadStatistics, .Unload = prcUnl
 }  // namespace
 
 void prcStatisticsRefresh() {
-  Guarded("prcStatisticsRefresh", [] {
-    StatisticsWindow& w = frmStatistics;
-    At(10);
-    w.lblHandsPlayed.Text = fncGetPrivateProfileString(strPlayed, "Hands");
-    At(20);
-    for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
-      w.lblShoesPlayedDecks[i].Text = fncGetPrivateProfileString(strPlayed, fncDecksKey(i));
-    }
-    At(30);
-    for (int i = 0; i < intSeats; ++i) {
-      const std::string section = fncSeatSection(i);
-      prcSetMasked(w.mskSteak[i],
-                   fncPlainNumberText(std::nearbyint(fncGetSetting(section, "Stake"))));
-      prcShowMoney(w.lblWinningsStat[i], fncGetSetting(section, "Win"));
-      prcShowMoney(w.lblCurrentMoney[i], fncCurrentMoney(i));
-      prcShowMoney(w.lblTurnover[i], fncGetSetting(section, "Turnover"));
-    }
-  });
+  const Procedure running("prcStatisticsRefresh");
+  StatisticsWindow& w = frmStatistics;
+  w.lblHandsPlayed.Text = fncGetPrivateProfileString(strPlayed, "Hands");
+  running.Step(2);
+  for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
+    w.lblShoesPlayedDecks[i].Text = fncGetPrivateProfileString(strPlayed, fncDecksKey(i));
+  }
+  running.Step(3);
+  for (int i = 0; i < intSeats; ++i) {
+    const std::string section = fncSeatSection(i);
+    prcSetMasked(w.mskSteak[i],
+                 fncPlainNumberText(std::nearbyint(fncGetSetting(section, "Stake"))));
+    prcShowMoney(w.lblWinningsStat[i], fncGetSetting(section, "Win"));
+    prcShowMoney(w.lblCurrentMoney[i], fncCurrentMoney(i));
+    prcShowMoney(w.lblTurnover[i], fncGetSetting(section, "Turnover"));
+  }
 }
 
 void cmdResetStats_Click() {
-  Guarded("frmStatistics_cmdResetStats_Click", [] {
-    StatisticsWindow& w = frmStatistics;
-    At(10);
-    if (!fncResetWanted()) {
-      return;
+  const Procedure running("frmStatistics_cmdResetStats_Click");
+  StatisticsWindow& w = frmStatistics;
+  if (!fncResetWanted()) {
+    return;
+  }
+  prcWriteTogether([&] {
+    running.Step(2);
+    w.lblHandsPlayed.Text = "0";
+    prcWriteSetting(strPlayed, "Hands", 0);
+    running.Step(3);
+    for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
+      w.lblShoesPlayedDecks[i].Text = "0";
+      prcWriteSetting(strPlayed, fncDecksKey(i), 0);
     }
-    prcWriteTogether([] {
-      At(20);
-      w.lblHandsPlayed.Text = "0";
-      prcWriteSetting(strPlayed, "Hands", 0);
-      At(30);
-      for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
-        w.lblShoesPlayedDecks[i].Text = "0";
-        prcWriteSetting(strPlayed, fncDecksKey(i), 0);
-      }
-      At(40);
-      for (int i = 0; i < intSeats; ++i) {
-        prcResetSeat(i);
-      }
-    });
-    hooks.StatisticsReset();
+    running.Step(4);
+    for (int i = 0; i < intSeats; ++i) {
+      prcResetSeat(i);
+    }
   });
+  hooks.StatisticsReset();
 }
 
 void mskSteak_GotFocus(Integer Index) {
@@ -239,36 +233,34 @@ void mskSteak_GotFocus(Integer Index) {
 }
 
 void mskSteak_Validate(Integer Index, bool& Cancel) {
-  Guarded("frmStatistics_mskSteak_Validate", [&] {
-    Control& box = frmStatistics.mskSteak[Index];
-    At(10);
-    if (!fncIsNumeric(box.Text)) {
-      prcRefuse(box, Cancel, strBadStake);
-      box.Text = "0";
-      return;
-    }
-    const double stake = fncVal(box.Text);
-    At(20);
-    if (stake < 0 || stake > dblMostStake) {
-      prcRefuse(box, Cancel, strBadStake);
-      return;
-    }
-    At(30);
-    if (frmStatistics.dblOldStake - stake > dblPlayerTotal[Index]) {
-      prcRefuse(box, Cancel, strLowStake);
-      return;
-    }
-    At(40);
-    prcWritePrivateProfileString(fncSeatSection(Index), "Stake", box.Text);
-    At(50);
-    dblPlayerTotal[Index] += stake - frmStatistics.dblOldStake;
-    // A check can come twice while the focus stays: the change must not be booked again.
-    frmStatistics.dblOldStake = stake;
-    At(60);
-    prcShowMoney(BaccTable.lblPlayerTotal[Index], dblPlayerTotal[Index]);
-    At(70);
-    prcShowMoney(frmStatistics.lblCurrentMoney[Index], fncCurrentMoney(Index));
-  });
+  const Procedure running("frmStatistics_mskSteak_Validate");
+  Control& box = frmStatistics.mskSteak[Index];
+  if (!fncIsNumeric(box.Text)) {
+    prcRefuse(box, Cancel, strBadStake);
+    box.Text = "0";
+    return;
+  }
+  const double stake = fncVal(box.Text);
+  running.Step(2);
+  if (stake < 0 || stake > dblMostStake) {
+    prcRefuse(box, Cancel, strBadStake);
+    return;
+  }
+  running.Step(3);
+  if (frmStatistics.dblOldStake - stake > dblPlayerTotal[Index]) {
+    prcRefuse(box, Cancel, strLowStake);
+    return;
+  }
+  running.Step(4);
+  prcWritePrivateProfileString(fncSeatSection(Index), "Stake", box.Text);
+  running.Step(5);
+  dblPlayerTotal[Index] += stake - frmStatistics.dblOldStake;
+  // A check can come twice while the focus stays: the change must not be booked again.
+  frmStatistics.dblOldStake = stake;
+  running.Step(6);
+  prcShowMoney(BaccTable.lblPlayerTotal[Index], dblPlayerTotal[Index]);
+  running.Step(7);
+  prcShowMoney(frmStatistics.lblCurrentMoney[Index], fncCurrentMoney(Index));
 }
 
 void prcPrepareStatistics() {

@@ -36,10 +36,8 @@ void prcEveningClick(Control& entry) {
   const auto* const row = std::ranges::find_if(
       eveningRows, [&](const EveningRow& other) { return &other.Entry == &entry; });
   const std::string label = std::string("MDIForm1_") + entry.Name + "_Click";
-  Guarded(label.c_str(), [&] {
-    At(10);
-    row->Click();
-  });
+  const Procedure running(label.c_str());
+  row->Click();
 }
 
 constexpr ControlEvents evtEvening{.Click = prcEveningClick};

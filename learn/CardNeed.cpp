@@ -41,22 +41,20 @@ AdviceNumbers fncAdviceNumbers(Integer Index, const TableView& view) {
 }  // namespace
 
 void CardNeed(const Integer& Index) {
-  Guarded("Baccarat table CardNeed", [&] {
-    At(10);
-    BaccTable.blnCardNeedShown = true;
-    At(20);
-    const TableView view = fncTableView();
-    At(40);
-    const AdviceNumbers numbers = fncAdviceNumbers(Index, view);
-    At(50);
-    std::string text;
-    if (!fncAdvice(Index, view, numbers, text)) {
-      return;
-    }
-    Control& label = Index < 3 ? BaccTable.lblCardNeedP : BaccTable.lblCardNeedB;
-    label.Text = text;
-    label.Visible = true;
-  });
+  const Procedure running("Baccarat table CardNeed");
+  BaccTable.blnCardNeedShown = true;
+  running.Step(2);
+  const TableView view = fncTableView();
+  running.Step(3);
+  const AdviceNumbers numbers = fncAdviceNumbers(Index, view);
+  running.Step(4);
+  std::string text;
+  if (!fncAdvice(Index, view, numbers, text)) {
+    return;
+  }
+  Control& label = Index < 3 ? BaccTable.lblCardNeedP : BaccTable.lblCardNeedB;
+  label.Text = text;
+  label.Visible = true;
 }
 
 void prcShowLearnPanels(bool blnShow) {

@@ -33,35 +33,33 @@ void prcShuffleOwnShoe(MarkCardWindow& form, const Integer& shoe) {
 void prcSetDealInterval(MarkCardWindow& form) { form.tmrDeal.Interval = intAutoDealDelay * 1000; }
 
 void tmrDeal_Timer(MarkCardWindow& form) {
-  Guarded("tmrDeal_Timer", [&] {
-    At(10);
-    prcSetDealInterval(form);
-    At(20);
-    if (!blnAutoDeal) {
-      return;
+  const Procedure running("tmrDeal_Timer");
+  prcSetDealInterval(form);
+  running.Step(2);
+  if (!blnAutoDeal) {
+    return;
+  }
+  running.Step(3);
+  const Integer k = fncMarkCardNumber(form.Form);
+  if (k < 0 || intMarkCardShoe[k] != k) {
+    return;
+  }
+  running.Step(4);
+  if (!fncInPlay(k)) {
+    prcShuffleOwnShoe(form, k);
+    if (fncMarkCardNumber(form.Form) != k) {
+      return;  // The card was closed meanwhile.
     }
-    At(30);
-    const Integer k = fncMarkCardNumber(form.Form);
-    if (k < 0 || intMarkCardShoe[k] != k) {
-      return;
+  }
+  running.Step(5);
+  ZNEW_DealHand(k);
+  running.Step(6);
+  varHandUnits[k] = std::nullopt;
+  intHandsDealt[k] += 1;
+  running.Step(7);
+  for (int j = 0; j < intShoes; ++j) {
+    if (intMarkCardShoe[j] == k) {
+      SetCardView(j);
     }
-    At(40);
-    if (!fncInPlay(k)) {
-      prcShuffleOwnShoe(form, k);
-      if (fncMarkCardNumber(form.Form) != k) {
-        return;  // The card was closed meanwhile.
-      }
-    }
-    At(50);
-    ZNEW_DealHand(k);
-    At(60);
-    varHandUnits[k] = std::nullopt;
-    intHandsDealt[k] += 1;
-    At(70);
-    for (int j = 0; j < intShoes; ++j) {
-      if (intMarkCardShoe[j] == k) {
-        SetCardView(j);
-      }
-    }
-  });
+  }
 }

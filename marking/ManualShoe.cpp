@@ -33,27 +33,25 @@ double fncTieWins(double tie) {
 }  // namespace
 
 void ManualShoe(double PlayerBet, double BankerBet, double TieBet, Integer Seat) {
-  Guarded("ManualShoe", [&] {
-    At(10);
-    dblHandWin = 0;
-    dblHandLoss = 0;
-    double units = 0;
-    if (strResult[intShoeNumber] == "B") {
-      At(20);
-      units = fncSideWins(PlayerBet, BankerBet, fncPays(betBanker), TieBet);
-    } else if (strResult[intShoeNumber] == "P") {
-      At(30);
-      units = fncSideWins(BankerBet, PlayerBet, fncPays(betPlayer), TieBet);
-    } else {
-      At(40);
-      units = fncTieWins(TieBet);
-    }
-    if (Seat != 1) {
-      return;
-    }
-    At(50);
-    const bool blnBet = TieBet != 0 || PlayerBet != 0 || BankerBet != 0;
-    varHandUnits[intShoeNumber] = blnBet ? std::optional<Integer>(fncInteger(units)) : std::nullopt;
-    SetCardView(intShoeNumber);
-  });
+  const Procedure running("ManualShoe");
+  dblHandWin = 0;
+  dblHandLoss = 0;
+  double units = 0;
+  if (strResult[intShoeNumber] == "B") {
+    running.Step(2);
+    units = fncSideWins(PlayerBet, BankerBet, fncPays(betBanker), TieBet);
+  } else if (strResult[intShoeNumber] == "P") {
+    running.Step(3);
+    units = fncSideWins(BankerBet, PlayerBet, fncPays(betPlayer), TieBet);
+  } else {
+    running.Step(4);
+    units = fncTieWins(TieBet);
+  }
+  if (Seat != 1) {
+    return;
+  }
+  running.Step(5);
+  const bool blnBet = TieBet != 0 || PlayerBet != 0 || BankerBet != 0;
+  varHandUnits[intShoeNumber] = blnBet ? std::optional<Integer>(fncInteger(units)) : std::nullopt;
+  SetCardView(intShoeNumber);
 }

@@ -97,17 +97,12 @@ double fncShapeTop(const Mark& mark) {
 }
 
 void prcPlaceShape(MarkCardWindow& form, Control& shape, const Mark& mark) {
-  At(60);
   shape.BorderColor = mark.Border;
-  At(70);
   shape.Form2D = mark.Oval ? ShapeForm::Oval : ShapeForm::Rectangle;
-  At(80);
   if (mark.TieLine) {
     shape.Height = intTieLineHeight;
   }
-  At(90);
   shape.Top = fncShapeTop(mark);
-  At(100);
   prcAtColumn(shape, form.shpTBP, mark.Column);
 }
 
@@ -135,7 +130,6 @@ void prcKeepInView(MarkCardWindow& form, const Control& shape) {
 }
 
 void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
-  At(30);
   if (!mark.Heading.empty()) {
     prcShowHeadings(form, mark.Heading);
   }
@@ -144,17 +138,13 @@ void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
   }
   Control& shape = fncElement(form.shpTBP, i);
   Control& text = fncElement(form.lblTBP, i);
-  At(50);
   prcGrow(form.Picture1, mark.Row);
   prcPlaceShape(form, shape, mark);
   prcPlaceText(form, text, mark);
-  At(110);
   shape.Visible = true;
   text.Visible = !mark.TieLine;
   (mark.TieLine ? shape : text).Spoken = "Hand " + std::to_string(i + 1) + ", " + mark.Spoken;
-  At(120);
   prcKeepInView(form, shape);
-  At(130);
   platform::RepaintNow(form.Picture1);
 }
 
@@ -191,32 +181,31 @@ Control& fncMakeElement(MarkCardWindow& form, ControlFamily& family, int n) {
 }
 
 void ClearCardView(const Integer& card) {
-  Guarded("ClearCardView", [&] {
-    At(10);
-    if (MarkCardWindow* form = fncMarkCard(card)) {
-      std::ranges::for_each(fncFamilies(*form),
-                            [](ControlFamily* family) { prcEmptyFamily(*family); });
-      At(20);
-      form->Picture1.Left = 0;
-      prcSetValue(form->HScroll1, 0);
-    }
-    At(30);
-    intLastTotalColumn[card] = 0;
-    blnMarkStarted[card] = false;
-    blnShuffled[card] = false;
-  });
+  const Procedure running("ClearCardView");
+  if (MarkCardWindow* form = fncMarkCard(card)) {
+    std::ranges::for_each(fncFamilies(*form),
+                          [](ControlFamily* family) { prcEmptyFamily(*family); });
+    running.Step(2);
+    form->Picture1.Left = 0;
+    prcSetValue(form->HScroll1, 0);
+  }
+  running.Step(3);
+  intLastTotalColumn[card] = 0;
+  blnMarkStarted[card] = false;
+  blnShuffled[card] = false;
 }
 
 void SetCardView(const Integer& card) {
-  Guarded("SetCardView", [&] {
-    At(10);
-    MarkCardWindow* form = fncMarkCard(card);
-    const int i = form != nullptr ? fncMakeMark(*form, intHandsDealt[intMarkCardShoe[card]]) : 0;
-    const Mark mark = fncPlaceMark(card);
-    if (form != nullptr) {
-      prcDrawMark(*form, i, mark);
-    }
-  });
+  const Procedure running("SetCardView");
+  MarkCardWindow* form = fncMarkCard(card);
+  running.Step(2);
+  const int i = form != nullptr ? fncMakeMark(*form, intHandsDealt[intMarkCardShoe[card]]) : 0;
+  running.Step(3);
+  const Mark mark = fncPlaceMark(card);
+  running.Step(4);
+  if (form != nullptr) {
+    prcDrawMark(*form, i, mark);
+  }
 }
 
 void prcMarkCardTimers() {

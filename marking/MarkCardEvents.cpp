@@ -49,13 +49,9 @@ void prcBelowTable(Window& form) {
 }
 
 void prcPlaceForm(Window& form) {
-  At(20);
   prcBelowTable(form);
-  At(30);
   form.Width = MDIForm1.Form.Width - dblFrameMargin;
-  At(40);
   form.Height = std::min(MDIForm1.Form.Height - form.Top - dblBelowCard, dblMostHeight);
-  At(50);
   form.Left = (MDIForm1.Form.Width - form.Width) / 2 - dblLeftShift;
   prcMendPlace(form);
 }
@@ -73,18 +69,16 @@ void prcMakeRules(MarkCardWindow& form) {
 }
 
 void Picture1_Resize(Control& picture) {
-  Guarded("MarkCard_Picture1_Resize", [&] {
-    At(10);
-    MarkCardWindow& form = fncOwner(*picture.Form);
-    form.Shape1.Left = form.Shape1.Top = dblInset;
-    form.Shape1.Width = picture.Width - 3 * dblInset;
-    form.Shape1.Height = picture.Height - 3 * dblInset;
-    At(20);
-    for (auto& [n, line] : form.lneHLine) {
-      line.X1 = dblInset;
-      line.X2 = form.Shape1.Width + dblInset;
-    }
-  });
+  const Procedure running("MarkCard_Picture1_Resize");
+  MarkCardWindow& form = fncOwner(*picture.Form);
+  form.Shape1.Left = form.Shape1.Top = dblInset;
+  form.Shape1.Width = picture.Width - 3 * dblInset;
+  form.Shape1.Height = picture.Height - 3 * dblInset;
+  running.Step(2);
+  for (auto& [n, line] : form.lneHLine) {
+    line.X1 = dblInset;
+    line.X2 = form.Shape1.Width + dblInset;
+  }
 }
 
 void HScroll1_Change(Control& bar) { fncOwner(*bar.Form).Picture1.Left = -bar.Value; }
@@ -113,51 +107,45 @@ void prcJoinEvents(MarkCardWindow& form) {
 }
 
 void Form_Load(Window& window) {
-  Guarded("MarkCard_Form_Load", [&] {
-    MarkCardWindow& form = fncOwner(window);
-    prcLayOutMarkCard(form);
-    prcJoinEvents(form);
-    At(10);
-    for (const auto& [key, place] : fncStoredPlace(window)) {
-      *place = fncGetSetting(fncSection(intMarkCardNumber), key);
-    }
-    prcPlaceForm(window);
-    At(60);
-    prcMakeRules(form);
-    At(70);
-    form.Picture1.Left = form.Picture1.Top = 0;
-    prcResizePicture(form.Picture1, dblPictureWidth,
-                     form.shpTBP[0].Top + intRowsBeforeGrowth * intRowPitch);
-    intMarkCardBase = fncInteger(form.Picture1.Height);
-    At(80);
-    form.VScroll1.Width = form.HScroll1.Height = dblBarWidth;
-    At(90);
-    prcSetDealInterval(form);
-    At(100);
-    prcToFront(window);
-  });
+  const Procedure running("MarkCard_Form_Load");
+  MarkCardWindow& form = fncOwner(window);
+  prcLayOutMarkCard(form);
+  prcJoinEvents(form);
+  for (const auto& [key, place] : fncStoredPlace(window)) {
+    *place = fncGetSetting(fncSection(intMarkCardNumber), key);
+  }
+  prcPlaceForm(window);
+  running.Step(2);
+  prcMakeRules(form);
+  running.Step(3);
+  form.Picture1.Left = form.Picture1.Top = 0;
+  prcResizePicture(form.Picture1, dblPictureWidth,
+                   form.shpTBP[0].Top + intRowsBeforeGrowth * intRowPitch);
+  intMarkCardBase = fncInteger(form.Picture1.Height);
+  running.Step(4);
+  form.VScroll1.Width = form.HScroll1.Height = dblBarWidth;
+  running.Step(5);
+  prcSetDealInterval(form);
+  running.Step(6);
+  prcToFront(window);
 }
 
 void Form_Unload(Window& window, bool& /*blnCancel*/) {
-  Guarded("MarkCard_Form_Unload", [&] {
-    At(10);
-    const Integer card = fncMarkCardNumber(window);
-    if (card >= 0) {
-      At(20);
-      for (const auto& [key, place] : fncStoredPlace(window)) {
-        prcWriteSetting(fncSection(card), key, *place);
-      }
+  const Procedure running("MarkCard_Form_Unload");
+  const Integer card = fncMarkCardNumber(window);
+  if (card >= 0) {
+    running.Step(2);
+    for (const auto& [key, place] : fncStoredPlace(window)) {
+      prcWriteSetting(fncSection(card), key, *place);
     }
-    At(30);
-    RemoveCardViewForm(fncOwner(window));
-  });
+  }
+  running.Step(3);
+  RemoveCardViewForm(fncOwner(window));
 }
 
 void Form_Activate(Window& window) {
-  Guarded("MarkCard_Form_Activate", [&] {
-    At(10);
-    fncOwner(window).Timer1.Enabled = false;
-  });
+  const Procedure running("MarkCard_Form_Activate");
+  fncOwner(window).Timer1.Enabled = false;
 }
 
 void Form_Resize(Window& window) {
@@ -186,20 +174,14 @@ void prcPlaceBars(MarkCardWindow& form) {
   Control& across = form.HScroll1;
   Control& down = form.VScroll1;
   across.Left = down.Top = 0;
-  At(20);
   across.Top = form.Picture1.Width > width ? height - across.Height : height;
-  At(30);
   down.Left = form.Picture1.Height > across.Top ? width - down.Width : width;
-  At(40);
   form.ScrollCorner.Visible = false;
-  At(50);
   const bool blnDownSeen = down.Left < width;
   across.Width = blnDownSeen ? width - down.Width : width;
-  At(60);
   if (across.Top > 0) {
     down.Height = across.Top;
   }
-  At(70);
   if (blnDownSeen) {
     form.ScrollCorner.Top = down.Height - dblInset;
     form.ScrollCorner.Left = across.Width - dblInset;
@@ -232,33 +214,31 @@ void prcPrepareMarkCard(MarkCardWindow& form) {
 }  // namespace
 
 void NewCardViewForm(const Long& lngHwnd, const Integer& card) {
-  Guarded("NewCardViewForm", [&] {
-    At(10);
-    intMarkCardNumber = card;
-    At(20);
-    if (MarkCardWindow* open = fncWindowOf(lngHwnd)) {
-      prcBringUp(open->Form);
-      return;
-    }
-    At(30);
-    MarkCardWindow& form = MarkCards[card];
-    if (form.Form.hWnd != 0) {
-      prcBringUp(form.Form);
-      return;
-    }
-    form = MarkCardWindow{};
-    prcPrepareMarkCard(form);
-    prcLoad(form.Form);
-    colMarkCards[fncHandleText(form.Form.hWnd)] = &form;
-    At(40);
-    form.Form.Caption = "Marking Card for Player 3";
-    form.Picture1.BackColor = clrWhite;
-    At(50);
-    lngMarkCardHwnd[card] = form.Form.hWnd;
-    ClearCardView(card);
-    form.Form.Visible = true;
-    blnMarkCardLoaded = true;
-  });
+  const Procedure running("NewCardViewForm");
+  intMarkCardNumber = card;
+  running.Step(2);
+  if (MarkCardWindow* open = fncWindowOf(lngHwnd)) {
+    prcBringUp(open->Form);
+    return;
+  }
+  running.Step(3);
+  MarkCardWindow& form = MarkCards[card];
+  if (form.Form.hWnd != 0) {
+    prcBringUp(form.Form);
+    return;
+  }
+  form = MarkCardWindow{};
+  prcPrepareMarkCard(form);
+  prcLoad(form.Form);
+  colMarkCards[fncHandleText(form.Form.hWnd)] = &form;
+  running.Step(4);
+  form.Form.Caption = "Marking Card for Player 3";
+  form.Picture1.BackColor = clrWhite;
+  running.Step(5);
+  lngMarkCardHwnd[card] = form.Form.hWnd;
+  ClearCardView(card);
+  form.Form.Visible = true;
+  blnMarkCardLoaded = true;
 }
 
 void RemoveCardViewForm(MarkCardWindow& form) {
@@ -271,21 +251,19 @@ void RemoveCardViewForm(MarkCardWindow& form) {
 }
 
 void prcMarkCardResize(const Integer& card) {
-  Guarded("prcMarkCardResize", [&] {
-    At(10);
-    MarkCardWindow* form = fncMarkCard(card);
-    if (form == nullptr) {
-      return;
-    }
-    prcPlaceBars(*form);
-    At(80);
-    form->HScroll1.Max = form->Picture1.Width - form->VScroll1.Left;
-    form->VScroll1.Max = form->Picture1.Height - form->HScroll1.Top;
-    At(90);
-    prcSetSteps(form->HScroll1);
-    prcSetSteps(form->VScroll1);
-    At(100);
-    prcControlToFront(form->HScroll1);
-    prcControlToFront(form->VScroll1);
-  });
+  const Procedure running("prcMarkCardResize");
+  MarkCardWindow* form = fncMarkCard(card);
+  if (form == nullptr) {
+    return;
+  }
+  prcPlaceBars(*form);
+  running.Step(2);
+  form->HScroll1.Max = form->Picture1.Width - form->VScroll1.Left;
+  form->VScroll1.Max = form->Picture1.Height - form->HScroll1.Top;
+  running.Step(3);
+  prcSetSteps(form->HScroll1);
+  prcSetSteps(form->VScroll1);
+  running.Step(4);
+  prcControlToFront(form->HScroll1);
+  prcControlToFront(form->VScroll1);
 }

@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 
-#include "platform/Procedure.h"
 #include "platform/Texts.h"
 
 Table<Integer, intShoes> intMarkVerticalLimit;
@@ -149,14 +148,11 @@ Colour fncBorder(std::int64_t card, const Hand& hand) {
 }  // namespace
 
 Mark fncPlaceMark(const Integer& card) {
-  At(20);
   const Hand hand = fncHand(card);
   Mark mark;
   if (intMarkVerticalLimit[card] == 0) {
-    At(30);
     prcPlaceInRun(card, hand, mark);
   } else {
-    At(40);
     prcPlaceInLimit(card, hand, mark);
   }
   const Integer& shoe = intMarkCardShoe[card];

@@ -1,7 +1,7 @@
 #pragma once
 
 // What goes wrong at run time although nobody typed anything wrong. A fault travels as an exception
-// to the innermost labelled procedure (see Procedure.h), which tells it once and ends the program.
+// to the dispatcher of events, which tells it once and ends the program (see Procedure.h).
 
 /// A run-time fault: its number and the words that the failure box shows for it.
 struct Fault {

@@ -1,28 +1,41 @@
 #include "platform/Procedure.h"
 
+#include <exception>
 #include <string>
+#include <string_view>
 
 #include "platform/Texts.h"
 #include "platform/platform.h"
 
 namespace {
-Procedure* prcInnermost = nullptr;
-}
 
-Procedure::Procedure() : Outer(prcInnermost) { prcInnermost = this; }
+constexpr std::size_t intLongestLabel = 80;
 
-Procedure::~Procedure() { prcInnermost = Outer; }
+// The innermost procedure that a fault has unwound. Noted while the stack goes, so it takes no
+// memory of its own.
+bool blnNoted = false;
+char strLabel[intLongestLabel + 1] = "";
+int intLine = 0;
 
-void At(int line) {
-  if (prcInnermost != nullptr) {
-    prcInnermost->Line = line;
+}  // namespace
+
+Procedure::Procedure(const char* label) : label_(label), exceptions_(std::uncaught_exceptions()) {}
+
+Procedure::~Procedure() {
+  if (blnNoted || std::uncaught_exceptions() <= exceptions_) {
+    return;
   }
+  blnNoted = true;
+  strLabel[std::string_view(label_).copy(strLabel, intLongestLabel)] = '\0';
+  intLine = 10 * step_;
 }
 
-void prcTellFault(const char* label, int line, const Fault& fault) {
-  platform::MsgBox("Serious Error Occurred - Line " + std::to_string(line) + " Error - " +
+void prcForgetFault() { blnNoted = false; }
+
+void prcTellFault(const Fault& fault) {
+  platform::MsgBox("Serious Error Occurred - Line " + std::to_string(intLine) + " Error - " +
                        std::to_string(fault.Number) + "-" + fault.Description + strLineBreak + "'" +
-                       label + "'" + strLineBreak + "PLEASE RECORD ERROR MESSAGE",
+                       strLabel + "'" + strLineBreak + "PLEASE RECORD ERROR MESSAGE",
                    platform::Icon::Stop, "Velmora");
   platform::End();
 }

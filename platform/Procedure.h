@@ -1,57 +1,36 @@
 #pragma once
 
-#include <exception>
-#include <new>
-#include <utility>
-
 #include "platform/Fault.h"
 
-// The guard of a labelled procedure. The one place that tells a fault to the user is prcTellFault.
+// What a fault is told by: the labelled procedure in which it was raised, and its line.
 
-/// Marks the way out of a program that has ended: it passes every guard and stops at the event
+/// Marks the way out of a program that has ended: it unwinds every procedure and stops at the event
 /// dispatcher.
 struct EndOfProgram {};
 
-/// A labelled procedure that is running; they nest as calls do.
-struct Procedure {
-  Procedure();
+/// A labelled procedure that is running, made at its top. A fault that unwinds it is told under its
+/// label and the step reached last, those of the innermost one; helpers without a label leave their
+/// faults to their caller's step.
+class Procedure {
+ public:
+  explicit Procedure(const char* label);
   ~Procedure();
   Procedure(const Procedure&) = delete;
   Procedure& operator=(const Procedure&) = delete;
 
-  int Line = 0;
-  Procedure* Outer;
+  /// The procedure has reached this step; it begins at 1. The line that a fault tells is 10 times
+  /// the step.
+  void Step(int step) const { step_ = step; }
+
+ private:
+  const char* label_;
+  int exceptions_;
+  mutable int step_ = 1;
 };
 
-/// Notes that the innermost labelled procedure has reached this line: 10 for its first step, 20 for
-/// the next.
-void At(int line);
+/// Forgets where the last fault was raised, as must come before anything that may raise the next.
+void prcForgetFault();
 
-/// Shows the failure box for a fault at a line of the procedure called label, and ends the program.
-[[noreturn]] void prcTellFault(const char* label, int line, const Fault& fault);
-
-/// Runs body as the procedure called label. A fault in it is told under this label, and the program
-/// ends.
-template <class Body>
-auto Guarded(const char* label, Body&& body) {
-  int line = 0;
-  Fault fault = faultInternal;
-  try {
-    const Procedure running;
-    try {
-      return std::forward<Body>(body)();
-    } catch (...) {
-      line = running.Line;
-      throw;
-    }
-  } catch (const EndOfProgram&) {
-    throw;
-  } catch (const Fault& raised) {
-    fault = raised;
-  } catch (const std::bad_alloc&) {
-    fault = faultOutOfMemory;
-  } catch (const std::exception&) {
-    fault = faultInternal;
-  }
-  prcTellFault(label, line, fault);
-}
+/// Shows the failure box for a fault, with the label and line that it unwound first, and ends the
+/// program.
+[[noreturn]] void prcTellFault(const Fault& fault);

@@ -1,6 +1,9 @@
 #include "platform/UserInput.h"
 
 #include <algorithm>
+#include <exception>
+#include <new>
+#include <optional>
 
 #include "platform/Chart.h"
 #include "platform/Picking.h"
@@ -85,6 +88,24 @@ Control* fncNextStop(const Window& window, bool blnBackwards) {
   return stops[(place + (blnBackwards ? stops.size() - 1 : 1)) % stops.size()];
 }
 
+/// Runs handlers to their end, or to the fault that ends them, which comes back.
+std::optional<Fault> fncFaultOf(const std::function<void()>& handlers) {
+  prcForgetFault();
+  try {
+    const Procedure running("Velmora");
+    handlers();
+    return std::nullopt;
+  } catch (const EndOfProgram&) {
+    throw;
+  } catch (const Fault& raised) {
+    return raised;
+  } catch (const std::bad_alloc&) {
+    return faultOutOfMemory;
+  } catch (const std::exception&) {
+    return faultInternal;
+  }
+}
+
 void prcClicked(Control& control) {
   prcTurnOver(control);
   if (control.On->Click != nullptr) {
@@ -96,7 +117,9 @@ void prcClicked(Control& control) {
 
 void prcDispatch(const std::function<void()>& handlers) {
   try {
-    Guarded("Velmora", handlers);
+    if (const std::optional<Fault> fault = fncFaultOf(handlers)) {
+      prcTellFault(*fault);
+    }
   } catch (const EndOfProgram&) {
     // The platform has noted the end; its loops stop at their next turn.
     return;

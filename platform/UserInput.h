@@ -11,7 +11,7 @@
 // the box that has the focus in its window is checked, the focus moves if the control takes it, a
 // refusal voids all that would follow, and only then values change and handlers run.
 
-/// Runs one event's handlers. A fault that no procedure has told is told here; the end of the
+/// Runs one event's handlers. A fault is told here, once, and ends the program; the end of the
 /// program stops here.
 void prcDispatch(const std::function<void()>& handlers);
 

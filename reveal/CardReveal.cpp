@@ -52,13 +52,10 @@ void prcShowPair(Integer first, const SideResult& side) {
 
 /// A squeeze by dblPull twips, negative inwards, of a side of the back that is dblWhole long.
 void prcSqueeze(Integer Index, double& dblSide, double dblWhole, double dblPull) {
-  At(10);
   prcAdviseOnce(Index);
-  At(20);
   if (!(dblPull < 0)) {
     return;
   }
-  At(30);
   if (dblWhole + dblPull > 0) {
     dblSide = dblWhole + dblPull;
     // The hand waits in a poll meanwhile: left to the event loop, the card would lag behind.
@@ -66,7 +63,6 @@ void prcSqueeze(Integer Index, double& dblSide, double dblWhole, double dblPull)
     platform::RepaintNow(BaccTable.pctCardBack[Index]);
     return;
   }
-  At(40);
   pctCardBack_Click(Index);
 }
 
@@ -98,51 +94,47 @@ void prcUncover(Integer Index) {
 }
 
 void pctCardBack_Click(Integer Index) {
-  Guarded("Baccarat table pctCardBack_Click", [&] {
-    const Integer shoe = intShoeNumber;
-    At(10);
-    // A strip held beyond the turn of its card goes on pulling, and would show the total of two
-    // cards over that of three.
-    if (!blnCardClickable[Index] || !BaccTable.pctCardBack[Index].Visible) {
-      return;
-    }
-    At(20);
-    const Integer value = fncHandValue(shoe, Index);
-    At(30);
-    BaccTable.lblCardBottom[Index].Visible = false;
-    BaccTable.lblCardRight[Index].Visible = false;
-    At(40);
-    prcShowInnerPatches(BaccTable, value, Index, true);
-    prcShowOuterPatches(BaccTable, value, Index, false);
-    At(50);
-    prcUncover(Index);
-    platform::RepaintNow(BaccTable.pctCardFace[Index]);
-    At(60);
-    if (Index == 0 || Index == 1) {
-      prcShowPair(0, {BaccTable.PTotal, BaccTable.lblNaturalP, intPlayerTotal2[shoe],
-                      blnPlayerNatural[shoe]});
-    }
-    At(70);
-    if (Index == 3 || Index == 4) {
-      prcShowPair(3, {BaccTable.BTotal, BaccTable.lblNaturalB, intBankerTotal2[shoe],
-                      blnBankerNatural[shoe]});
-    }
-    At(80);
-    if (Index == 2) {
-      BaccTable.PTotal.Text = std::to_string(intPlayerTotal[shoe]);
-    }
-    At(90);
-    if (Index == 5) {
-      BaccTable.BTotal.Text = std::to_string(intBankerTotal[shoe]);
-    }
-  });
+  const Procedure running("Baccarat table pctCardBack_Click");
+  const Integer shoe = intShoeNumber;
+  // A strip held beyond the turn of its card goes on pulling, and would show the total of two
+  // cards over that of three.
+  if (!blnCardClickable[Index] || !BaccTable.pctCardBack[Index].Visible) {
+    return;
+  }
+  running.Step(2);
+  const Integer value = fncHandValue(shoe, Index);
+  running.Step(3);
+  BaccTable.lblCardBottom[Index].Visible = false;
+  BaccTable.lblCardRight[Index].Visible = false;
+  running.Step(4);
+  prcShowInnerPatches(BaccTable, value, Index, true);
+  prcShowOuterPatches(BaccTable, value, Index, false);
+  running.Step(5);
+  prcUncover(Index);
+  platform::RepaintNow(BaccTable.pctCardFace[Index]);
+  running.Step(6);
+  if (Index == 0 || Index == 1) {
+    prcShowPair(0, {BaccTable.PTotal, BaccTable.lblNaturalP, intPlayerTotal2[shoe],
+                    blnPlayerNatural[shoe]});
+  }
+  running.Step(7);
+  if (Index == 3 || Index == 4) {
+    prcShowPair(3, {BaccTable.BTotal, BaccTable.lblNaturalB, intBankerTotal2[shoe],
+                    blnBankerNatural[shoe]});
+  }
+  running.Step(8);
+  if (Index == 2) {
+    BaccTable.PTotal.Text = std::to_string(intPlayerTotal[shoe]);
+  }
+  running.Step(9);
+  if (Index == 5) {
+    BaccTable.BTotal.Text = std::to_string(intBankerTotal[shoe]);
+  }
 }
 
 void pctCardBack_MouseMove(Integer Index) {
-  Guarded("Baccarat table pctCardBack_MouseMove", [&] {
-    At(10);
-    prcAdviseOnce(Index);
-  });
+  const Procedure running("Baccarat table pctCardBack_MouseMove");
+  prcAdviseOnce(Index);
 }
 
 void prcAdviseChosen(Integer Index) {
@@ -152,15 +144,13 @@ void prcAdviseChosen(Integer Index) {
 }
 
 void lblCardBottom_MouseMove(Integer Index, float Y) {
-  Guarded("Baccarat table lblCardBottom_MouseMove", [&] {
-    prcSqueeze(Index, BaccTable.pctCardBack[Index].Height, BaccTable.intCardHeight, Y);
-  });
+  const Procedure running("Baccarat table lblCardBottom_MouseMove");
+  prcSqueeze(Index, BaccTable.pctCardBack[Index].Height, BaccTable.intCardHeight, Y);
 }
 
 void lblCardRight_MouseMove(Integer Index, float X) {
-  Guarded("Baccarat table lblCardRight_MouseMove", [&] {
-    prcSqueeze(Index, BaccTable.pctCardBack[Index].Width, BaccTable.intCardWidth, X);
-  });
+  const Procedure running("Baccarat table lblCardRight_MouseMove");
+  prcSqueeze(Index, BaccTable.pctCardBack[Index].Width, BaccTable.intCardWidth, X);
 }
 
 void lblCardBottom_MouseUp(Integer Index) {
@@ -172,26 +162,20 @@ void lblCardRight_MouseUp(Integer Index) {
 }
 
 void BaccTable_MouseMove() {
-  Guarded("Baccarat table Form_MouseMove", [] {
-    At(10);
-    if (BaccTable.blnCardNeedShown) {
-      BaccTable.blnCardNeedShown = false;
-      BaccTable.lblCardNeedP.Visible = false;
-      BaccTable.lblCardNeedB.Visible = false;
-    }
-  });
+  const Procedure running("Baccarat table Form_MouseMove");
+  if (BaccTable.blnCardNeedShown) {
+    BaccTable.blnCardNeedShown = false;
+    BaccTable.lblCardNeedP.Visible = false;
+    BaccTable.lblCardNeedB.Visible = false;
+  }
 }
 
 void prcLoadHands() {
-  Guarded("ZNEW prcLoadHands", [] {
-    At(10);
-    prcSetPointers(Pointer::HandUp, Pointer::HandRight);
-  });
+  const Procedure running("ZNEW prcLoadHands");
+  prcSetPointers(Pointer::HandUp, Pointer::HandRight);
 }
 
 void prcLoadArrows() {
-  Guarded("ZNEW prcLoadArrows", [] {
-    At(10);
-    prcSetPointers(Pointer::SizeUpDown, Pointer::SizeLeftRight);
-  });
+  const Procedure running("ZNEW prcLoadArrows");
+  prcSetPointers(Pointer::SizeUpDown, Pointer::SizeLeftRight);
 }

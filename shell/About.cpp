@@ -41,15 +41,13 @@ void prcLayOutAbout() {
 }
 
 void Form_Load(Window& form) {
-  Guarded("KasSitas_Form_Load", [&] {
-    prcLayOutAbout();
-    At(10);
-    KasSitas.lblVersion.Text = "Version  " + std::to_string(intVersionMajor) + " . " +
-                               std::to_string(intVersionMinor) + " . " +
-                               std::to_string(intVersionRevision);
-    At(20);
-    form.Caption = "About Velmora";
-  });
+  const Procedure running("KasSitas_Form_Load");
+  prcLayOutAbout();
+  KasSitas.lblVersion.Text = "Version  " + std::to_string(intVersionMajor) + " . " +
+                             std::to_string(intVersionMinor) + " . " +
+                             std::to_string(intVersionRevision);
+  running.Step(2);
+  form.Caption = "About Velmora";
 }
 
 constexpr WindowEvents evtAbout{.Load = Form_Load};

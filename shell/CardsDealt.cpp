@@ -80,12 +80,10 @@ void prcEmpty(Control& list) {
 
 void chkOnTop_Click(Control& box) {
   const ListWindow& window = fncListWindow(*box.Form);
-  Guarded(window.ClickLabel, [&] {
-    At(10);
-    window.Form.Topmost = window.OnTop.Value == 1;
-    At(20);
-    prcWritePrivateProfileString("Misc", window.OnTopKey, window.Form.Topmost ? "1" : "0");
-  });
+  const Procedure running(window.ClickLabel);
+  window.Form.Topmost = window.OnTop.Value == 1;
+  running.Step(2);
+  prcWritePrivateProfileString("Misc", window.OnTopKey, window.Form.Topmost ? "1" : "0");
 }
 
 constexpr ControlEvents evtOnTop{.Click = chkOnTop_Click};
@@ -123,41 +121,37 @@ void prcLayOutCount() {
 
 void Form_Load(Window& form) {
   const ListWindow& window = fncListWindow(form);
-  Guarded(window.LoadLabel, [&] {
-    At(10);
-    window.LayOut();
-    prcEmpty(window.List);
-    At(20);
-    prcReadPlace(form, window.Section);
-    At(30);
-    form.Topmost = false;
-    if (fncGetPrivateProfileString("Misc", window.OnTopKey) == "1") {
-      prcSetValue(window.OnTop, 1);
-    }
-  });
+  const Procedure running(window.LoadLabel);
+  window.LayOut();
+  prcEmpty(window.List);
+  running.Step(2);
+  prcReadPlace(form, window.Section);
+  running.Step(3);
+  form.Topmost = false;
+  if (fncGetPrivateProfileString("Misc", window.OnTopKey) == "1") {
+    prcSetValue(window.OnTop, 1);
+  }
 }
 
 /// The switch goes off with its window, wherever the closing comes from.
 void Form_Unload(Window& form, bool& blnCancel) {
   const ListWindow& window = fncListWindow(form);
-  Guarded(window.UnloadLabel, [&] {
-    At(10);
-    window.Entry.Value = 0;
-    At(20);
-    prcSetButton(window.Button, 0);
-    At(30);
-    prcWriteSwitch("Card Options", window.SwitchKey, false);
-    At(40);
-    prcWritePlace(form, window.Section);
-    At(50);
-    if (&window == &wndCount) {
-      blnShowCardsDealtCount = false;
-      return;
-    }
-    // The rows of the shoe live in the list alone: the window only goes out of sight.
-    form.Visible = false;
-    blnCancel = true;
-  });
+  const Procedure running(window.UnloadLabel);
+  window.Entry.Value = 0;
+  running.Step(2);
+  prcSetButton(window.Button, 0);
+  running.Step(3);
+  prcWriteSwitch("Card Options", window.SwitchKey, false);
+  running.Step(4);
+  prcWritePlace(form, window.Section);
+  running.Step(5);
+  if (&window == &wndCount) {
+    blnShowCardsDealtCount = false;
+    return;
+  }
+  // The rows of the shoe live in the list alone: the window only goes out of sight.
+  form.Visible = false;
+  blnCancel = true;
 }
 
 constexpr WindowEvents evtList{.Load = Form_Load, .Unload = Form_Unload};
@@ -187,17 +181,15 @@ void prcPrepareFloat(Window& form, const char* name, const char* caption, double
 }  // namespace
 
 void LoadlstCardsDealtCount() {
-  Guarded("LoadlstCardsDealtCount", [] {
-    At(10);
-    prcLoad(frmCardsDealtCount.Form);
-    prcEmpty(frmCardsDealtCount.lstCardsDealtCount);
-    At(20);
-    for (const CardsDealtRow& counts : varCardsDealtCount) {
-      frmCardsDealtCount.lstCardsDealtCount.List.push_back(fncCountRow(counts));
-    }
-    At(30);
-    frmCardsDealtCount.Form.Visible = true;
-  });
+  const Procedure running("LoadlstCardsDealtCount");
+  prcLoad(frmCardsDealtCount.Form);
+  prcEmpty(frmCardsDealtCount.lstCardsDealtCount);
+  running.Step(2);
+  for (const CardsDealtRow& counts : varCardsDealtCount) {
+    frmCardsDealtCount.lstCardsDealtCount.List.push_back(fncCountRow(counts));
+  }
+  running.Step(3);
+  frmCardsDealtCount.Form.Visible = true;
 }
 
 void prcClearCardsDealt() {

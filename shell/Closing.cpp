@@ -39,19 +39,17 @@ void prcCloseFloats() {
 }  // namespace
 
 void MDIForm1_Unload() {
-  Guarded("MDIForm1_Unload", [] {
-    At(10);
-    prcWriteSetting("MDIForm1", "Top", MDIForm1.Form.Top);
-    prcWriteSetting("MDIForm1", "Left", MDIForm1.Form.Left);
-    prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
-    prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
-    At(20);
-    prcCloseFloats();
-    fncUnload(BaccTable.Form);
-    prcCloseMarkCards();
-    // The frame's own unload is what runs here.
-    prcForgetWindow(MDIForm1.Form);
-    At(30);
-    platform::End();
-  });
+  const Procedure running("MDIForm1_Unload");
+  prcWriteSetting("MDIForm1", "Top", MDIForm1.Form.Top);
+  prcWriteSetting("MDIForm1", "Left", MDIForm1.Form.Left);
+  prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
+  prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
+  running.Step(2);
+  prcCloseFloats();
+  fncUnload(BaccTable.Form);
+  prcCloseMarkCards();
+  // The frame's own unload is what runs here.
+  prcForgetWindow(MDIForm1.Form);
+  running.Step(3);
+  platform::End();
 }

@@ -8,35 +8,29 @@
 #include "shell/frmSelectaShoe.h"
 
 void prcStatistics() {
-  Guarded("MDIForm1_prcStatistics", [] {
-    At(10);
-    prcInvert(MDIForm1.mnuStatistics);
-    At(20);
-    if (MDIForm1.mnuStatistics.Value == 1) {
-      prcShowModal(frmStatistics.Form);
-    } else {
-      frmStatistics.Form.Visible = false;
-    }
-  });
+  const Procedure running("MDIForm1_prcStatistics");
+  prcInvert(MDIForm1.mnuStatistics);
+  running.Step(2);
+  if (MDIForm1.mnuStatistics.Value == 1) {
+    prcShowModal(frmStatistics.Form);
+  } else {
+    frmStatistics.Form.Visible = false;
+  }
 }
 
 void prcSelectaShoe() {
-  Guarded("MDIForm1_prcSelectaShoe", [] {
-    At(10);
-    prcLoad(frmSelectaShoe.Form);
-    frmSelectaShoe.Form.Visible = !frmSelectaShoe.Form.Visible;
-  });
+  const Procedure running("MDIForm1_prcSelectaShoe");
+  prcLoad(frmSelectaShoe.Form);
+  frmSelectaShoe.Form.Visible = !frmSelectaShoe.Form.Visible;
 }
 
 void prcOptions() {
-  Guarded("MDIForm1_prcOptions", [] {
-    At(10);
-    prcInvert(MDIForm1.mnuOptions);
-    At(20);
-    if (MDIForm1.mnuOptions.Value == 1) {
-      prcShowModal(frmKaNori.Form);
-    } else {
-      frmKaNori.Form.Visible = false;
-    }
-  });
+  const Procedure running("MDIForm1_prcOptions");
+  prcInvert(MDIForm1.mnuOptions);
+  running.Step(2);
+  if (MDIForm1.mnuOptions.Value == 1) {
+    prcShowModal(frmKaNori.Form);
+  } else {
+    frmKaNori.Form.Visible = false;
+  }
 }

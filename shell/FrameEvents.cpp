@@ -23,14 +23,12 @@ constexpr double dblCardMargin = 500;
 constexpr double dblCardShift = 150;
 
 void Timer1_Timer(Control& timer) {
-  Guarded("MDIForm1_Timer1_Timer", [&] {
-    At(10);
-    timer.Enabled = false;
-    At(20);
-    prcMarkShoeSize();
-    At(30);
-    prcUseArrows(fncSwitchedOn("Reveal", "Arrows"));
-  });
+  const Procedure running("MDIForm1_Timer1_Timer");
+  timer.Enabled = false;
+  running.Step(2);
+  prcMarkShoeSize();
+  running.Step(3);
+  prcUseArrows(fncSwitchedOn("Reveal", "Arrows"));
 }
 
 constexpr ControlEvents evtTimer{.Timer = Timer1_Timer};
@@ -47,41 +45,37 @@ void prcLayOutFrame() {
 }
 
 void MDIForm1_Load(Window& form) {
-  Guarded("MDIForm1_Load", [&] {
-    prcLayOutFrame();
-    At(10);
-    strHelpFile = fncHelpFilePath();
-    At(20);
-    prcUseToolbar(fncSwitchedOn("Options", "Large Buttons"));
-    At(30);
-    form.Maximised = true;
-    form.Width = platform::ScreenWidth();
-    form.Height = platform::ScreenHeight();
-    At(40);
-    form.Picture = picTile;
-    form.PictureTiled = true;
-    At(50);
-    prcSetMenusAndButtons();
-    At(60);
-    prcShow(BaccTable.Form);
-    At(70);
-    fncUnload(Plauk.Form);
-  });
+  const Procedure running("MDIForm1_Load");
+  prcLayOutFrame();
+  strHelpFile = fncHelpFilePath();
+  running.Step(2);
+  prcUseToolbar(fncSwitchedOn("Options", "Large Buttons"));
+  running.Step(3);
+  form.Maximised = true;
+  form.Width = platform::ScreenWidth();
+  form.Height = platform::ScreenHeight();
+  running.Step(4);
+  form.Picture = picTile;
+  form.PictureTiled = true;
+  running.Step(5);
+  prcSetMenusAndButtons();
+  running.Step(6);
+  prcShow(BaccTable.Form);
+  running.Step(7);
+  fncUnload(Plauk.Form);
 }
 
 void MDIForm_Resize(Window& form) {
-  Guarded("MDIForm_Resize", [&] {
-    At(10);
-    if (blnTableLoaded) {
-      BaccTable.Form.Left = (form.Width - BaccTable.Form.Width) / 2;
-    }
-    At(20);
-    MarkCardWindow* card = blnMarkCardLoaded ? fncMarkCard(intShoeNumber) : nullptr;
-    if (card != nullptr) {
-      card->Form.Width = form.Width - dblCardMargin;
-      card->Form.Left = (form.Width - card->Form.Width) / 2 - dblCardShift;
-    }
-  });
+  const Procedure running("MDIForm_Resize");
+  if (blnTableLoaded) {
+    BaccTable.Form.Left = (form.Width - BaccTable.Form.Width) / 2;
+  }
+  running.Step(2);
+  MarkCardWindow* card = blnMarkCardLoaded ? fncMarkCard(intShoeNumber) : nullptr;
+  if (card != nullptr) {
+    card->Form.Width = form.Width - dblCardMargin;
+    card->Form.Left = (form.Width - card->Form.Width) / 2 - dblCardShift;
+  }
 }
 
 constexpr WindowEvents evtFrame{.Load = MDIForm1_Load,

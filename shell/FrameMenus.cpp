@@ -23,22 +23,16 @@ namespace {
 constexpr int intContentsAndIndex = 0;
 
 void mnuLargeButtons_Click(Control& entry) {
-  At(10);
   prcInvert(entry);
   const bool blnLarge = entry.Value == 1;
-  At(20);
   prcWriteSwitch("Options", "Large Buttons", blnLarge);
-  At(30);
   prcUseToolbar(blnLarge);
-  At(40);
   prcSetMenusAndButtons();
 }
 
 void mnuStatistics_Click(Control&) {
-  At(10);
   // The routine comes back only when the dialog has closed, and the closing sets the button up.
   prcMoveButton("Statistics");
-  At(20);
   prcStatistics();
 }
 
@@ -133,10 +127,8 @@ void prcEntryClick(Control& entry) {
   const auto* const row =
       std::ranges::find_if(menuRows, [&](const MenuRow& other) { return &other.Entry == &entry; });
   const std::string label = std::string("MDIForm1_") + entry.Name + "_Click";
-  Guarded(label.c_str(), [&] {
-    At(10);
-    row->Click(entry);
-  });
+  const Procedure running(label.c_str());
+  row->Click(entry);
 }
 
 constexpr ControlEvents evtEntry{.Click = prcEntryClick};

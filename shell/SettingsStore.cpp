@@ -78,15 +78,13 @@ void prcWriteTogether(const std::function<void()>& work) {
 }
 
 std::string fncGetPrivateProfileString(const std::string& strSection, const std::string& strKey) {
-  return Guarded("ZNEW fncGetPrivateProfileString", [&] {
-    At(10);
-    const auto waiting = fncWaiting(strSection, strKey);
-    const std::string value =
-        waiting != keyWaiting.end()
-            ? waiting->Value.substr(waiting->Value.starts_with(' ') ? 1 : 0)  // A number's blank.
-            : fncReadProfile(strIniFile, strSection, strKey, "No", strFirstSettings);
-    return value.substr(0, intLongestValue);
-  });
+  const Procedure running("ZNEW fncGetPrivateProfileString");
+  const auto waiting = fncWaiting(strSection, strKey);
+  const std::string value =
+      waiting != keyWaiting.end()
+          ? waiting->Value.substr(waiting->Value.starts_with(' ') ? 1 : 0)  // A number's blank.
+          : fncReadProfile(strIniFile, strSection, strKey, "No", strFirstSettings);
+  return value.substr(0, intLongestValue);
 }
 
 void prcWritePrivateProfileString(const std::string& strSection, const std::string& strKey,

@@ -37,64 +37,54 @@ bool fncChangeWanted() {
 }
 
 void prcDecks(Integer decks, Control& button) {
-  Guarded("MDIForm1_prcDecks", [&] {
-    At(10);
-    intDecks[intShoeNumber] = decks;
-    At(20);
-    for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
-      MDIForm1.mnuShoeSizeDecks[i].Value =
-          intShoeSizes[static_cast<std::size_t>(i)] == decks ? 1 : 0;
-    }
-    At(30);
-    prcWriteSetting("Shoe Size", "Decks", decks);
-    At(40);
-    prcSetButton(button, 1);
-    tlbrDecksButton = &button;
-  });
+  const Procedure running("MDIForm1_prcDecks");
+  intDecks[intShoeNumber] = decks;
+  running.Step(2);
+  for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
+    MDIForm1.mnuShoeSizeDecks[i].Value = intShoeSizes[static_cast<std::size_t>(i)] == decks ? 1 : 0;
+  }
+  running.Step(3);
+  prcWriteSetting("Shoe Size", "Decks", decks);
+  running.Step(4);
+  prcSetButton(button, 1);
+  tlbrDecksButton = &button;
 }
 
 void prcDecksButtonWarning(Integer decks, Control& button) {
-  Guarded("MDIForm1_prcDecksButtonWarning", [&] {
-    At(10);
-    if (fncChangeWanted()) {
-      At(20);
-      prcDecks(decks, button);
-      return;
-    }
-    At(30);
-    // Last comes the press, so that a click on the size in force leaves it down.
-    prcSetButton(button, 0);
-    if (tlbrDecksButton != nullptr) {
-      prcSetButton(*tlbrDecksButton, 1);
-    }
-  });
+  const Procedure running("MDIForm1_prcDecksButtonWarning");
+  if (fncChangeWanted()) {
+    running.Step(2);
+    prcDecks(decks, button);
+    return;
+  }
+  running.Step(3);
+  // Last comes the press, so that a click on the size in force leaves it down.
+  prcSetButton(button, 0);
+  if (tlbrDecksButton != nullptr) {
+    prcSetButton(*tlbrDecksButton, 1);
+  }
 }
 
 void prcSizeButton(int decks) { prcDecksButtonWarning(decks, fncSizeButton(decks)); }
 
 void mnuShoeSizeDecks_Click(Control& entry) {
   if (fncChangeWanted()) {
-    At(20);
     const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));
     prcDecks(decks, fncSizeButton(decks));
   }
 }
 
 void prcReadShoeSize() {
-  At(20);
   for (Integer& decks : intDecks) {
     decks = fncStoredDecks();
   }
-  At(30);
   for (Control& entry : MDIForm1.mnuShoeSizeDecks) {
     entry.Value = 0;
   }
-  At(40);
   Integer& decks = intDecks[intShoeNumber];
   if (decks < intShoeSizes.front() || decks > intShoeSizes.back()) {
     decks = intShoeSizes.back();
   }
-  At(50);
   tlbrDecksButton = nullptr;
   prcMarkShoeSize();
 }

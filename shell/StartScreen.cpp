@@ -123,49 +123,45 @@ void prcPlacePoints() {
 }
 
 void Form_Load(Window& form) {
-  Guarded("Plauk_Form_Load", [&] {
-    prcLayOutPlauk();
-    At(10);
-    prcFixPaths();
-    At(20);
-    Plauk.lblVersion.Text =
-        "Version " + std::to_string(intVersionMajor) + "." + std::to_string(intVersionMinor);
-    At(30);
-    form.Caption = "Welcome to Velmora";
-    At(40);
-    prcPlacePoints();
-    At(50);
-    if (fncGetPrivateProfileString("Misc", "Nerodik") == "1") {
-      prcShowFrame();
-      return;
-    }
-    At(60);
-    Plauk.Nerodik.Visible = true;
-    form.Visible = true;
-    fncSetFocus(Plauk.cmdStart);
-  });
+  const Procedure running("Plauk_Form_Load");
+  prcLayOutPlauk();
+  prcFixPaths();
+  running.Step(2);
+  Plauk.lblVersion.Text =
+      "Version " + std::to_string(intVersionMajor) + "." + std::to_string(intVersionMinor);
+  running.Step(3);
+  form.Caption = "Welcome to Velmora";
+  running.Step(4);
+  prcPlacePoints();
+  running.Step(5);
+  if (fncGetPrivateProfileString("Misc", "Nerodik") == "1") {
+    prcShowFrame();
+    return;
+  }
+  running.Step(6);
+  Plauk.Nerodik.Visible = true;
+  form.Visible = true;
+  fncSetFocus(Plauk.cmdStart);
 }
 
 void Form_KeyPress(Window&, char chrKey) {
-  Guarded("Plauk_Form_KeyPress", [&] {
-    At(10);
-    switch (chrKey) {
-      case 'S':
-      case 's':
-        prcShowFrame();
-        break;
-      case 'H':
-      case 'h':
-        prcShowHelp();
-        break;
-      case 'E':
-      case 'e':
-        prcLeave();
-        break;
-      default:
-        break;
-    }
-  });
+  const Procedure running("Plauk_Form_KeyPress");
+  switch (chrKey) {
+    case 'S':
+    case 's':
+      prcShowFrame();
+      break;
+    case 'H':
+    case 'h':
+      prcShowHelp();
+      break;
+    case 'E':
+    case 'e':
+      prcLeave();
+      break;
+    default:
+      break;
+  }
 }
 
 void Form_CloseAsked(Window&) { prcLeave(); }

@@ -107,25 +107,23 @@ constexpr std::array switches{
 void prcTurn(Control& entry, const char* label) {
   const auto* const row =
       std::ranges::find_if(switches, [&](const Switch& other) { return &other.Entry == &entry; });
-  Guarded(label, [&] {
-    if (!row->blnWarns || fncChangeWanted()) {
-      At(10);
-      prcInvert(entry);
-      const bool blnOn = entry.Value == 1;
-      At(20);
-      prcWriteSwitch(row->Section, row->Key, blnOn);
-      At(30);
-      if (row->Flag != nullptr) {
-        *row->Flag = !*row->Flag;
-      }
-      At(40);
-      if (row->Effect != nullptr) {
-        row->Effect(blnOn);
-      }
+  const Procedure running(label);
+  if (!row->blnWarns || fncChangeWanted()) {
+    prcInvert(entry);
+    const bool blnOn = entry.Value == 1;
+    running.Step(2);
+    prcWriteSwitch(row->Section, row->Key, blnOn);
+    running.Step(3);
+    if (row->Flag != nullptr) {
+      *row->Flag = !*row->Flag;
     }
-    At(50);
-    prcSetButton(row->Button, entry.Value == 1 ? 1 : 0);
-  });
+    running.Step(4);
+    if (row->Effect != nullptr) {
+      row->Effect(blnOn);
+    }
+  }
+  running.Step(5);
+  prcSetButton(row->Button, entry.Value == 1 ? 1 : 0);
 }
 
 void prcReadSwitches(Turn turn) {
@@ -163,36 +161,32 @@ void prcDelay() { prcTurn(MDIForm1.mnuDealDelay, "MDIForm1_prcDelay"); }
 void prcAnimation() { prcTurn(MDIForm1.mnuDealAnimation, "MDIForm1_prcAnimation"); }
 
 void prcSetMenusAndButtons() {
-  Guarded("MDIForm1_prcSetMenusAndButtons", [] {
-    At(10);
-    prcReadSwitches(Turn::First);
-    prcReadShoeSize();
-    At(60);
-    prcReadSwitches(Turn::Last);
-    At(70);
-    prcSetButton("Statistics", MDIForm1.mnuStatistics.Value == 1 ? 1 : 0);
-    At(80);
-    prcHideButton("SelectaShoe");
-    prcHideButton("Options");
-    At(90);
-    MDIForm1.mnuOptions.Enabled = MDIForm1.mnuOptions.Visible = false;
-    MDIForm1.mnuSep6.Visible = false;
-    At(100);
-    MDIForm1.Timer1.Enabled = true;
-  });
+  const Procedure running("MDIForm1_prcSetMenusAndButtons");
+  prcReadSwitches(Turn::First);
+  prcReadShoeSize();
+  running.Step(2);
+  prcReadSwitches(Turn::Last);
+  running.Step(3);
+  prcSetButton("Statistics", MDIForm1.mnuStatistics.Value == 1 ? 1 : 0);
+  running.Step(4);
+  prcHideButton("SelectaShoe");
+  prcHideButton("Options");
+  running.Step(5);
+  MDIForm1.mnuOptions.Enabled = MDIForm1.mnuOptions.Visible = false;
+  MDIForm1.mnuSep6.Visible = false;
+  running.Step(6);
+  MDIForm1.Timer1.Enabled = true;
 }
 
 void prcSetRevealIcons() {
-  Guarded("MDIForm1_prcSetRevealIcons", [] {
-    At(10);
-    prcInvert(MDIForm1.mnuArrows);
-    prcInvert(MDIForm1.mnuHands);
-    At(20);
-    const bool blnArrows = MDIForm1.mnuArrows.Value == 1;
-    prcWriteSwitch("Reveal", "Arrows", blnArrows);
-    At(30);
-    prcUseArrows(blnArrows);
-  });
+  const Procedure running("MDIForm1_prcSetRevealIcons");
+  prcInvert(MDIForm1.mnuArrows);
+  prcInvert(MDIForm1.mnuHands);
+  running.Step(2);
+  const bool blnArrows = MDIForm1.mnuArrows.Value == 1;
+  prcWriteSwitch("Reveal", "Arrows", blnArrows);
+  running.Step(3);
+  prcUseArrows(blnArrows);
 }
 
 void prcUseArrows(bool blnArrows) {

@@ -84,10 +84,8 @@ const ToolRow& fncRow(const std::string& key) {
 }
 
 void tlbrMDIForm1_ButtonClick(Control& button) {
-  Guarded("MDIForm1_tlbrMDIForm1_ButtonClick", [&] {
-    At(10);
-    fncRow(button.Name).Routine();
-  });
+  const Procedure running("MDIForm1_tlbrMDIForm1_ButtonClick");
+  fncRow(button.Name).Routine();
 }
 
 void tlbrMDIForm2_ButtonClick(Control& button) { tlbrMDIForm1_ButtonClick(button); }

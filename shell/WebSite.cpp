@@ -27,18 +27,16 @@ constexpr int intLastFailure = 32;
 }  // namespace
 
 void DisplayURL(const std::string& strURL, const std::string& varTitle) {
-  Guarded("DisplayURL", [&] {
-    At(20);
-    const int code = platform::OpenAddress(strURL);
-    At(30);
-    if (code > intLastFailure) {
-      return;
-    }
-    const auto* const known = std::ranges::find(browserFailures, code, &BrowserFailure::Code);
-    platform::MsgBox(
-        known != browserFailures.end()
-            ? known->Message
-            : "Error attempting to start web browser.  Return Code: " + std::to_string(code),
-        platform::Icon::None, varTitle);
-  });
+  const Procedure running("DisplayURL");
+  const int code = platform::OpenAddress(strURL);
+  running.Step(2);
+  if (code > intLastFailure) {
+    return;
+  }
+  const auto* const known = std::ranges::find(browserFailures, code, &BrowserFailure::Code);
+  platform::MsgBox(
+      known != browserFailures.end()
+          ? known->Message
+          : "Error attempting to start web browser.  Return Code: " + std::to_string(code),
+      platform::Icon::None, varTitle);
 }

@@ -139,70 +139,66 @@ void prcTieEvents() {
 }
 
 void Form_Load(Window&) {
-  Guarded("Baccarat table Form_Load", [] {
-    At(10);
-    prcLayOutBaccTable();
-    prcTieEvents();
-    prcApplyPlace();
-    At(20);
-    BaccTable.intCardHeight = fncInteger(BaccTable.pctCardBack[0].Height);
-    BaccTable.intCardWidth = fncInteger(BaccTable.pctCardBack[0].Width);
-    At(30);
-    blnEndOfShoe.fill(true);
-    At(40);
-    for (int i = 0; i < intSeats; ++i) {
-      for (const BetSide side : betSides) {
-        fncBet(side, i).Box.Text = "0";
-      }
+  const Procedure running("Baccarat table Form_Load");
+  prcLayOutBaccTable();
+  prcTieEvents();
+  prcApplyPlace();
+  running.Step(2);
+  BaccTable.intCardHeight = fncInteger(BaccTable.pctCardBack[0].Height);
+  BaccTable.intCardWidth = fncInteger(BaccTable.pctCardBack[0].Width);
+  running.Step(3);
+  blnEndOfShoe.fill(true);
+  running.Step(4);
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      fncBet(side, i).Box.Text = "0";
     }
-    At(50);
-    for (Control& back : BaccTable.pctCardBack) {
-      back.Picture = picCardBack;
-    }
-    At(60);
-    for (int i = 0; i < intSeats; ++i) {
-      prcLoadSeat(i);
-    }
-    At(70);
-    BaccTable.maisyk.Text = "Shuffle";
-    At(80);
-    if (fncEqualNoCase(fncGetPrivateProfileString("File", "Learn"), "True")) {
-      prcShowLearnPanels(true);
-    }
-    At(90);
-    BaccTable.txtUnitValue.Text = fncPlainNumberText(fncGetSetting("Misc", "UnitValue"));
-    At(100);
-    blnTableLoaded = true;
-    At(110);
-    for (int i = 0; i < intShoes; ++i) {
-      intMarkCardShoe[i] = i;
-    }
-    At(120);
-    NewCardViewForm(0, 0);
-    At(130);
-    BaccTable.maisyk.Visible = true;
-    At(140);
-    for (int i = 0; i < BaccTable.duokkortos.size(); ++i) {
-      BaccTable.duokkortos[i].Text = strDealCaptions.at(static_cast<std::size_t>(i));
-    }
-    At(150);
-    blnShoePlayerBlue.fill(blnPlayerBlue);
-  });
+  }
+  running.Step(5);
+  for (Control& back : BaccTable.pctCardBack) {
+    back.Picture = picCardBack;
+  }
+  running.Step(6);
+  for (int i = 0; i < intSeats; ++i) {
+    prcLoadSeat(i);
+  }
+  running.Step(7);
+  BaccTable.maisyk.Text = "Shuffle";
+  running.Step(8);
+  if (fncEqualNoCase(fncGetPrivateProfileString("File", "Learn"), "True")) {
+    prcShowLearnPanels(true);
+  }
+  running.Step(9);
+  BaccTable.txtUnitValue.Text = fncPlainNumberText(fncGetSetting("Misc", "UnitValue"));
+  running.Step(10);
+  blnTableLoaded = true;
+  running.Step(11);
+  for (int i = 0; i < intShoes; ++i) {
+    intMarkCardShoe[i] = i;
+  }
+  running.Step(12);
+  NewCardViewForm(0, 0);
+  running.Step(13);
+  BaccTable.maisyk.Visible = true;
+  running.Step(14);
+  for (int i = 0; i < BaccTable.duokkortos.size(); ++i) {
+    BaccTable.duokkortos[i].Text = strDealCaptions.at(static_cast<std::size_t>(i));
+  }
+  running.Step(15);
+  blnShoePlayerBlue.fill(blnPlayerBlue);
 }
 
 void Form_Unload(Window& form, bool& /*blnCancel*/) {
-  Guarded("Baccarat table Form_Unload", [&] {
-    At(10);
-    prcWriteSetting(strSection, "Top", form.Top);
-    prcWriteSetting(strSection, "Left", form.Left);
-    prcWriteSetting(strSection, "Height", form.Height);
-    prcWriteSetting(strSection, "Width", form.Width);
-    At(20);
-    // A shuffle that outlives the window tests this bound on every pass, and ends.
-    intLastCard[intShoeNumber] = 0;
-    At(30);
-    prcReturnBets();
-  });
+  const Procedure running("Baccarat table Form_Unload");
+  prcWriteSetting(strSection, "Top", form.Top);
+  prcWriteSetting(strSection, "Left", form.Left);
+  prcWriteSetting(strSection, "Height", form.Height);
+  prcWriteSetting(strSection, "Width", form.Width);
+  running.Step(2);
+  // A shuffle that outlives the window tests this bound on every pass, and ends.
+  intLastCard[intShoeNumber] = 0;
+  running.Step(3);
+  prcReturnBets();
 }
 
 /// The table asked to close on its own, not by the frame: in the middle of a hand or shuffle it

@@ -26,12 +26,10 @@ bool fncMayDeal() {
   if (blnEndOfShoe[intShoeNumber] && blnShuffled[intShoeNumber]) {
     return false;  // An ended shoe deals nothing, and its last hand must not be settled again.
   }
-  At(10);
   if (!blnShuffled[intShoeNumber]) {
     platform::MsgBox("Shoe is not yet shuffled", platform::Icon::Stop, "Velmora");
     return false;
   }
-  At(20);
   for (int i = 0; i < intSeats; ++i) {
     if (fncBetStands(betBanker, i) && fncBetStands(betPlayer, i)) {
       platform::MsgBox("Player " + std::to_string(i + 1) + "must bet only on Banker OR Player",
@@ -149,43 +147,42 @@ void prcOpenRun() {
 }  // namespace
 
 void duokkortos_Click(Integer Index) {
-  Guarded("Baccarat table duokkortos_Click", [&] {
-    if (!fncMayDeal()) {
-      return;
-    }
-    At(30);
-    prcOpenRun();
-    At(40);
-    intHandsAtaTime = fncHandsAsked(Index);
-    At(50);
-    if (intHandsAtaTime == 1) {
-      prcShowCardAreas();
-    }
-    At(60);
-    prcLockTable();
-    At(70);
-    if (intHandsAtaTime > 1 || blnCardFaceUp) {
-      prcHideLearnPanels();
-    }
-    At(80);
-    const Integer dealt = fncDealHands();
-    At(90);
-    prcCloseRun(dealt);
-    At(100);
-    prcReopenAfterMany();
-    At(110);
-    BaccTable.mskHandsAtaTime.Text = "1";
-    At(120);
-    if (blnLastHand[intShoeNumber]) {
-      BaccTable.FormLastHand.Visible = true;
-    }
-    At(130);
-    if (blnEndOfShoe[intShoeNumber]) {
-      prcEndOfShoe();
-    }
-    At(140);
-    if (MDIForm1.mnuStatistics.Value == 1) {
-      prcStatisticsRefresh();
-    }
-  });
+  const Procedure running("Baccarat table duokkortos_Click");
+  if (!fncMayDeal()) {
+    return;
+  }
+  running.Step(3);
+  prcOpenRun();
+  running.Step(4);
+  intHandsAtaTime = fncHandsAsked(Index);
+  running.Step(5);
+  if (intHandsAtaTime == 1) {
+    prcShowCardAreas();
+  }
+  running.Step(6);
+  prcLockTable();
+  running.Step(7);
+  if (intHandsAtaTime > 1 || blnCardFaceUp) {
+    prcHideLearnPanels();
+  }
+  running.Step(8);
+  const Integer dealt = fncDealHands();
+  running.Step(9);
+  prcCloseRun(dealt);
+  running.Step(10);
+  prcReopenAfterMany();
+  running.Step(11);
+  BaccTable.mskHandsAtaTime.Text = "1";
+  running.Step(12);
+  if (blnLastHand[intShoeNumber]) {
+    BaccTable.FormLastHand.Visible = true;
+  }
+  running.Step(13);
+  if (blnEndOfShoe[intShoeNumber]) {
+    prcEndOfShoe();
+  }
+  running.Step(14);
+  if (MDIForm1.mnuStatistics.Value == 1) {
+    prcStatisticsRefresh();
+  }
 }

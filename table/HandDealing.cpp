@@ -100,36 +100,34 @@ const char* fncResult(Integer player, Integer banker) {
 }  // namespace
 
 void ZNEW_DealHand(const Integer& intShoe) {
-  Guarded("ZNEW_DealHand", [&] {
-    At(10);
-    if (blnEndOfShoe[intShoe]) {
-      return;
-    }
-    At(20);
-    blnPlayerThird[intShoe] = blnBankerThird[intShoe] = false;
-    At(30);
-    prcDealFirstFour(intShoe);
-    At(80);
-    blnPlayerNatural[intShoe] = blnBankerNatural[intShoe] = false;
-    At(90);
-    prcDrawThirdCards(intShoe);
-    At(130);
-    strResult[intShoe] = fncResult(intPlayerTotal[intShoe], intBankerTotal[intShoe]);
-    At(140);
-    // In this order, so that one more hand is dealt behind the mark.
-    if (blnLastHand[intShoe]) {
-      blnEndOfShoe[intShoe] = true;
-    }
-    if (intNextCard[intShoe] > intLastCard[intShoe] - intCardsBehindMark) {
-      blnLastHand[intShoe] = true;
-    }
-    At(150);
-    if (intShoe == 0 && blnShowCardsDealtCount) {
-      LoadlstCardsDealtCount();
-    }
-    At(160);
-    if (intShoe == intShoeNumber) {
-      BaccTable.prgShoe.Value = intNextCard[intShoe];
-    }
-  });
+  const Procedure running("ZNEW_DealHand");
+  if (blnEndOfShoe[intShoe]) {
+    return;
+  }
+  running.Step(2);
+  blnPlayerThird[intShoe] = blnBankerThird[intShoe] = false;
+  running.Step(3);
+  prcDealFirstFour(intShoe);
+  running.Step(4);
+  blnPlayerNatural[intShoe] = blnBankerNatural[intShoe] = false;
+  running.Step(5);
+  prcDrawThirdCards(intShoe);
+  running.Step(6);
+  strResult[intShoe] = fncResult(intPlayerTotal[intShoe], intBankerTotal[intShoe]);
+  running.Step(7);
+  // In this order, so that one more hand is dealt behind the mark.
+  if (blnLastHand[intShoe]) {
+    blnEndOfShoe[intShoe] = true;
+  }
+  if (intNextCard[intShoe] > intLastCard[intShoe] - intCardsBehindMark) {
+    blnLastHand[intShoe] = true;
+  }
+  running.Step(8);
+  if (intShoe == 0 && blnShowCardsDealtCount) {
+    LoadlstCardsDealtCount();
+  }
+  running.Step(9);
+  if (intShoe == intShoeNumber) {
+    BaccTable.prgShoe.Value = intNextCard[intShoe];
+  }
 }

@@ -120,106 +120,100 @@ void prcShowShuffling(bool blnShow) {
 }  // namespace
 
 void maisyk_Click() {
-  Guarded("Baccarat table maisyk_Click", [] {
-    At(10);
-    if (!blnEndOfShoe[intShoeNumber]) {
-      const platform::Answer answer =
-          platform::MsgBox("Not at end of shoe", platform::Icon::Exclamation, "Velmora",
-                           platform::Buttons::OkCancel, platform::Answer::Cancel);
-      if (answer == platform::Answer::Cancel) {
-        return;
-      }
+  const Procedure running("Baccarat table maisyk_Click");
+  if (!blnEndOfShoe[intShoeNumber]) {
+    const platform::Answer answer =
+        platform::MsgBox("Not at end of shoe", platform::Icon::Exclamation, "Velmora",
+                         platform::Buttons::OkCancel, platform::Answer::Cancel);
+    if (answer == platform::Answer::Cancel) {
+      return;
     }
-    At(20);
-    prcShuffleTable();
-  });
+  }
+  running.Step(2);
+  prcShuffleTable();
 }
 
 void prcShuffleTable() {
-  Guarded("Baccarat table maisyk_Click", [] {
-    At(10);
-    prcBettingEnableDisable(false);
-    At(20);
-    blnBusy = true;
-    At(30);
-    prcMarkCardTimers();
-    At(40);
-    BaccTable.lblNaturalP.Visible = BaccTable.lblNaturalB.Visible = false;
-    At(50);
-    if (BaccTable.Form.Visible) {
-      platform::Activate(BaccTable.Form);
-    }
-    At(60);
-    prcHideForShuffle();
-    At(70);
-    prcShowShuffling(true);
-    At(80);
-    CardsInvisible();
-    ResultsInvisible();
-    At(90);
-    prcClearForShuffle();
-    At(100);
-    prcHideSeatResults();
-    At(110);
-    prcMendShoeSize(intShoeNumber);
-    intDecksInPlay[intShoeNumber] = intDecks[intShoeNumber];
-    At(120);
-    prcWaitSeconds(2);
-    At(130);
-    Shuffle(intShoeNumber);
-    At(140);
-    blnBusy = false;
-    At(150);
-    prcShowShuffling(false);
-    At(160);
-    prcTableStatus(intShoeNumber);
-    At(170);
-    if (BaccTable.Form.Visible) {
-      platform::Activate(BaccTable.Form);
-      fncSetFocus(BaccTable.duokkortos[0]);
-    }
-  });
+  const Procedure running("Baccarat table maisyk_Click");
+  prcBettingEnableDisable(false);
+  running.Step(2);
+  blnBusy = true;
+  running.Step(3);
+  prcMarkCardTimers();
+  running.Step(4);
+  BaccTable.lblNaturalP.Visible = BaccTable.lblNaturalB.Visible = false;
+  running.Step(5);
+  if (BaccTable.Form.Visible) {
+    platform::Activate(BaccTable.Form);
+  }
+  running.Step(6);
+  prcHideForShuffle();
+  running.Step(7);
+  prcShowShuffling(true);
+  running.Step(8);
+  CardsInvisible();
+  ResultsInvisible();
+  running.Step(9);
+  prcClearForShuffle();
+  running.Step(10);
+  prcHideSeatResults();
+  running.Step(11);
+  prcMendShoeSize(intShoeNumber);
+  intDecksInPlay[intShoeNumber] = intDecks[intShoeNumber];
+  running.Step(12);
+  prcWaitSeconds(2);
+  running.Step(13);
+  Shuffle(intShoeNumber);
+  running.Step(14);
+  blnBusy = false;
+  running.Step(15);
+  prcShowShuffling(false);
+  running.Step(16);
+  prcTableStatus(intShoeNumber);
+  running.Step(17);
+  if (BaccTable.Form.Visible) {
+    platform::Activate(BaccTable.Form);
+    fncSetFocus(BaccTable.duokkortos[0]);
+  }
 }
 
 void Shuffle(const Integer& intShoe) {
-  Guarded("Shuffle", [&] {
-    At(10);
-    prcResetShoe(intShoe);
-    At(20);
-    blnShoePlayerBlue[intShoe] = blnPlayerBlue;
-    At(30);
-    prcMendShoeSize(intShoe);
-    intLastCard[intShoe] = intDecks[intShoe] * intSlotsOfDeck - 1;
-    At(40);
-    intCardValue[intShoe].prcBound(intLastCard[intShoe]);
-    intShoeCards[intShoe].prcBound(intLastCard[intShoe]);
-    FreeSlots free;
-    At(50);
-    if (intShoe == intShoeNumber) {
-      BaccTable.prgShoe.Max = intLastCard[intShoe];
-    }
-    At(60);
-    if (intShoe == 0) {
-      prcInitCardsDealtCount();
-    }
-    At(70);
-    prcSeedRandom(platform::RandomSeed());
-    At(80);
-    prcFill(intShoe, free);
-    At(90);
-    prcPlaceCards(intShoe, free);
-    At(100);
-    const Integer burnt = intCardValue[intShoe][intShoeCards[intShoe][0]];
-    intNextCard[intShoe] = burnt > 9 ? 10 : int{burnt};
-    At(110);
-    if (intShoe == 0) {
-      prcListBurnt(intShoe);
-    }
-    At(120);
-    ++intNextCard[intShoe];
-    At(130);
-    if (intShoe == intShoeNumber) {
-      BaccTable.prgShoe.Value = intNextCard[intShoe];
-    }
-  });
+  const Procedure running("Shuffle");
+  prcResetShoe(intShoe);
+  running.Step(2);
+  blnShoePlayerBlue[intShoe] = blnPlayerBlue;
+  running.Step(3);
+  prcMendShoeSize(intShoe);
+  intLastCard[intShoe] = intDecks[intShoe] * intSlotsOfDeck - 1;
+  running.Step(4);
+  intCardValue[intShoe].prcBound(intLastCard[intShoe]);
+  intShoeCards[intShoe].prcBound(intLastCard[intShoe]);
+  FreeSlots free;
+  running.Step(5);
+  if (intShoe == intShoeNumber) {
+    BaccTable.prgShoe.Max = intLastCard[intShoe];
+  }
+  running.Step(6);
+  if (intShoe == 0) {
+    prcInitCardsDealtCount();
+  }
+  running.Step(7);
+  prcSeedRandom(platform::RandomSeed());
+  running.Step(8);
+  prcFill(intShoe, free);
+  running.Step(9);
+  prcPlaceCards(intShoe, free);
+  running.Step(10);
+  const Integer burnt = intCardValue[intShoe][intShoeCards[intShoe][0]];
+  intNextCard[intShoe] = burnt > 9 ? 10 : int{burnt};
+  running.Step(11);
+  if (intShoe == 0) {
+    prcListBurnt(intShoe);
+  }
+  running.Step(12);
+  ++intNextCard[intShoe];
+  running.Step(13);
+  if (intShoe == intShoeNumber) {
+    BaccTable.prgShoe.Value = intNextCard[intShoe];
+  }
 }

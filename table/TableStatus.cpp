@@ -38,111 +38,101 @@ void prcMendBet(BetSide side, Integer intSeat) {
 }  // namespace
 
 void prcTableStatus(const Integer& shoe) {
-  Guarded("EH_prcTableStatus", [&] {
-    BaccTableWindow& table = BaccTable;
-    At(10);
-    prcSetCardBG(shoe);
-    At(20);
-    table.fraShoeNumber.Visible = true;
-    table.maisyk.Enabled = table.maisyk.Visible = true;
-    At(30);
-    table.prgShoe.Value = intNextCard[shoe];
-    table.prgShoe.Visible = true;
-    At(40);
-    table.FormLastHand.Visible = blnLastHand[shoe];
-    At(50);
-    prcBettingEnableDisable(!blnEndOfShoe[shoe]);
-    prcShowDealButtons(!blnEndOfShoe[shoe]);
-    table.FormEndofShoe.Visible = blnEndOfShoe[shoe];
-    if (blnEndOfShoe[shoe]) {
-      table.FormLastHand.Visible = false;
-      table.prgShoe.Value = table.prgShoe.Max;
-    }
-  });
+  const Procedure running("EH_prcTableStatus");
+  BaccTableWindow& table = BaccTable;
+  prcSetCardBG(shoe);
+  running.Step(2);
+  table.fraShoeNumber.Visible = true;
+  table.maisyk.Enabled = table.maisyk.Visible = true;
+  running.Step(3);
+  table.prgShoe.Value = intNextCard[shoe];
+  table.prgShoe.Visible = true;
+  running.Step(4);
+  table.FormLastHand.Visible = blnLastHand[shoe];
+  running.Step(5);
+  prcBettingEnableDisable(!blnEndOfShoe[shoe]);
+  prcShowDealButtons(!blnEndOfShoe[shoe]);
+  table.FormEndofShoe.Visible = blnEndOfShoe[shoe];
+  if (blnEndOfShoe[shoe]) {
+    table.FormLastHand.Visible = false;
+    table.prgShoe.Value = table.prgShoe.Max;
+  }
 }
 
 void prcBettingEnableDisable(const bool& enable) {
-  Guarded("prcBettingEnableDisable", [&] {
-    for (int i = 0; i < intSeats; ++i) {
-      At(10);
-      for (const BetSide side : betSides) {
-        fncBet(side, i).Box.Enabled = enable;
-        fncBet(side, i).Box.Visible = enable;
-      }
-      At(20);
-      for (Control* chip : fncChips(i)) {
-        chip->Visible = chip->Enabled = enable;
-      }
-      At(30);
-      for (const BetSide side : betSides) {
-        const BetControls bet = fncBet(side, i);
-        if (!enable) {
-          bet.Value.Visible = false;
-        } else if (bet.Money != 0) {
-          bet.Value.Visible = true;
-        }
+  const Procedure running("prcBettingEnableDisable");
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      fncBet(side, i).Box.Enabled = enable;
+      fncBet(side, i).Box.Visible = enable;
+    }
+    running.Step(2);
+    for (Control* chip : fncChips(i)) {
+      chip->Visible = chip->Enabled = enable;
+    }
+    running.Step(3);
+    for (const BetSide side : betSides) {
+      const BetControls bet = fncBet(side, i);
+      if (!enable) {
+        bet.Value.Visible = false;
+      } else if (bet.Money != 0) {
+        bet.Value.Visible = true;
       }
     }
-  });
+  }
 }
 
 void CardsInvisible() {
-  Guarded("Baccarat table CardsInvisible", [] {
-    BaccTableWindow& table = BaccTable;
-    for (int n = 0; n < intPositions; ++n) {
-      At(10);
-      table.pctCardFace[n].Visible = false;
-      table.pctCardFace[n].Spoken.clear();
-      At(20);
-      blnCardClickable[n] = false;
-      At(30);
-      for (auto* controls :
-           {&table.pctCardBack, &table.lblCardBottom, &table.lblCardRight, &table.pctCardTopRight,
-            &table.pctCardBottomLeft, &table.pctCardTopLeft, &table.pctCardBottomRight,
-            &table.pctCardTopRightWide, &table.pctCardBottomLeftWide, &table.pctCardTopLeftWide,
-            &table.pctCardBottomRightWide, &table.shpCardShadow}) {
-        (*controls)[n].Visible = false;
-      }
+  const Procedure running("Baccarat table CardsInvisible");
+  BaccTableWindow& table = BaccTable;
+  for (int n = 0; n < intPositions; ++n) {
+    table.pctCardFace[n].Visible = false;
+    table.pctCardFace[n].Spoken.clear();
+    running.Step(2);
+    blnCardClickable[n] = false;
+    running.Step(3);
+    for (auto* controls :
+         {&table.pctCardBack, &table.lblCardBottom, &table.lblCardRight, &table.pctCardTopRight,
+          &table.pctCardBottomLeft, &table.pctCardTopLeft, &table.pctCardBottomRight,
+          &table.pctCardTopRightWide, &table.pctCardBottomLeftWide, &table.pctCardTopLeftWide,
+          &table.pctCardBottomRightWide, &table.shpCardShadow}) {
+      (*controls)[n].Visible = false;
     }
-  });
+  }
 }
 
 void ResultsInvisible() {
-  Guarded("Baccarat table ResultsInvisible", [] {
-    BaccTableWindow& table = BaccTable;
-    At(10);
-    table.Timer1.Enabled = false;
-    At(20);
-    for (Control* label :
-         {&table.PTotal, &table.BTotal, &table.TieResultP, &table.TieResultB, &table.WinP,
-          &table.WinB, &table.lblNaturalP, &table.lblNaturalB, &table.Label1, &table.Label2}) {
-      label->Visible = false;
+  const Procedure running("Baccarat table ResultsInvisible");
+  BaccTableWindow& table = BaccTable;
+  table.Timer1.Enabled = false;
+  running.Step(2);
+  for (Control* label :
+       {&table.PTotal, &table.BTotal, &table.TieResultP, &table.TieResultB, &table.WinP,
+        &table.WinB, &table.lblNaturalP, &table.lblNaturalB, &table.Label1, &table.Label2}) {
+    label->Visible = false;
+  }
+  running.Step(3);
+  table.shpCardDealBG[1].Visible = table.shpCardDealBG[0].Visible = false;
+  running.Step(4);
+  prcHideSeatResults();
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      prcMendBet(side, i);
     }
-    At(30);
-    table.shpCardDealBG[1].Visible = table.shpCardDealBG[0].Visible = false;
-    At(40);
-    prcHideSeatResults();
-    for (int i = 0; i < intSeats; ++i) {
-      for (const BetSide side : betSides) {
-        prcMendBet(side, i);
-      }
-    }
-  });
+  }
 }
 
 void prcSetCardBG(const Integer& shoe) {
-  Guarded("prcSetCardBG", [&] {
-    const bool blnBlue = blnShoePlayerBlue[shoe];
-    BaccTableWindow& table = BaccTable;
-    At(10);
-    table.Label1.ForeColor = table.PTotal.ForeColor = blnBlue ? clrWhite : clrRed;
-    At(20);
-    table.shpCardDealBG[0].FillColor = blnBlue ? clrBlue : clrRed;
-    At(30);
-    table.Label2.ForeColor = table.BTotal.ForeColor = blnBlue ? clrRed : clrWhite;
-    At(40);
-    table.shpCardDealBG[1].FillColor = blnBlue ? clrRed : clrBlue;
-  });
+  const Procedure running("prcSetCardBG");
+  const bool blnBlue = blnShoePlayerBlue[shoe];
+  BaccTableWindow& table = BaccTable;
+  table.Label1.ForeColor = table.PTotal.ForeColor = blnBlue ? clrWhite : clrRed;
+  running.Step(2);
+  table.shpCardDealBG[0].FillColor = blnBlue ? clrBlue : clrRed;
+  running.Step(3);
+  table.Label2.ForeColor = table.BTotal.ForeColor = blnBlue ? clrRed : clrWhite;
+  running.Step(4);
+  table.shpCardDealBG[1].FillColor = blnBlue ? clrRed : clrBlue;
 }
 
 void prcOpenDealControls() {

@@ -64,13 +64,11 @@ void prcCloseRound() {
 }  // namespace
 
 void Timer1_Timer() {
-  Guarded("Baccarat table Timer1_Timer", [] {
-    if (BaccTable.intFlashCount < intFlashTicks) {
-      At(10);
-      prcFlash();
-    } else {
-      At(20);
-      prcCloseRound();
-    }
-  });
+  const Procedure running("Baccarat table Timer1_Timer");
+  if (BaccTable.intFlashCount < intFlashTicks) {
+    prcFlash();
+  } else {
+    running.Step(2);
+    prcCloseRound();
+  }
 }

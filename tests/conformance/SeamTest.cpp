@@ -361,12 +361,11 @@ TEST_F(Seam, NothingBehindTheEndRuns) {
 
 TEST_F(Seam, AFaultIsToldOnceWithLabelAndLineAndEndsTheProgram) {
   static ControlEvents faulty = fncOnly([](Control&) {
-    Guarded("Bench_Click", [] {
-      At(10);
-      At(20);
-      const Integer small = 32767;
-      [[maybe_unused]] const Integer large = small + 1;
-    });
+    const Procedure outer("Outer_Click");
+    const Procedure running("Bench_Click");
+    running.Step(2);
+    const Integer small = 32767;
+    [[maybe_unused]] const Integer large = small + 1;
   });
   bench.cmdGo.On = &faulty;
   user::Click(bench.cmdGo);
