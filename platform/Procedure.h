@@ -28,6 +28,13 @@ class Procedure {
   mutable int step_ = 1;
 };
 
+/// Runs work, which has but one step, as the procedure called label: for a handler of one line.
+template <class Work>
+auto Guarded(const char* label, Work&& work) {
+  const Procedure running(label);
+  return work();
+}
+
 /// Forgets where the last fault was raised, as must come before anything that may raise the next.
 void prcForgetFault();
 

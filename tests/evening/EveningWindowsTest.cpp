@@ -8,6 +8,7 @@
 #include "platform/Chart.h"
 #include "platform/Grid.h"
 #include "platform/headless/Headless.h"
+#include "shell/Dialogs.h"
 #include "tests/Game.h"
 
 namespace {
