@@ -5,6 +5,7 @@
 #include <iterator>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 #include "marking/MarkCard.h"
 #include "platform/Texts.h"
@@ -38,14 +39,11 @@ std::string fncIndexed(const std::string& name, int index) {
   return index < 0 ? name : name + "(" + std::to_string(index) + ")";
 }
 
-/// Adds a control to a list of them: " txtTieBet(0 1) maisyk".
-void prcAppend(std::string& list, const std::string& name, int index) {
-  const std::size_t last = list.rfind(' ' + name + '(');
-  if (last != std::string::npos && index > 0) {
-    list.insert(list.size() - 1, " " + std::to_string(index));
-  } else {
-    list += " " + fncIndexed(name, index);
-  }
+/// A seat's money as its label shows it, and as the books keep it where that says more.
+std::string fncMoney(const std::string& caption, double kept) {
+  std::string digits = caption;
+  std::erase_if(digits, [](char sign) { return sign == '$' || sign == ','; });
+  return caption + (digits == fncNumber(kept) ? "" : " = " + fncNumber(kept));
 }
 
 /// A tool button stands on both toolbars, each with a state of its own.
@@ -64,6 +62,10 @@ bool fncOfMarks(const Control& control) {
 const char* const strPointers[]{"arrow", "up-down", "left-right", "hand up", "hand right", "link"};
 
 }  // namespace
+
+void prcAdd(std::string& told, const std::string& clause) {
+  told += (told.empty() || clause.empty() ? "" : "; ") + clause;
+}
 
 Window& fncWindowNamed(const std::string& name) {
   for (Window* window : fncWindows()) {
@@ -89,6 +91,11 @@ Control& fncNamed(const std::string& name) {
     }
   }
   return found != nullptr ? *found : throw std::logic_error("no control " + name);
+}
+
+void Transcript::Tells(const std::string& topics) {
+  std::istringstream words(topics);
+  topics_ = {std::istream_iterator<std::string>(words), {}};
 }
 
 void Transcript::Watch(const std::string& names) {
@@ -120,8 +127,31 @@ Transcript::Words Transcript::fncWords(const Control& c) {
 
 bool Transcript::fncWatched(const Control& control) const {
   return !fncOfMarks(control) && std::ranges::any_of(watched_, [&](const std::string& name) {
-    return name == "all" || fncFullName(control).starts_with(name);
+    return fncFullName(control).starts_with(name);
   });
+}
+
+/// Names in few words: "lblBBet*" where all that is watched by that name is meant, "txtTieBet(0
+/// 1)".
+std::string Transcript::fncList(Names names) const {
+  std::string list;
+  for (const std::string& prefix : watched_) {
+    const auto blnOf = [&](const auto& name) { return name.first.starts_with(prefix); };
+    const auto all =
+        std::ranges::count_if(looks_, [&](const auto& look) { return blnOf(look.first); });
+    if (all > 1 && std::ranges::count_if(names, blnOf) == all) {
+      std::erase_if(names, blnOf);
+      list += " " + prefix + "*";
+    }
+  }
+  for (const auto& [name, index] : names) {
+    if (index > 0 && list.rfind(' ' + name + '(') != std::string::npos) {
+      list.insert(list.size() - 1, " " + std::to_string(index));
+    } else {
+      list += " " + fncIndexed(name, index);
+    }
+  }
+  return list;
 }
 
 Transcript::Looks Transcript::fncLooks() {
@@ -149,17 +179,18 @@ std::string Transcript::See(const std::string& name) {
   Control plain;
   plain.Kind = control.Kind;
   const Words words = fncWords(control), usual = fncWords(plain);
-  std::string text = "  " + name + ":";
+  std::string text = name + ":";
   for (std::size_t n = 0; n < words.size(); ++n) {
-    text += n == 0 || words.at(n) != usual.at(n) ? " " + words.at(n) + ";" : "";
+    text += n == 0 || words.at(n) != usual.at(n) ? " " + words.at(n) + "," : "";
   }
-  return text + "\n";
+  text.pop_back();
+  return text;
 }
 
-void Transcript::prcTell(const std::string& what, const std::string& now) {
-  if (last_[what] != now) {
-    last_[what] = now;
-    prcLine(what + ": " + (now.empty() ? "none" : now));
+void Transcript::prcTell(const std::string& topic, const std::string& what,
+                         const std::string& now) {
+  if (std::exchange(last_[what], now) != now && topics_.contains(topic)) {
+    prcClause(what + ": " + (now.empty() ? "none" : now));
   }
 }
 
@@ -168,15 +199,15 @@ void Transcript::prcTellScreen() {
   for (const user::Box& box : user::Boxes()) {
     std::string choice = box.blnCancel ? " OK/Cancel" : "";
     choice += box.Standard == platform::Answer::Cancel ? ", Cancel" : "";
-    prcLine("box " + std::string(icons[static_cast<std::size_t>(box.Icon)]) + "[" + box.Title +
-            choice + "]: " + fncPiped(box.Text));
+    prcClause("box " + std::string(icons[static_cast<std::size_t>(box.Icon)]) + "[" + box.Title +
+              choice + "]: " + fncPiped(box.Text));
   }
   user::ForgetBoxes();
   for (auto* calls : {&headless::Opened(), &headless::HelpShown()}) {
     for (const std::string& call : *calls) {
-      prcLine("opens " + call.substr(call.find("VELMORA.HLP") == std::string::npos
-                                         ? 0
-                                         : call.find("VELMORA.HLP")));
+      prcClause("opens " + call.substr(call.find("VELMORA.HLP") == std::string::npos
+                                           ? 0
+                                           : call.find("VELMORA.HLP")));
     }
     calls->clear();
   }
@@ -190,17 +221,18 @@ void Transcript::prcTellScreen() {
         fncUsable(*window.ActiveControl)) {
       focus += " " + fncIndexed(window.ActiveControl->Name, window.ActiveControl->Index);
     }
-    prcTell(window.Name, "at " + fncPair(window.Left, ",", window.Top) + ", size " +
-                             fncPair(window.Width, "x", window.Height) +
-                             (window.Maximised ? ", maximised" : ""));
+    prcTell("places", window.Name,
+            "at " + fncPair(window.Left, ",", window.Top) + ", size " +
+                fncPair(window.Width, "x", window.Height) +
+                (window.Maximised ? ", maximised" : ""));
   }
-  prcTell("windows", windows.empty() ? "" : windows.substr(1));
-  prcTell("focus", focus.empty() ? "" : focus.substr(1));
-  prcTell("program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
+  prcTell("windows", "windows", windows.empty() ? "" : windows.substr(1));
+  prcTell("focus", "focus", focus.empty() ? "" : focus.substr(1));
+  prcTell("program", "program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
 }
 
 void Transcript::prcTellControls() {
-  if (watched_.empty() && blnTableLoaded) {
+  if (blnTableLoaded) {
     std::string labels;
     for (const Control* control : BaccTable.Form.Controls) {
       // The money has a line of its own.
@@ -211,21 +243,21 @@ void Transcript::prcTellControls() {
         labels += " " + fncIndexed(seen.Name, seen.Index) + "=" + fncPiped(seen.Text);
       }
     }
-    prcTell("table", labels.empty() ? "" : labels.substr(1));
+    prcTell("table", "table", labels.empty() ? "" : labels.substr(1));
   }
   Looks now = fncLooks();
-  std::map<std::string, std::string> changes;
+  std::map<std::string, Names> changes;
   for (const auto& [name, words] : now) {
     const auto then = looks_.find(name);
     for (std::size_t n = 0; then != looks_.end() && n < words.size(); ++n) {
       if (then->second.at(n) != words.at(n)) {
-        prcAppend(changes[words.at(n)], name.first, name.second);
+        changes[words.at(n)].push_back(name);
       }
     }
   }
   looks_ = std::move(now);
   for (const auto& [word, names] : changes) {
-    prcLine(word + ":" + names);
+    prcClause(word + ":" + fncList(names));
   }
 }
 
@@ -242,8 +274,10 @@ void Transcript::prcTellFile() {
     }
   }
   for (const auto& [key, value] : now) {
-    if (!file_.contains(key) || file_[key] != value) {
-      prcLine("file: " + key + "=" + value);
+    // What a seat has won and turned over is told with its money.
+    const bool blnMoney = key.ends_with("Stats]Win") || key.ends_with("Stats]Turnover");
+    if (!blnMoney && topics_.contains("file") && (!file_.contains(key) || file_[key] != value)) {
+      prcClause(key + "=" + value);
     }
   }
   file_ = std::move(now);
@@ -258,10 +292,19 @@ void Transcript::prcTellMoney() {
       bets += (side == betTie ? "" : "/") + user::Seen(bet.Box).Text +
               (value.Visible ? "(" + value.Text + ")" : "");
     }
-    prcTell("seat " + std::to_string(i + 1),
-            user::Seen(BaccTable.lblPlayerTotal[i]).Text + " = " + fncNumber(dblPlayerTotal[i]) +
-                ", won " + user::Seen(BaccTable.lblPlayerWinnings[i]).Text + " = " +
-                fncNumber(dblPlayerWin[i]) + ", bets " + bets);
+    const std::string seat = std::to_string(i + 1), won = fncNumber(dblPlayerWin[i]);
+    const std::string win = file_["[Player" + seat + "Stats]Win"];
+    const std::string turnover = file_["[Player" + seat + "Stats]Turnover"];
+    const bool blnPlayed = !win.empty() || !turnover.empty() || dblPlayerWin[i] != 0;
+    prcTell(
+        "money", "seat " + seat,
+        fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]) +
+            (!blnPlayed ? ""
+                        : ", won " + fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text,
+                                              dblPlayerWin[i])) +
+            (!blnPlayed || win == (won.starts_with('-') ? won : " " + won) ? ""
+                                                                           : " (file" + win + ")") +
+            (turnover.empty() ? "" : " of" + turnover) + ", bets " + bets);
   }
 }
 
@@ -271,13 +314,14 @@ void Transcript::prcTellMarks() {
     return;
   }
   const Control picture = user::Seen(card->Picture1);
-  prcTell("card",
+  prcTell("marks", "card",
           "at " + fncPair(picture.Left, ",", picture.Top) + ", high " + fncNumber(picture.Height));
   const Control heading = user::Seen(card->lblBP.at(0));
   const auto& [last, lastHeading] = *card->lblBP.rbegin();
-  prcTell("headings", !heading.Visible ? "none"
-                                       : heading.Text + user::Seen(lastHeading).Text + " to " +
-                                             std::to_string(last));
+  prcTell("marks", "headings",
+          !heading.Visible
+              ? "none"
+              : heading.Text + user::Seen(lastHeading).Text + " to " + std::to_string(last));
   if (!user::Seen(card->shpTBP.at(0)).Visible) {
     // A new shoe: marks that come again where they were are told again.
     std::erase_if(last_, [](const auto& told) {
@@ -287,8 +331,12 @@ void Transcript::prcTellMarks() {
   }
   for (const auto& [n, control] : card->lblTotal) {
     if (const Control total = user::Seen(control); total.Visible) {
-      prcTell("total " + std::to_string(n),
-              total.Text + " at " + fncNumber(total.Left) + ", " + fncColour(total.ForeColor));
+      const std::string at =
+          total.Left == 30 + 345 * n ? "" : " at " + fncNumber(total.Left);  // Its own column.
+      const std::string colour = fncColour(total.ForeColor);
+      const bool blnUsual = colour == (total.Text.starts_with('-') ? "dark red" : "black");
+      prcTell("marks", "total " + std::to_string(n),
+              total.Text + at + (blnUsual ? "" : " " + colour));
     }
   }
   for (const auto& [n, control] : card->shpTBP) {
@@ -297,19 +345,20 @@ void Transcript::prcTellMarks() {
     const std::string place = fncNumber((shape.Left - 60) / intColumnPitch) +
                               (text.Visible ? "," + fncNumber((shape.Top - 510) / intRowPitch + 1)
                                             : " top " + fncNumber(shape.Top));
+    const std::string high =
+        text.Visible && shape.Height == 225 ? " " : " high " + fncNumber(shape.Height) + " ";
+    const std::string ink = fncColour(text.ForeColor);
     const std::string caption =
-        !text.Visible ? "line" : fncQuoted(text.Text) + " " + fncColour(text.ForeColor);
-    prcTell("mark " + std::to_string(n),
-            !shape.Visible
-                ? "none"
-                : place + " high " + fncNumber(shape.Height) + " " + fncColour(shape.BorderColor) +
-                      (shape.Form2D == ShapeForm::Oval ? " oval " : " ") + caption);
+        !text.Visible ? "line" : fncQuoted(text.Text) + (ink == "black" ? "" : " " + ink);
+    prcTell("marks", "mark " + std::to_string(n),
+            !shape.Visible ? "none"
+                           : place + high + fncColour(shape.BorderColor) +
+                                 (shape.Form2D == ShapeForm::Oval ? " oval " : " ") + caption);
   }
 }
 
-std::string Transcript::WhatIsNew(const std::string& before) {
+std::string Transcript::WhatIsNew() {
   told_.clear();
-  before_ = before;
   prcTellScreen();
   prcTellControls();
   prcTellFile();

@@ -15,12 +15,18 @@ Control& fncNamed(const std::string& name);
 /// The loaded window of that name; fails the test by an exception where there is none.
 Window& fncWindowNamed(const std::string& name);
 
-/// Tells in lines of text what has changed since it last told: messages, windows, the focus, the
-/// watched controls, the settings file, money, the marks.
+/// Adds a clause to what is told.
+void prcAdd(std::string& told, const std::string& clause);
+
+/// Tells what has changed since it last told: messages and the watched controls always, the rest as
+/// its topics say.
 class Transcript {
  public:
-  /// Which controls are told, by how their names begin; "all" for every one. The labels that are
-  /// read out stand in a line of their own unless controls are watched.
+  /// What is told from now on: "windows", "places", "focus", "program", "table" for the labels that
+  /// are read out, "file", "money", "marks".
+  void Tells(const std::string& topics);
+
+  /// Which controls are told, by how their names begin.
   void Watch(const std::string& names);
 
   /// Everything that a control shows.
@@ -30,8 +36,8 @@ class Transcript {
   /// for looks at every millisecond.
   bool Moved() const;
 
-  /// What is new, each line after an indent and before.
-  std::string WhatIsNew(const std::string& before = "");
+  /// What is new, in clauses.
+  std::string WhatIsNew();
 
  private:
   using Words = std::array<std::string, 13>;
@@ -40,21 +46,24 @@ class Transcript {
     bool Visible;
     std::string Text;
   };
-  using Looks = std::map<std::pair<std::string, int>, Words>;
+  using Names = std::vector<std::pair<std::string, int>>;
+  using Looks = std::map<Names::value_type, Words>;
 
   static Words fncWords(const Control& control);
   bool fncWatched(const Control& control) const;
+  std::string fncList(Names names) const;
   Looks fncLooks();
-  void prcLine(const std::string& line) { told_ += "  " + before_ + line + "\n"; }
+  void prcClause(const std::string& clause) { prcAdd(told_, clause); }
   void prcTellScreen();
   void prcTellControls();
   void prcTellFile();
   void prcTellMoney();
   void prcTellMarks();
   /// Tells a text that stands for something when it differs from what it was.
-  void prcTell(const std::string& what, const std::string& now);
+  void prcTell(const std::string& topic, const std::string& what, const std::string& now);
 
-  std::string told_, before_;
+  std::string told_;
+  std::set<std::string> topics_;
   std::vector<std::string> watched_;
   std::map<std::string, std::string> last_;  ///< By what: the text last told.
   std::set<std::string> windows_;
