@@ -35,18 +35,6 @@ TEST_F(ClockTest, AHandInViewRunsThroughTheWrap) {
   }
 }
 
-TEST_F(ClockTest, AJumpOfHoursEndsAWaitAndNoMore) {
-  constexpr std::uint32_t hours = 5 * 3600 * 1000;
-  // An event that runs for hours. A suspended computer looks otherwise: its counter stands still.
-  headless::After(500, [] { headless::Wait(hours); });
-  prcWaitSeconds(2);
-  EXPECT_GE(headless::Now(), hours);
-  EXPECT_LE(headless::Now(), hours + 2500);
-  const std::uint32_t after = headless::Now();
-  prcWaitSeconds(2);
-  EXPECT_LE(headless::Now() - after, 2002U) << "the next wait is its own again";
-}
-
 TEST_F(ClockTest, ACounterThatStepsEndsOneWaitAndNoMore) {
   // No counter of a machine should. Where one does, in whatever direction, the game goes on.
   constexpr std::int32_t hours = 5 * 3600 * 1000;
@@ -61,21 +49,6 @@ TEST_F(ClockTest, ACounterThatStepsEndsOneWaitAndNoMore) {
     prcWaitSeconds(2);
     EXPECT_GT(headless::Now() - after, 2000U) << step;
     EXPECT_LE(headless::Now() - after, 2002U) << step;
-  }
-}
-
-TEST_F(ClockTest, AHandInViewIsDealtToItsEndOverSteps) {
-  constexpr std::int32_t hours = 5 * 3600 * 1000;
-  Start();
-  Shuffle();
-  for (const std::int32_t step : {-hours, hours}) {
-    const std::uint32_t start = headless::Now();
-    headless::After(300, [step] { headless::StepTicks(step); });
-    blnDealDelay = blnDealAnimation = true;
-    DealResult("B");
-    EXPECT_FALSE(blnBusy) << step;
-    EXPECT_EQ(strResult[0], "B") << step;
-    EXPECT_LT(headless::Now() - start, 60'000U) << step;
   }
 }
 

@@ -1,15 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QImage>
 #include <QListWidget>
-#include <QMainWindow>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTest>
-#include <QToolBar>
-#include <QToolButton>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
@@ -28,28 +24,14 @@ namespace {
 
 struct Felt {
   Window Form;
-  Control picGround, pctBack, pctFace, lblBottom, lblOver, shpMat;
+  Control picGround, pctBack, pctFace, shpMat;
 };
 Felt felt;
-
-int intMoved = 0;
-
-/// Each move shortens the back as a squeeze does, and has it painted at once.
-const ControlEvents evtSqueeze{nullptr, nullptr, [](Control&, const Mouse& mouse) {
-                                 ++intMoved;
-                                 felt.pctBack.Height = 1440 + double{mouse.Y};
-                                 platform::RepaintNow(felt.pctFace);
-                                 platform::RepaintNow(felt.pctBack);
-                               }};
 
 const Place plcFelt[] = {
     {&felt.picGround, "picGround", -1, ControlKind::Picture, 0, 0, 6000, 4500},
     {&felt.pctFace, "pctCardFace", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
-    {&felt.pctBack, "pctCardBack", 0, ControlKind::Picture, 1500, 1500, 1065, 1440, "",
-     "Click to reveal card"},
-    {&felt.lblBottom, "lblCardBottom", 0, ControlKind::Label, 1500, 2940, 1065, 135, "",
-     "To reveal card"},
-    {&felt.lblOver, "lblOver", -1, ControlKind::Label, 3000, 300, 2000, 300, "WIN"},
+    {&felt.pctBack, "pctCardBack", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
     {&felt.shpMat, "shpCardDealBG", 0, ControlKind::Shape, 3000, 900, 2505, 3165},
 };
 
@@ -67,9 +49,6 @@ class Looks : public testing::Test {
     felt.picGround.BackColor = {0, 80, 0};
     felt.pctFace.Picture = 22;
     felt.pctBack.Picture = picCardBack;
-    felt.lblBottom.On = &evtSqueeze;
-    felt.lblBottom.MousePointer = Pointer::HandUp;
-    intMoved = 0;
     prcShow(felt.Form);
     user::Settle();
   }
@@ -100,32 +79,6 @@ TEST_F(Looks, AShrunkBackIsCutNotSqueezed) {
   EXPECT_EQ(shot.copy(below), fncCard(22).copy(below));
 }
 
-/// Counts the paint events of a widget.
-class PaintCount : public QObject {
- public:
-  explicit PaintCount(QWidget& watched) { watched.installEventFilter(this); }
-  int intPaints = 0;
-
- protected:
-  bool eventFilter(QObject* /*object*/, QEvent* event) override {
-    intPaints += event->type() == QEvent::Paint ? 1 : 0;
-    return false;
-  }
-};
-
-TEST_F(Looks, APullIsPaintedWithinItsMove) {
-  user::Press(felt.lblBottom, 150, 75);
-  user::Drag(felt.lblBottom, 150, -300);
-  PaintCount face(real::Widget(felt.pctFace));
-  const int before = intMoved;
-  user::Drag(felt.lblBottom, 150, -600);
-  EXPECT_EQ(intMoved, before + 1);
-  EXPECT_EQ(felt.pctBack.Height, 840);
-  EXPECT_EQ(real::Widget(felt.pctBack).height(), qt::fncPixels(840));
-  EXPECT_EQ(face.intPaints, 1) << "both repaints are one";
-  user::Release(felt.lblBottom, 150, -600);
-}
-
 TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {
   for (const Colour& colour : {Colour{0, 0, 255}, Colour{255, 64, 64}}) {
     felt.shpMat.Dress = Look::Mat;
@@ -136,32 +89,6 @@ TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {
     plain.fill(QColor(colour.Red, colour.Green, colour.Blue));
     EXPECT_EQ(fncShot().copy(inside), plain);
   }
-}
-
-TEST_F(Looks, NamesTipsAndCursors) {
-  EXPECT_EQ(real::Widget(felt.pctBack).objectName(), "pctCardBack(0)");
-  EXPECT_EQ(real::Widget(felt.pctBack).toolTip(), "Click to reveal card");
-  EXPECT_EQ(real::Widget(felt.lblBottom).cursor().hotSpot(),
-            QPoint(qt::fncPixels(16 * 15), qt::fncPixels(3 * 15)));
-  felt.lblBottom.MousePointer = Pointer::SizeUpDown;
-  user::Settle();
-  EXPECT_EQ(real::Widget(felt.lblBottom).cursor().shape(), Qt::SizeVerCursor);
-}
-
-TEST_F(Looks, AScreenReaderFindsRolesNamesAndActions) {
-  const QAccessibleInterface* label =
-      QAccessible::queryAccessibleInterface(&real::Widget(felt.lblOver));
-  EXPECT_EQ(label->role(), QAccessible::StaticText);
-  EXPECT_EQ(label->text(QAccessible::Name), "WIN");
-  static int intClicks = 0;
-  static const ControlEvents clicked{[](Control&) { ++intClicks; }};
-  felt.pctBack.On = &clicked;
-  felt.pctBack.Spoken = "Player's first card, hidden";
-  user::Settle();
-  QAccessibleInterface* back = QAccessible::queryAccessibleInterface(&real::Widget(felt.pctBack));
-  EXPECT_EQ(back->text(QAccessible::Name), "Player's first card, hidden");
-  back->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(intClicks, 1);
 }
 
 TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
@@ -260,107 +187,18 @@ TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
   qt::prcSetScale(before);
 }
 
-struct Framed {
-  Window Form, Child;
-  Control mnuFile, mnuExit, mnuSep, mnuMode, tlbBig, tlbDecks1, tlbDecks2, tlbRule, tlbHidden;
-};
-Framed framed;
-std::vector<std::string> strClicked;
-
-const ControlEvents evtClicked{[](Control& control) { strClicked.emplace_back(control.Name); }};
-
-const Place plcFramed[] = {
-    {&framed.mnuFile, "mnuFile", -1, ControlKind::MenuEntry, 0, 0, 0, 0, "&File"},
-    {&framed.mnuMode, "mnuMode", -1, ControlKind::MenuEntry, 0, 0, 0, 0, "&Mode"},
-    {&framed.mnuSep, "mnuSep", -1, ControlKind::MenuEntry, 0, 0, 0, 0, "-"},
-    {&framed.mnuExit, "mnuExit", -1, ControlKind::MenuEntry, 0, 0, 0, 0, "E&xit"},
-    {&framed.tlbBig, "tlbBig", -1, ControlKind::Toolbar, 0, 0, 0, 540},
-    {&framed.tlbDecks1, "Decks1", -1, ControlKind::ToolButton, 0, 0, 0, 0, "", "1 Deck"},
-    {&framed.tlbDecks2, "Decks2", -1, ControlKind::ToolButton, 0, 0, 0, 0, "", "2 Decks"},
-    {&framed.tlbRule, "rule", -1, ControlKind::ToolButton, 0, 0, 0, 0},
-    {&framed.tlbHidden, "hidden", -1, ControlKind::ToolButton, 0, 0, 0, 0},
-};
-
-class FrameLooks : public testing::Test {
- protected:
-  void SetUp() override {
-    user::Reset();
-    strClicked.clear();
-    framed.Form = framed.Child = Window{};
-    framed.Form.Kind = WindowKind::Frame;
-    framed.Form.Width = framed.Form.Height = 12000;
-    prcLayOut(framed.Form, plcFramed);
-    for (Control* entry : {&framed.mnuMode, &framed.mnuSep, &framed.mnuExit}) {
-      entry->Container = &framed.mnuFile;
-      entry->On = &evtClicked;
-    }
-    for (Control* button :
-         {&framed.tlbDecks1, &framed.tlbDecks2, &framed.tlbRule, &framed.tlbHidden}) {
-      button->Container = &framed.tlbBig;
-      button->On = &evtClicked;
-      button->Style = ButtonStyle::Group;
-    }
-    framed.tlbRule.Style = ButtonStyle::Separator;
-    framed.tlbHidden.Visible = false;
-    framed.Child.Width = framed.Child.Height = 3000;
-    framed.Child.Left = framed.Child.Top = 600;
-    framed.Child.TitleBar = true;
-    prcLayOut(framed.Child, {});
-    prcShow(framed.Form);
-    prcShow(framed.Child);
-    user::Settle();
-  }
-  void TearDown() override { user::Reset(); }
-
-  static QMainWindow& fncFrame() {
-    return *qobject_cast<QMainWindow*>(real::Ground(framed.Form).window());
-  }
-  static QAction& fncAction(const char* name) { return *fncFrame().findChild<QAction*>(name); }
-};
-
-TEST_F(FrameLooks, MenusShowTheModelAndNotTheirOwnClicks) {
-  framed.mnuMode.Value = 1;
+TEST_F(Looks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
+  static Window frame, child;
+  frame = child = Window{};
+  frame.Kind = WindowKind::Frame;
+  frame.Width = frame.Height = 12000;
+  child.Width = child.Height = 3000;
+  child.Left = child.Top = 600;
+  child.TitleBar = true;
+  prcShow(frame);
+  prcShow(child);
   user::Settle();
-  EXPECT_TRUE(fncAction("mnuMode").isChecked());
-  fncAction("mnuMode").trigger();
-  EXPECT_EQ(strClicked, std::vector<std::string>{"mnuMode"});
-  EXPECT_TRUE(fncAction("mnuMode").isChecked()) << "the handler left the mark as it was";
-  framed.mnuExit.Visible = false;
-  user::Settle();
-  EXPECT_FALSE(fncAction("mnuExit").isVisible());
-  EXPECT_TRUE(fncAction("mnuSep").isSeparator());
-}
-
-TEST_F(FrameLooks, ToolButtonsOfAGroupAndSeparatorsWithoutNeighbours) {
-  user::Click(framed.tlbDecks2);
-  EXPECT_EQ(framed.tlbDecks2.Value, 1);
-  user::Click(framed.tlbDecks1);
-  EXPECT_EQ(framed.tlbDecks2.Value, 0);
-  EXPECT_TRUE(static_cast<QToolButton&>(real::Widget(framed.tlbDecks1)).isChecked());
-  EXPECT_FALSE(static_cast<QToolButton&>(real::Widget(framed.tlbDecks2)).isChecked());
-  const QList<QAction*> actions = fncFrame().findChild<QToolBar*>()->actions();
-  EXPECT_FALSE(actions[2]->isVisible()) << "nothing is seen behind the separator";
-}
-
-TEST_F(FrameLooks, TheFrameKeepsItsInnerSizeAndTellsWhenTheUserSizesIt) {
-  static int intResizes = 0;
-  static const WindowEvents counted = [] {
-    WindowEvents events;
-    events.Resize = [](Window&) { ++intResizes; };
-    return events;
-  }();
-  framed.Form.On = &counted;
-  intResizes = 0;
-  fncFrame().resize(700, 500);
-  user::Settle();
-  EXPECT_EQ(intResizes, 1);
-  EXPECT_EQ(qt::fncPixels(framed.Form.Width), fncFrame().frameGeometry().width());
-  EXPECT_EQ(qt::fncPixels(framed.Form.ScaleHeight), real::Ground(framed.Form).height());
-  EXPECT_LT(framed.Form.ScaleHeight, framed.Form.Height - 540);
-}
-
-TEST_F(FrameLooks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
-  QWidget& shell = *real::Ground(framed.Child).parentWidget();
+  QWidget& shell = *real::Ground(child).parentWidget();
   QWindow* handle = shell.window()->windowHandle();
   const auto at = [&](QPoint inside) { return handle->mapFromGlobal(shell.mapToGlobal(inside)); };
   const QPoint from = at(QPoint(40, 10));
@@ -368,9 +206,9 @@ TEST_F(FrameLooks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   QTest::mouseMove(handle, from + QPoint(30, 20));
   QTest::mouseRelease(handle, Qt::LeftButton, {}, from + QPoint(30, 20));
   user::Settle();
-  EXPECT_EQ(qt::fncPixels(framed.Child.Left), qt::fncPixels(600) + 30);
-  EXPECT_EQ(qt::fncPixels(framed.Child.Top), qt::fncPixels(600) + 20);
-  framed.Child.Left = -90;
+  EXPECT_EQ(qt::fncPixels(child.Left), qt::fncPixels(600) + 30);
+  EXPECT_EQ(qt::fncPixels(child.Top), qt::fncPixels(600) + 20);
+  child.Left = -90;
   user::Settle();
   EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }

@@ -63,37 +63,12 @@ struct State {
   void (*Reach)(Way out);
 };
 
-/// Deals a hand with a bet on the Player, and goes out some time after the press.
-void prcDealAndLeave(Way out, std::uint32_t after) {
-  headless::Click(BaccTable.maisyk);
-  headless::Click(BaccTable.lblPBetInc1[0]);
-  headless::After(after, out);
-  headless::Click(BaccTable.duokkortos[0]);
-  headless::Wait(after + 1);
-}
-
 constexpr State states[] = {
     {"idle", [](Way out) { out(); }},
-    {"with bets",
-     [](Way out) {
-       headless::Click(BaccTable.maisyk);
-       headless::Click(BaccTable.lblBBetInc5[0]);
-       headless::Click(BaccTable.lblTBetInc1[1]);
-       ASSERT_EQ(dblPlayerTotal[0], 950);
-       out();
-     }},
     {"in a shuffle",
      [](Way out) {
        headless::AtNextTurn(out);
        headless::Click(BaccTable.maisyk);
-     }},
-    {"in a flight", [](Way out) { prcDealAndLeave(out, 100); }},
-    {"while cards are laid face up", [](Way out) { prcDealAndLeave(out, 3000); }},
-    {"in the wait for the user",
-     [](Way out) {
-       headless::Click(MDIForm1.mnuCardFaceUpDown);
-       prcDealAndLeave(out, 60000);
-       EXPECT_TRUE(BaccTable.pctCardBack[0].Visible);
      }},
     {"in a flash",
      [](Way out) {
@@ -140,19 +115,6 @@ TEST_F(Frame, EveryWayOutOfEveryStateKeepsPlacesAndMoney) {
       }
     }
   }
-}
-
-TEST_F(Frame, TheListOfCardsIsSwitchedOffOnlyByARunThatLoadedIt) {
-  prcPlay();
-  headless::Click(MDIForm1.mnuExit);
-  EXPECT_EQ(Stored("Card Options", "Show Cards Dealt"), "No");
-  EXPECT_EQ(Stored("frmCardsDealt", "Top"), "No");
-
-  prcPlay();
-  headless::Click(BaccTable.maisyk);
-  headless::Click(MDIForm1.mnuExit);
-  EXPECT_EQ(Stored("Card Options", "Show Cards Dealt"), "False");
-  EXPECT_EQ(Stored("frmCardsDealt", "Top"), "0");
 }
 
 }  // namespace

@@ -91,24 +91,4 @@ TEST_F(SettingsStore, AWriteThatFailsLosesNothing) {
   EXPECT_EQ(Stored("Player1Stats", "Stake"), "500") << "written as soon as the file lets";
 }
 
-TEST_F(SettingsStore, NumbersKeepTheirFormAndTheirFraction) {
-  const struct {
-    double Number;
-    const char* Written;
-  } rows[] = {{2310, "= 2310\r"}, {2310.5, "= 2310.5\r"}, {-250, "=-250\r"}, {0, "= 0\r"}};
-  for (const auto& row : rows) {
-    prcWriteSetting("Misc", "UnitValue", row.Number);
-    EXPECT_NE(Contents().find(row.Written), std::string::npos) << row.Number;
-    EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), row.Number);
-  }
-  prcWritePrivateProfileString("Misc", "UnitValue", "12 chips");
-  EXPECT_EQ(fncGetSetting("Misc", "UnitValue"), 12);
-}
-
-TEST_F(SettingsStore, ALaterRunKeepsItsFile) {
-  WriteFile("[Deal]\r\nDelay=False\r\n");
-  prcFixPaths();
-  EXPECT_EQ(Contents(), "[Deal]\r\nDelay=False\r\n");
-}
-
 }  // namespace

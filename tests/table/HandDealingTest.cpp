@@ -3,8 +3,6 @@
 #include <array>
 #include <string_view>
 
-#include "shell/CardsDealt.h"
-#include "table/BaccTable.h"
 #include "table/HandDealing.h"
 #include "tests/Game.h"
 
@@ -87,25 +85,6 @@ TEST(HandDealing, EveryHandFollowsTheTableau) {
   EXPECT_EQ(hands, 13 * 13 * 10 * 13);
 }
 
-TEST(HandDealing, RecordsCardsTotalsAndNaturals) {
-  prcLay({13, 5, 9, 2, 1, 1});
-  ZNEW_DealHand(intShoe);
-  EXPECT_EQ(intPlayerCard1[intShoe], 13);
-  EXPECT_EQ(intPlayerValue2[intShoe], 9);
-  EXPECT_EQ(intBankerValue1[intShoe], 5);
-  EXPECT_EQ(intBankerTotal2[intShoe], 7);
-  EXPECT_TRUE(blnPlayerNatural[intShoe]);
-  EXPECT_FALSE(blnBankerNatural[intShoe]);
-
-  prcLay({2, 6, 3, 13, 11, 4});
-  ZNEW_DealHand(intShoe);
-  EXPECT_EQ(intPlayerTotal2[intShoe], 5);
-  EXPECT_EQ(intPlayerTotal[intShoe], 5);
-  EXPECT_EQ(intPlayerValue3[intShoe], 11);
-  EXPECT_FALSE(blnBankerThird[intShoe]) << "the Banker stands on 6 against a picture";
-  EXPECT_FALSE(blnPlayerNatural[intShoe]) << "the flag of the hand before must not stay";
-}
-
 TEST(HandDealing, OneMoreHandBehindTheMarkThenTheShoeIsEnded) {
   struct Case {
     int Decks, Mark;
@@ -132,23 +111,6 @@ TEST(HandDealing, OneMoreHandBehindTheMarkThenTheShoeIsEnded) {
     EXPECT_EQ(intNextCard[intShoe], next);
     EXPECT_TRUE(blnPlayerThird[intShoe]) << "an ended shoe changes nothing";
   }
-}
-
-using HandOnTable = Game;
-
-TEST_F(HandOnTable, OnlyTheTableShoeListsAndMovesTheBar) {
-  Start();
-  Shuffle();
-  const std::size_t rows = frmCardsDealt.lstCardsDealt.List.size();
-  NextCards({13, 13, 9, 12});
-  ZNEW_DealHand(0);
-  ASSERT_EQ(frmCardsDealt.lstCardsDealt.List.size(), rows + 4);
-  EXPECT_EQ(frmCardsDealt.lstCardsDealt.List.back().substr(0, 5), "Queen");
-  EXPECT_EQ(frmCardsDealt.lstCardsDealt.List.back().size(), 21U);
-  EXPECT_EQ(BaccTable.prgShoe.Value, intNextCard[0]);
-  prcLay({13, 13, 9, 8, 1, 1});
-  ZNEW_DealHand(intShoe);
-  EXPECT_EQ(frmCardsDealt.lstCardsDealt.List.size(), rows + 4);
 }
 
 }  // namespace

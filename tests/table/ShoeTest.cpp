@@ -131,20 +131,6 @@ TEST_F(ShoeTest, AShuffleTakesTwoSecondsAndServesEventsAfterEachCardOfBothItsLoo
   EXPECT_GE(headless::Turns() - turns, 832U);
 }
 
-TEST_F(ShoeTest, ALoweredBoundEndsARunningShuffle) {
-  Start();
-  std::uint64_t turnsAtClose = 0;
-  headless::After(2001, [&] {
-    headless::AtNextTurn([&] {
-      intLastCard[0] = 0;
-      turnsAtClose = headless::Turns();
-    });
-  });
-  headless::Click(BaccTable.maisyk);
-  EXPECT_FALSE(blnBusy);
-  EXPECT_LT(headless::Turns() - turnsAtClose, 10U);
-}
-
 TEST(Random, IsUniformOverTheUnitIntervalAndRepeats) {
   prcSeedRandom(42);
   std::array<int, 16> buckets{};
