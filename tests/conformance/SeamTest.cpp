@@ -116,25 +116,6 @@ Lines fncWithout(Lines lines, const std::string& start) {
   return lines;
 }
 
-TEST_F(Seam, TheFocusGoesRoundInTheOrderOfTheStack) {
-  bench.chkOn.TabStop = false;
-  bench.optA.Enabled = false;
-  bench.txtTwo.Visible = false;
-  std::string order;
-  for (int step = 0; step < 5; ++step) {
-    user::Tab(bench.Form);
-    order += fncName(*bench.Form.ActiveControl) + " ";
-  }
-  EXPECT_EQ(order, "txtOne mskMoney cmdGo opt1 txtOne ");
-}
-
-TEST_F(Seam, LeavingABoxChecksItThenMovesThenTells) {
-  user::Click(bench.txtOne);
-  fncTaken();
-  user::Tab(bench.Form);
-  EXPECT_EQ(fncTaken(), (Lines{"check txtOne", "lost txtOne", "got txtTwo"}));
-}
-
 TEST_F(Seam, LostFocusMayTakeTheFocusBack) {
   static ControlEvents greedy = evtLogged;
   greedy.Validate = nullptr;
@@ -150,19 +131,6 @@ TEST_F(Seam, LostFocusMayTakeTheFocusBack) {
   EXPECT_EQ(fncWithout(fncTaken(), "check"), (Lines{"lost txtOne", "got txtOne"}));
   user::Wait(5);
   EXPECT_EQ(bench.Form.ActiveControl, &bench.txtOne) << "the screen moved the focus by itself";
-}
-
-TEST_F(Seam, AWholeClickByEachButton) {
-  user::Click(bench.cmdGo);
-  EXPECT_EQ(fncTaken(), (Lines{"got cmdGo", "down cmdGo 1", "up cmdGo", "click cmdGo"}));
-  user::Click(bench.cmdGo, intRightButton);
-  EXPECT_EQ(fncTaken(), (Lines{"down cmdGo 2", "up cmdGo"})) << "the right button does not click";
-  for (const int button : {intLeftButton, intRightButton, intMiddleButton}) {
-    user::Click(bench.lblStrip, button);
-    EXPECT_EQ(fncWithout(fncTaken(), "check"),
-              (Lines{"down lblStrip " + std::to_string(button), "up lblStrip", "click lblStrip"}))
-        << "a label is clicked with any button";
-  }
 }
 
 TEST_F(Seam, APressHoldsTheMouseEvenOutsideAndWhenHidden) {

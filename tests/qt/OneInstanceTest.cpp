@@ -7,8 +7,8 @@
 
 #include "platform/platform.h"
 #include "platform/qt/machine/OneInstance.h"
+#include "platform/qt/windows/Screen.h"
 #include "tests/conformance/Adapter.h"
-#include "tests/qt/RealUser.h"
 
 // The one-instance rule between real processes. The second one is this program again: main.cpp
 // makes it ask for the lock, tell by one letter whether it has got it, and keep it until it is
@@ -58,7 +58,7 @@ TEST_F(OneInstance, TheSecondBringsTheFirstToTheFront) {
   prcShow(start);
   user::Settle();
   ASSERT_FALSE(platform::ActivateOtherInstance());
-  QWidget& window = *real::Ground(start).window();
+  QWidget& window = *qt::fncViewOf(start)->Shell;
   window.showMinimized();
   QProcess second;
   EXPECT_EQ(fncStart(second), "o");

@@ -16,7 +16,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "tests/conformance/Adapter.h"
-#include "tests/qt/RealUser.h"
+#include "tests/stage/Stage.h"
 
 // What only a real screen shows: pixels, cursors, tool tips, names, menus and bars.
 
@@ -55,7 +55,7 @@ class Looks : public testing::Test {
   void TearDown() override { user::Reset(); }
 
   static QImage fncShot() {
-    return real::Ground(felt.Form).grab().toImage().convertToFormat(QImage::Format_RGB32);
+    return stage::fncView(felt.Form).Ground->grab().toImage().convertToFormat(QImage::Format_RGB32);
   }
   static QImage fncCard(int number) {
     QImage image(qt::fncCardSize(), QImage::Format_RGB32);
@@ -178,9 +178,9 @@ TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
     lists.lstCards.List.assign(40, "Queen Diamond  <-Burnt");
     prcShow(lists.Form);
     user::Settle();
-    const auto& count = static_cast<QListWidget&>(real::Widget(lists.lstCount));
+    const auto& count = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCount));
     EXPECT_EQ(count.verticalScrollBar()->maximum(), 0) << "at scale " << scale;
-    const auto& cards = static_cast<QListWidget&>(real::Widget(lists.lstCards));
+    const auto& cards = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCards));
     EXPECT_LE(cards.sizeHintForColumn(0), cards.viewport()->width()) << "at scale " << scale;
   }
   user::Reset();
@@ -198,7 +198,7 @@ TEST_F(Looks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   prcShow(frame);
   prcShow(child);
   user::Settle();
-  QWidget& shell = *real::Ground(child).parentWidget();
+  QWidget& shell = *stage::fncView(child).Ground->parentWidget();
   QWindow* handle = shell.window()->windowHandle();
   const auto at = [&](QPoint inside) { return handle->mapFromGlobal(shell.mapToGlobal(inside)); };
   const QPoint from = at(QPoint(40, 10));
