@@ -161,7 +161,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       const std::string before = std::exchange(Told(), "");
       Do(round);
       const std::string told = std::exchange(Told(), before);
-      prcAdd(Told(), told.empty() ? "" : value + ": " + told);
+      prcAdd(Told(), told.empty() ? "" : value.append(": ").append(told));
     }
   }
 

@@ -266,7 +266,7 @@ void Transcript::prcTellFile() {
   std::map<std::string, std::string> now;
   std::string line, section;
   while (std::getline(file, line)) {
-    line.erase(line.find_last_not_of("\r") + 1);
+    line.erase(line.find_last_not_of('\r') + 1);
     const std::size_t equals = line.find('=');
     section = line.starts_with('[') ? line : section;
     if (equals != std::string::npos) {
@@ -277,7 +277,7 @@ void Transcript::prcTellFile() {
     // What a seat has won and turned over is told with its money.
     const bool blnMoney = key.ends_with("Stats]Win") || key.ends_with("Stats]Turnover");
     if (!blnMoney && topics_.contains("file") && (!file_.contains(key) || file_[key] != value)) {
-      prcClause(key + "=" + value);
+      prcClause(std::string(key).append("=").append(value));
     }
   }
   file_ = std::move(now);
