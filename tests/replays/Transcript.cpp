@@ -39,6 +39,14 @@ std::string fncIndexed(const std::string& name, int index) {
   return index < 0 ? name : name + "(" + std::to_string(index) + ")";
 }
 
+std::string fncJoined(std::initializer_list<std::string> parts) {
+  std::string text;
+  for (const std::string& part : parts) {
+    text += part;
+  }
+  return text;
+}
+
 /// A seat's money as its label shows it, and as the books keep it where that says more.
 std::string fncMoney(const std::string& caption, double kept) {
   std::string digits = caption;
@@ -298,13 +306,14 @@ void Transcript::prcTellMoney() {
     const bool blnPlayed = !win.empty() || !turnover.empty() || dblPlayerWin[i] != 0;
     prcTell(
         "money", "seat " + seat,
-        fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]) +
-            (!blnPlayed ? ""
-                        : ", won " + fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text,
-                                              dblPlayerWin[i])) +
-            (!blnPlayed || win == (won.starts_with('-') ? won : " " + won) ? ""
-                                                                           : " (file" + win + ")") +
-            (turnover.empty() ? "" : " of" + turnover) + ", bets " + bets);
+        fncJoined(
+            {fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]),
+             blnPlayed ? ", won " : "",
+             blnPlayed ? fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text, dblPlayerWin[i])
+                       : "",
+             !blnPlayed || win == (won.starts_with('-') ? won : " " + won) ? ""
+                                                                           : " (file" + win + ")",
+             turnover.empty() ? "" : " of" + turnover, ", bets ", bets}));
   }
 }
 
@@ -351,9 +360,10 @@ void Transcript::prcTellMarks() {
     const std::string caption =
         !text.Visible ? "line" : fncQuoted(text.Text) + (ink == "black" ? "" : " " + ink);
     prcTell("marks", "mark " + std::to_string(n),
-            !shape.Visible ? "none"
-                           : place + high + fncColour(shape.BorderColor) +
-                                 (shape.Form2D == ShapeForm::Oval ? " oval " : " ") + caption);
+            !shape.Visible
+                ? "none"
+                : fncJoined({place, high, fncColour(shape.BorderColor),
+                             shape.Form2D == ShapeForm::Oval ? " oval " : " ", caption}));
   }
 }
 
