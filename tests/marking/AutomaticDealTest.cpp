@@ -3,6 +3,7 @@
 #include "marking/MarkState.h"
 #include "platform/UserInput.h"
 #include "platform/headless/Headless.h"
+#include "table/Shoe.h"
 #include "tests/Game.h"
 
 namespace {
@@ -69,6 +70,9 @@ TEST_F(AutomaticDeal, ACardOfAnotherShoeReadsThatShoesHandAndItsOwnUnits) {
   EXPECT_EQ(MarkCards[3].shpTBP.at(0).Form2D, ShapeForm::Oval);
   EXPECT_EQ(MarkCards[3].lblTotal.at(0).Text, "-2");
   EXPECT_FALSE(fncPlaceMark(3).NewTotal) << "the column has its label by now";
+  intDecks[1] = 3;
+  ::Shuffle(1);
+  EXPECT_EQ(intLastCard[1], 8 * intSlotsOfDeck - 1);
 }
 
 TEST_F(AutomaticDeal, ACardOutsideIsToldUnderTheNameOfItsProcedure) {

@@ -31,6 +31,7 @@ TEST_F(SettingsStore, ReadsWhatADamagedFileStillHolds) {
       {"equals sign in the value", "[File]\r\nLearn=a=b\r\n", "a=b"},
       {"empty value", "[File]\r\nLearn=\r\n", ""},
       {"first of two", "[File]\r\nLearn=1\r\nLearn=2\r\n", "1"},
+      {"first of two sections", "[File]\r\n[Deal]\r\n[File]\r\nLearn=1\r\n", "No"},
       {"comment", "[File]\r\n;Learn=True\r\nLearn=False\r\n", "False"},
       {"binary in front", fncJunk() + "\r\n[File]\r\nLearn=False\r\n", "False"},
       {"binary alone", fncJunk(), "No"},

@@ -91,8 +91,11 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
       ASSERT_EQ(row.substr(14), "<-Burnt");
     }
     Integer counted = 0;
-    for (const CardsDealtRow& row : varCardsDealtCount) {
-      counted += row.Suit[1] + row.Suit[2] + row.Suit[3] + row.Suit[4];
+    for (int i = 0; i < varCardsDealtCount.size(); ++i) {
+      const auto& suit = varCardsDealtCount[i].Suit;
+      counted += suit[1] + suit[2] + suit[3] + suit[4];
+      const auto& shown = frmCardsDealtCount.lstCardsDealtCount.List;
+      ASSERT_EQ(fncVal(shown.at(static_cast<std::size_t>(i)).substr(14)), suit[4]);
     }
     ASSERT_EQ(counted, burnt);
     ASSERT_EQ(frmCardsDealt.lstCardsDealt.ListIndex, burnt - 1);
@@ -120,6 +123,7 @@ TEST_F(ShoeTest, CardsAreNamedBySlot) {
   }
   EXPECT_EQ(fncCardValueName(0), "");
   EXPECT_EQ(fncCardValueName(14), "");
+  EXPECT_EQ(fncCardName(14), "Ace of Clubs");
 }
 
 TEST_F(ShoeTest, AShuffleTakesTwoSecondsAndServesEventsAfterEachCardOfBothItsLoops) {
