@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QListWidget>
 #include <QPainter>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QWindow>
@@ -54,8 +55,13 @@ class Looks : public testing::Test {
   }
   void TearDown() override { user::Reset(); }
 
+  /// What has been painted; a grab of the widget would paint it anew.
   static QImage fncShot() {
-    return stage::fncView(felt.Form).Ground->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QWidget& shell = *stage::fncView(felt.Form).Shell;
+    return shell.screen()
+        ->grabWindow(shell.winId())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
   }
   static QImage fncCard(int number) {
     QImage image(qt::fncCardSize(), QImage::Format_RGB32);
