@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 
 #include "table/Odds.h"
@@ -10,9 +11,8 @@ namespace {
 
 constexpr std::array<char, 3> chrResults{'B', 'P', 'T'};
 
-/// Chances below this at the ends of a grid are dropped; an evening of them is far below any share
-/// that is told.
-constexpr double dblNoChance = 1e-14;
+/// Chances below this are dropped; an evening of them is far below any share that is told.
+constexpr double dblNoChance = 1e-13;
 
 std::array<double, 3> fncChances(int decks) {
   const OddsRow& row = fncOdds(decks);
@@ -28,35 +28,41 @@ std::int64_t fncReach(const HandLaw& hand) {
   return *std::ranges::max_element(hand.Net) - fncLeast(hand);
 }
 
-/// The widest step on which all results of the hand lie; 0 where they are one.
-std::int64_t fncStep(const HandLaw& hand) {
-  std::int64_t step = 0;
+// --- Results kept as they are ---
+
+/// Adds the hand to every result. The three lists of sums rise each, so they are merged.
+void prcJoin(SumLaw& law, const HandLaw& hand) {
+  const std::vector<Atom> before = std::move(law.Atoms);
+  law.Atoms.clear();
+  law.Atoms.reserve(std::min(3 * before.size(), law.Most + 1));
+  std::array<std::size_t, 3> at{};
+  constexpr std::int64_t lngEnd = std::numeric_limits<std::int64_t>::max();
+  const auto sumOf = [&](std::size_t n) {
+    return at.at(n) < before.size() ? before[at.at(n)].Sum + hand.Net.at(n) : lngEnd;
+  };
+  std::array<std::int64_t, 3> sums{sumOf(0), sumOf(1), sumOf(2)};
+  for (std::int64_t least = 0; (least = *std::ranges::min_element(sums)) != lngEnd;) {
+    Atom atom{least, 0};
+    for (std::size_t n = 0; n < sums.size(); ++n) {
+      if (sums.at(n) == least) {
+        atom.Share += before[at.at(n)++].Share * hand.Chance.at(n);
+        sums.at(n) = sumOf(n);
+      }
+    }
+    if (atom.Share > dblNoChance) {
+      law.Atoms.push_back(atom);
+    }
+  }
   for (const std::int64_t net : hand.Net) {
-    step = std::gcd(step, net - fncLeast(hand));
+    law.Lattice = std::gcd(law.Lattice, net - hand.Net.front());
   }
-  return step;
 }
 
-bool fncFits(const SumLaw& law, std::int64_t step, std::int64_t reach) {
+// --- The grid ---
+
+bool fncFits(const SumLaw& law, std::int64_t reach) {
   const auto points = static_cast<std::int64_t>(law.Share.size() - 1) * law.Step;
-  return (points + reach) / step < static_cast<std::int64_t>(law.Most);
-}
-
-/// Lays the points of the grid wider apart or closer together, Share by Share, onto size points.
-template <class Lay>
-void prcRelay(SumLaw& law, std::size_t size, std::int64_t step, Lay lay) {
-  std::vector<double> share(size);
-  for (std::size_t i = 0; i < law.Share.size(); ++i) {
-    lay(share, i);
-  }
-  law.Share = std::move(share);
-  law.Step = step;
-}
-
-void prcRefine(SumLaw& law, std::int64_t step) {
-  const auto times = static_cast<std::size_t>(law.Step / step);
-  prcRelay(law, (law.Share.size() - 1) * times + 1, step,
-           [&](std::vector<double>& to, std::size_t i) { to[i * times] = law.Share[i]; });
+  return (points + reach) / law.Step < static_cast<std::int64_t>(law.Most);
 }
 
 /// Shares by which a result between two points goes to the point before both, to both, and to the
@@ -66,37 +72,39 @@ std::array<double, 4> fncSplit(double part) {
           part * (1 + part) * (2 - part) / 2, -part * (1 - part * part) / 6};
 }
 
-/// Doubles the step. The points that fall between two of the new ones are split.
-void prcCoarsen(SumLaw& law) {
-  const std::array<double, 4> half = fncSplit(0.5);
-  prcRelay(law, law.Share.size() / 2 + 3, 2 * law.Step,
-           [&](std::vector<double>& to, std::size_t i) {
-             const std::size_t at = i / 2 + 1;  // The grid gains a point at its low end.
-             if (i % 2 == 0) {
-               to[at] += law.Share[i];
-               return;
-             }
-             law.Exact = law.Exact && law.Share[i] == 0;
-             for (std::size_t n = 0; n < half.size(); ++n) {
-               to[at + n - 1] += law.Share[i] * half.at(n);
-             }
-           });
-  law.Low -= law.Step;
+/// Adds a share to a place on the grid that lies in twentieths from its first point.
+void prcLay(std::vector<double>& share, std::int64_t from, std::int64_t step, double part) {
+  const auto split = fncSplit(static_cast<double>(from % step) / static_cast<double>(step));
+  for (std::size_t n = 0; n < split.size(); ++n) {
+    share[static_cast<std::size_t>(from / step) + n] += split.at(n) * part;
+  }
 }
 
-/// Makes the grid fit for a hand: as fine as its results ask while there is room, else as coarse as
-/// needed.
-void prcFitGrid(SumLaw& law, const HandLaw& hand) {
-  const std::int64_t reach = fncReach(hand);
-  const std::int64_t step = std::gcd(law.Step, fncStep(hand));
-  if (law.Step == 0) {
-    law.Step = step;
-  } else if (step < law.Step && law.Exact && fncFits(law, step, reach)) {
-    prcRefine(law, step);
+/// Lays the results on a grid, one point before the first and two behind the last for what is
+/// split.
+void prcLayGrid(SumLaw& law) {
+  const std::int64_t low = law.Atoms.front().Sum, span = law.Atoms.back().Sum - low;
+  law.Step = law.Lattice;
+  while (span / law.Step + 4 >= static_cast<std::int64_t>(law.Most)) {
+    law.Step *= 2;
   }
-  while (!fncFits(law, law.Step, reach)) {
-    prcCoarsen(law);
+  law.Share.assign(static_cast<std::size_t>(span / law.Step) + 4, 0);
+  law.Low = low - law.Step;
+  for (const Atom& atom : law.Atoms) {
+    prcLay(law.Share, atom.Sum - low, law.Step, atom.Share);
   }
+  law.Atoms.clear();
+}
+
+/// Doubles the step.
+void prcCoarsen(SumLaw& law) {
+  std::vector<double> share(law.Share.size() / 2 + 4);
+  for (std::size_t i = 0; i < law.Share.size(); ++i) {
+    prcLay(share, static_cast<std::int64_t>(i), 2, law.Share[i]);
+  }
+  law.Share = std::move(share);
+  law.Step *= 2;
+  law.Low -= law.Step;
 }
 
 /// Adds the law, moved on by whole points, in a proportion.
@@ -119,7 +127,6 @@ void prcConvolve(SumLaw& law, const HandLaw& hand) {
       prcShift(law.Share, share, points + 1, hand.Chance.at(n));
       continue;
     }
-    law.Exact = false;
     const auto split = fncSplit(static_cast<double>(rest) / static_cast<double>(law.Step));
     for (std::size_t i = 0; i < split.size(); ++i) {
       prcShift(law.Share, share, points + i, hand.Chance.at(n) * split.at(i));
@@ -170,49 +177,69 @@ HandLaw fncHandLaw(const EveningHand& hand) {
 }
 
 void prcAddHand(SumLaw& law, const HandLaw& hand) {
-  prcAddMoments(law, hand);
-  if (fncReach(hand) > 0) {
-    prcFitGrid(law, hand);
-    prcConvolve(law, hand);
-    prcTrim(law);
+  if (fncReach(hand) == 0 && fncLeast(hand) == 0) {
+    return;
   }
+  prcAddMoments(law, hand);
+  if (law.fncExact()) {
+    prcJoin(law, hand);
+    if (law.Atoms.size() > law.Most) {
+      prcLayGrid(law);
+    }
+    return;
+  }
+  while (!fncFits(law, fncReach(hand))) {
+    prcCoarsen(law);
+  }
+  prcConvolve(law, hand);
+  prcTrim(law);
   law.Low += fncLeast(hand);
 }
 
 double fncShareAt(const SumLaw& law, std::int64_t sum) {
-  const std::int64_t from = sum - law.Low;
-  if (!law.Exact || from < 0 || (law.Step > 0 && from % law.Step != 0)) {
-    return 0;
-  }
-  const auto at = static_cast<std::size_t>(law.Step > 0 ? from / law.Step : from);
-  return at < law.Share.size() ? law.Share[at] : 0;
+  const auto atom = std::ranges::lower_bound(law.Atoms, sum, {}, &Atom::Sum);
+  return atom != law.Atoms.end() && atom->Sum == sum ? atom->Share : 0;
 }
 
 double fncShareBelow(const SumLaw& law, std::int64_t sum) {
   double below = 0;
+  for (const Atom& atom : law.Atoms) {
+    below += atom.Sum < sum ? atom.Share : 0;
+  }
   for (std::size_t i = 0; i < law.Share.size(); ++i) {
+    // A point of the grid stands for the half step on either side of it.
     const std::int64_t past = sum - law.Low - static_cast<std::int64_t>(i) * law.Step;
-    if (law.Exact) {
-      below += past > 0 ? law.Share[i] : 0;
-    } else {
-      // A point of a coarse grid stands for the half step on either side of it.
-      const double part = 0.5 + static_cast<double>(past) / static_cast<double>(law.Step);
-      below += law.Share[i] * std::clamp(part, 0.0, 1.0);
-    }
+    const double part = 0.5 + static_cast<double>(past) / static_cast<double>(law.Step);
+    below += law.Share[i] * std::clamp(part, 0.0, 1.0);
   }
   return below;
 }
 
+double fncShareNear(const SumLaw& law, std::int64_t sum) {
+  double near = 0;
+  for (std::size_t i = 0; i < law.Share.size(); ++i) {
+    const std::int64_t point = law.Low + static_cast<std::int64_t>(i) * law.Step;
+    near += 2 * std::abs(point - sum) <= 3 * law.Step ? std::abs(law.Share[i]) : 0;
+  }
+  return near;
+}
+
 std::array<double, 4> fncQuantiles(const SumLaw& law, const std::array<double, 4>& shares) {
+  const std::size_t size = law.fncExact() ? law.Atoms.size() : law.Share.size();
   std::array<double, 4> sums{};
   double below = 0;
   std::size_t next = 0;
-  for (std::size_t i = 0; i < law.Share.size() && next < sums.size(); ++i) {
-    below += law.Share[i];
-    const std::int64_t sum = law.Low + static_cast<std::int64_t>(i) * law.Step;
-    for (; next < sums.size() && (below >= shares.at(next) || i + 1 == law.Share.size()); ++next) {
-      sums.at(next) = static_cast<double>(sum) / intTwentieths;
+  for (std::size_t i = 0; i < size && next < sums.size(); ++i) {
+    const double share = law.fncExact() ? law.Atoms[i].Share : law.Share[i];
+    for (; next < sums.size() && (below + share >= shares.at(next) || i + 1 == size); ++next) {
+      const double part = std::clamp((shares.at(next) - below) / share, 0.0, 1.0) - 0.5;
+      const double sum = law.fncExact()
+                             ? static_cast<double>(law.Atoms[i].Sum)
+                             : static_cast<double>(law.Low) +
+                                   (static_cast<double>(i) + part) * static_cast<double>(law.Step);
+      sums.at(next) = sum / intTwentieths;
     }
+    below += share;
   }
   return sums;
 }

@@ -23,25 +23,41 @@ HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat);
 /// The bets of both seats, which win and lose on the same cards.
 HandLaw fncHandLaw(const EveningHand& hand);
 
-/// The law of a sum of hands, each on its own: chances on a grid of money. The grid is exact until
-/// it would need more than Most points; then its step doubles, and a result between two points is
-/// split among its neighbours so that mean, variance and skewness stay.
+/// One result of a sum, in twentieths, and its chance.
+struct Atom {
+  std::int64_t Sum = 0;
+  double Share = 1;
+};
+
+/// The law of a sum of hands, each on its own. Every result is kept as it is until there are more
+/// than Most; from then on their chances lie on a grid of at most Most points, the step of which
+/// doubles where the hands outgrow it. A result between two points is split among its neighbours so
+/// that mean, variance and skewness stay.
 struct SumLaw {
-  std::size_t Most = 1U << 11U;    ///< Points that the grid may have.
-  bool Exact = true;               ///< No result has been split.
-  std::int64_t Low = 0;            ///< The first point, in twentieths.
-  std::int64_t Step = 0;           ///< From point to point, in twentieths; 0 before the first bet.
-  std::vector<double> Share{1.0};  ///< The chance of each point.
-  double Mean = 0, Variance = 0;   ///< Of the sum itself, in money; never rounded to the grid.
+  std::size_t Most = 1U << 11U;     ///< Results, or points of the grid.
+  std::vector<Atom> Atoms{Atom{}};  ///< The results, rising; none once there is a grid.
+  std::int64_t Lattice = 0;         ///< What all distances of results are multiples of.
+  std::int64_t Low = 0;             ///< The first point of the grid, in twentieths.
+  std::int64_t Step = 0;            ///< From point to point, in twentieths.
+  std::vector<double> Share{};      ///< The chance of each point.
+  double Mean = 0, Variance = 0;    ///< Of the sum itself, in money; never rounded to the grid.
+  bool fncExact() const { return !Atoms.empty(); }
 };
 
 /// Adds one more hand to the sum.
 void prcAddHand(SumLaw& law, const HandLaw& hand);
 
-/// The share 0..1 of sums below one given in twentieths, and of those that are just it; the latter
-/// is 0 on a grid that is not exact.
+/// The share 0..1 of sums below one given in twentieths. On a grid half of those that are just it
+/// count as below, as far as that can be told; fncShareNear is the share among which they are.
 double fncShareBelow(const SumLaw& law, std::int64_t sum);
+
+/// The share of those that are just a sum; 0 on a grid, which cannot tell.
 double fncShareAt(const SumLaw& law, std::int64_t sum);
 
-/// The least sums, in money, at or below which these shares lie. The shares rise.
+/// The share on the points of the grid up to one and a half steps from a sum; 0 where results are
+/// exact.
+double fncShareNear(const SumLaw& law, std::int64_t sum);
+
+/// The sums, in money, at or below which these shares lie: the least such, and on a grid the place
+/// between its points. The shares rise.
 std::array<double, 4> fncQuantiles(const SumLaw& law, const std::array<double, 4>& shares);

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Points of a grid times hands that are reckoned without being felt, and the least and most points
-/// that a grid gets of them.
+/// Points of a law times hands that are reckoned without being felt, and the least and most points
+/// that a law gets of them.
 constexpr std::size_t lngPointsAndHands = 8'000'000;
 constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 20U;
 
@@ -49,14 +49,16 @@ SumLaw fncSum(const std::vector<HandLaw>& laws, std::size_t most) {
   return sum;
 }
 
-/// The places among those who bet the same. How far a coarse grid is off shows against one that is
-/// twice as coarse.
+/// The places among those who bet the same. A grid is off by what it differs from one at least
+/// twice as coarse, and cannot tell who came out just the same from who came near.
 void prcCompare(Luck& luck, const std::vector<HandLaw>& laws, const SumLaw& sum) {
   const std::int64_t won = std::llround(luck.Won * intTwentieths);
-  luck.Worse = fncShareBelow(sum, won);
-  luck.Better = 1 - luck.Worse - fncShareAt(sum, won);
-  if (!sum.Exact) {
-    luck.Error = std::abs(luck.Worse - fncShareBelow(fncSum(laws, sum.Most / 2), won));
+  luck.Worse = std::clamp(fncShareBelow(sum, won), 0.0, 1.0);
+  luck.Better = std::max(1 - luck.Worse - fncShareAt(sum, won), 0.0);
+  luck.Exact = sum.fncExact();
+  if (!luck.Exact) {
+    luck.Error = std::abs(luck.Worse - fncShareBelow(fncSum(laws, sum.Most / 4), won)) +
+                 fncShareNear(sum, won) / 2;
   }
 }
 

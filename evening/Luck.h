@@ -23,7 +23,8 @@ struct Luck {
   double Deviations = 0;           ///< Fortune in standard deviations; 0 where nothing could vary.
   double Worse = 0;                ///< Share of players betting the same who would have won less.
   double Better = 0;               ///< Share who would have won more.
-  double Error = 0;                ///< How far the two shares may be off; 0 where they are exact.
+  bool Exact = true;               ///< The two shares are exact.
+  double Error = 0;                ///< How far they may be off where they are not.
 };
 
 /// The luck of a scope. A fresh shoe of the hand's size gives the odds of every hand.

@@ -38,13 +38,12 @@ std::string fncOfHundred(double share) {
   return std::to_string(std::lround(share * 100));
 }
 
-std::string fncExactness(double error) {
-  if (error == 0) {
+std::string fncExactness(const Luck& luck) {
+  if (luck.Exact) {
     return "These shares are exact for full shoes.";
   }
   return "These shares are right to within " +
-         (error < 0.001 ? std::string("0.1") : fncTenths(std::ceil(error * 1000) / 10)) +
-         " percent.";
+         fncTenths(std::max(std::ceil(luck.Error * 1000), 1.0) / 10) + " percent.";
 }
 
 }  // namespace
@@ -64,5 +63,5 @@ std::string fncLuckWords(const Scope& scope, const Luck& luck) {
          fncCurrency(-luck.Expected) + " of that." + strLineBreak + fncFortune(luck) +
          strLineBreak + "Of 100 players with the same bets " + fncOfHundred(luck.Worse) +
          " would have done worse, " + fncOfHundred(luck.Better) + " better." + strLineBreak +
-         fncExactness(luck.Error);
+         fncExactness(luck);
 }
