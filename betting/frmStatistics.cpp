@@ -261,6 +261,7 @@ void mskSteak_Validate(Integer Index, bool& Cancel) {
   prcShowMoney(BaccTable.lblPlayerTotal[Index], dblPlayerTotal[Index]);
   running.Step(7);
   prcShowMoney(frmStatistics.lblCurrentMoney[Index], fncCurrentMoney(Index));
+  hooks.StakeChanged();
 }
 
 void prcPrepareStatistics() {

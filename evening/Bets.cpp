@@ -1,5 +1,6 @@
 #include "evening/Bets.h"
 
+#include <optional>
 #include <vector>
 
 #include "betting/BetEntry.h"
@@ -10,9 +11,9 @@ namespace {
 /// The chips of both seats, by seat and BetSide.
 using Bets = std::array<std::array<int, 3>, intSeats>;
 
-std::vector<Bets> colBefore;  ///< The bets before each change, since the last hand.
-Bets betPlayed{};             ///< Of each seat, those of the last hand on which it had any.
-bool blnPlacing = false;      ///< The changes under way are one, noted already.
+std::vector<Bets> colBefore;    ///< The bets before each change, since the last hand.
+std::optional<Bets> betPlayed;  ///< Those of the last hand.
+bool blnPlacing = false;        ///< The changes under way are one, noted already.
 
 int& fncChipsOf(Bets& bets, int seat, BetSide side) {
   return bets.at(static_cast<std::size_t>(seat)).at(static_cast<std::size_t>(side));
@@ -35,10 +36,10 @@ void prcNoteBefore(const Bets& bets) {
 }
 
 /// Whether chips can be clicked. A bet that is being typed is checked and booked first, as by a
-/// click elsewhere; a refusal leaves all as it is.
+/// click elsewhere; a refusal leaves all as it is. The focus stays.
 bool fncTableOpen() {
   const Control& chip = BaccTable.lblBBetInc1[0];
-  return fncSeen(chip) && fncUsable(chip) && fncSetFocus(BaccTable.txtsetfocus) && fncSeen(chip) &&
+  return fncSeen(chip) && fncUsable(chip) && fncCheckFocus(BaccTable.Form) && fncSeen(chip) &&
          fncUsable(chip);
 }
 
@@ -54,6 +55,9 @@ struct Placing {
 /// its money may be needed for what goes up.
 void prcPlace(Bets bets) {
   const Placing placing;
+  if (bets == fncBetsNow() || !fncSetFocus(BaccTable.txtsetfocus)) {
+    return;
+  }
   for (const bool blnDown : {true, false}) {
     for (int i = 0; i < intSeats; ++i) {
       for (const BetSide side : betSides) {
@@ -66,6 +70,12 @@ void prcPlace(Bets bets) {
   }
 }
 
+/// The same as one step that can be taken back.
+void prcChangeTo(const Bets& bets) {
+  prcNoteBefore(fncBetsNow());
+  prcPlace(bets);
+}
+
 }  // namespace
 
 void prcNoteBetChange(BetSide side, Integer intSeat, double dblChips) {
@@ -75,12 +85,7 @@ void prcNoteBetChange(BetSide side, Integer intSeat, double dblChips) {
 }
 
 void prcNoteBetsPlayed() {
-  const Bets bets = fncBetsNow();
-  for (std::size_t i = 0; i < bets.size(); ++i) {
-    if (bets.at(i) != Bets::value_type{}) {
-      betPlayed.at(i) = bets.at(i);
-    }
-  }
+  betPlayed = fncBetsNow();
   prcForgetBetChanges();
 }
 
@@ -88,22 +93,14 @@ void prcForgetBetChanges() { colBefore.clear(); }
 
 void prcForgetBets() {
   prcForgetBetChanges();
-  betPlayed = {};
+  betPlayed.reset();
   blnPlacing = false;
 }
 
 void prcRepeatBets() {
-  if (!fncTableOpen()) {
-    return;
+  if (betPlayed && fncTableOpen()) {
+    prcChangeTo(*betPlayed);
   }
-  Bets bets = fncBetsNow();
-  for (std::size_t i = 0; i < bets.size(); ++i) {
-    if (betPlayed.at(i) != Bets::value_type{}) {
-      bets.at(i) = betPlayed.at(i);
-    }
-  }
-  prcNoteBefore(fncBetsNow());
-  prcPlace(bets);
 }
 
 void prcTakeBack() {
@@ -135,6 +132,5 @@ void prcDoubleBets() {
       chips *= 2;
     }
   }
-  prcNoteBefore(fncBetsNow());
-  prcPlace(bets);
+  prcChangeTo(bets);
 }

@@ -18,8 +18,8 @@ void prcForgetBetChanges();
 /// Nothing was bet yet, as at the start of the program.
 void prcForgetBets();
 
-/// Makes the bets of each seat those of the last hand on which it had any. Where it had none, its
-/// bets stay.
+/// Makes the bets of each seat those of the last hand dealt; a seat that sat out has none then.
+/// Before the first hand nothing happens.
 void prcRepeatBets();
 
 /// Undoes the last change of a bet, or the last repetition or doubling as a whole, back to the bets

@@ -18,8 +18,8 @@ extern CourseWindow frmCourse;
 /// Opens the window.
 void prcShowCourse();
 
-/// Hands have been added: an open window follows a moment later, so that a run of many hands is
-/// followed once.
+/// Hands have been added, or the money was changed from elsewhere: an open window follows a moment
+/// later, so that a run of many hands is followed once.
 void prcFollowCourse();
 
 /// Prepares the window's events. Called once at the start of the program.

@@ -14,26 +14,6 @@ constexpr std::array<Colour, intSeats> clrSeats{Colour{20, 92, 60}, Colour{38, 7
 constexpr Colour clrStake{138, 106, 16};
 constexpr double dblCurveWidth = 1.75, dblRunWidth = 3.5;
 
-/// The hands that a scope shows: from the one behind which it begins, 0 for the start, to its last.
-struct Reach {
-  int From = 0, To = 0;
-
-  bool fncHolds(const Stretch& stretch) const {
-    return stretch.Amount > 0 && stretch.From >= From && stretch.To <= To;
-  }
-};
-
-Reach fncReach(const Scope& scope) {
-  const int hands = static_cast<int>(colEveningHands.size());
-  if (scope.Shoe == 0) {
-    return {0, hands};
-  }
-  const auto of = [](const EveningHand& hand) { return int{hand.Shoe}; };
-  const auto place = [](auto hand) { return static_cast<int>(hand - colEveningHands.begin()); };
-  return {place(std::ranges::lower_bound(colEveningHands, scope.Shoe, {}, of)),
-          place(std::ranges::upper_bound(colEveningHands, scope.Shoe, {}, of))};
-}
-
 bool fncHasSeat(const Scope& scope, int seat) { return scope.Seat < 0 || scope.Seat == seat; }
 
 float fncFloat(double number) { return static_cast<float>(number); }
@@ -41,11 +21,16 @@ float fncFloat(double number) { return static_cast<float>(number); }
 /// A chart under construction, of one seat at a time.
 struct Sheet {
   ChartData& Chart;
+  int Shoe;
   Reach Hands;
   int Seat;
-  std::vector<CurvePoint> Curve;  ///< By hand.
+  std::vector<CurvePoint> Curve;  ///< By hand, from the one behind which it begins.
 
-  const CurvePoint& fncPoint(int hand) const { return Curve[static_cast<std::size_t>(hand)]; }
+  const CurvePoint& fncPoint(int hand) const {
+    return Curve[static_cast<std::size_t>(hand - Hands.From)];
+  }
+  /// Whether what has happened since the last hand belongs here.
+  bool fncGoesOn() const { return Hands.To == std::ssize(colEveningHands); }
   ChartPoint fncMoney(int hand) const { return {fncFloat(hand), fncFloat(fncPoint(hand).Money)}; }
 };
 
@@ -68,20 +53,25 @@ void prcAddCurve(Sheet& sheet) {
                                .Points = fncPoints(sheet, sheet.Hands, fncMoneyOf)});
 }
 
-/// The base line, with a step where the stake changes.
+/// The base line, with a step behind the hand after which the stake changed.
 void prcAddStake(Sheet& sheet, bool blnNamed) {
+  const Reach& hands = sheet.Hands;
   std::vector<ChartPoint> points;
-  for (const ChartPoint& point :
-       fncPoints(sheet, sheet.Hands, [](const CurvePoint& at) { return at.Stake; })) {
-    if (!points.empty() && points.back().Y != point.Y) {
-      points.push_back({point.X - 1, points.back().Y});
-      points.push_back({point.X - 1, point.Y});
-    } else if (points.empty()) {
-      points.push_back(point);
+  const auto stepTo = [&](int hand, double stake) {
+    if (points.back().Y != fncFloat(stake)) {
+      points.push_back({fncFloat(hand), points.back().Y});
+      points.push_back({fncFloat(hand), fncFloat(stake)});
     }
-    if (point.X == fncFloat(sheet.Hands.To)) {
-      points.push_back(point);
-    }
+  };
+  points.push_back({fncFloat(hands.From), fncFloat(sheet.fncPoint(hands.From).Stake)});
+  for (int hand = hands.From; hand < hands.To; ++hand) {
+    stepTo(hand, sheet.fncPoint(hand + 1).Stake);
+  }
+  if (sheet.fncGoesOn()) {
+    stepTo(hands.To, fncStakeNow(sheet.Seat));
+  }
+  if (points.back().X != fncFloat(hands.To)) {
+    points.push_back({fncFloat(hands.To), points.back().Y});
   }
   sheet.Chart.Lines.push_back({.Name = blnNamed ? "Stake" : "",
                                .Ink = clrStake,
@@ -109,8 +99,8 @@ void prcAddBands(Sheet& sheet, bool blnNamed) {
 }
 
 void prcAddMarks(Sheet& sheet) {
-  const Stretch fall = fncDeepestFall(sheet.Seat);
-  if (sheet.Hands.fncHolds(fall)) {
+  const Stretch fall = fncDeepestFall(sheet.Seat, sheet.Shoe);
+  if (fall.Amount > 0) {
     sheet.Chart.Lines.push_back({.Ink = clrLoss,
                                  .Width = 1,
                                  .blnDashed = true,
@@ -118,16 +108,19 @@ void prcAddMarks(Sheet& sheet) {
     sheet.Chart.Marks.push_back(
         {sheet.fncMoney(fall.To), clrLoss, "Deepest fall " + fncCurrency(fall.Amount)});
   }
-  const Stretch run = fncLongestLosingRun(sheet.Seat);
-  if (sheet.Hands.fncHolds(run)) {
+  const Stretch run = fncLongestLosingRun(sheet.Seat, sheet.Shoe);
+  if (run.Amount > 0) {
     sheet.Chart.Lines.push_back({.Ink = clrLoss,
                                  .Width = dblRunWidth,
                                  .Points = fncPoints(sheet, {run.From, run.To}, fncMoneyOf)});
     sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
                                  std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
   }
-  for (int hand = sheet.Hands.From + 1; hand <= sheet.Hands.To; ++hand) {
-    if (colEveningHands[static_cast<std::size_t>(hand) - 1].Reset) {
+  for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
+    const bool blnReset = hand < sheet.Hands.To
+                              ? colEveningHands[static_cast<std::size_t>(hand)].Reset
+                              : sheet.fncGoesOn() && fncResetSince();
+    if (blnReset) {
       sheet.Chart.Marks.push_back({sheet.fncMoney(hand), clrStake, "Statistics reset"});
     }
   }
@@ -144,24 +137,23 @@ void prcAddShoes(ChartData& chart, Reach reach) {
 }
 
 std::string fncSeatSentence(const Scope& scope, int seat) {
-  const std::vector<CurvePoint> curve = fncCurve(seat);
-  const Reach reach = fncReach(scope);
-  const auto from = curve.begin() + reach.From;
-  const auto to = curve.begin() + reach.To + 1;
-  const auto [low, high] = std::ranges::minmax_element(from, to, {}, &CurvePoint::Money);
+  const std::vector<CurvePoint> curve = fncCurve(seat, scope.Shoe);
+  const Reach reach = fncReach(scope.Shoe);
+  const auto [low, high] = std::ranges::minmax_element(curve, {}, &CurvePoint::Money);
   const auto at = [&](auto point) {
-    return fncCurrency(point->Money) + " behind hand " + std::to_string(point - curve.begin());
+    return fncCurrency(point->Money) + " behind hand " +
+           std::to_string(point - curve.begin() + reach.From);
   };
-  std::string sentence = " " + fncSeatName(seat) + " came with " + fncCurrency(from->Money) +
-                         " and has " + fncCurrency((to - 1)->Money) + ", had most, " + at(high) +
-                         ", and least, " + at(low) + ".";
-  const Stretch fall = fncDeepestFall(seat);
-  const Stretch run = fncLongestLosingRun(seat);
-  if (reach.fncHolds(fall)) {
+  std::string sentence =
+      " " + fncSeatName(seat) + " came with " + fncCurrency(curve.front().Money) + " and has " +
+      fncCurrency(curve.back().Money) + ", had most, " + at(high) + ", and least, " + at(low) + ".";
+  const Stretch fall = fncDeepestFall(seat, scope.Shoe);
+  const Stretch run = fncLongestLosingRun(seat, scope.Shoe);
+  if (fall.Amount > 0) {
     sentence += " The deepest fall was " + fncCurrency(fall.Amount) + ", from hand " +
                 std::to_string(fall.From) + " to " + std::to_string(fall.To) + ".";
   }
-  if (reach.fncHolds(run)) {
+  if (run.Amount > 0) {
     sentence += " Most losses in a row: " + std::to_string(static_cast<int>(run.Amount)) + ".";
   }
   return sentence;
@@ -176,11 +168,11 @@ std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
   }
   chart->AxisName = "Hand";
   chart->YText = fncCurrency;
-  const Reach reach = fncReach(scope);
+  const Reach reach = fncReach(scope.Shoe);
   std::vector<Sheet> sheets;
   for (int seat = 0; seat < intSeats; ++seat) {
     if (fncHasSeat(scope, seat)) {
-      sheets.push_back({*chart, reach, seat, fncCurve(seat)});
+      sheets.push_back({*chart, scope.Shoe, reach, seat, fncCurve(seat, scope.Shoe)});
     }
   }
   for (Sheet& sheet : sheets) {
@@ -197,7 +189,7 @@ std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
 }
 
 std::string fncCourseSentence(const Scope& scope) {
-  const Reach reach = fncReach(scope);
+  const Reach reach = fncReach(scope.Shoe);
   if (reach.To == reach.From) {
     return "Course of the money: no hand has been settled yet.";
   }

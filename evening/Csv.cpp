@@ -42,7 +42,7 @@ std::string fncSeatFields(const EveningHand& hand, int i) {
         fncBetMoney(hand, i, betTie), fncMoneyBefore(hand, i), hand.Money.at(seat)}) {
     fields += fncPlainNumberText(money) + ',';
   }
-  return fields + std::to_string(hand.Stake.at(seat)) + ',';
+  return fields + fncPlainNumberText(hand.Stake.at(seat)) + ',';
 }
 
 std::string fncRow(int number) {
@@ -53,7 +53,7 @@ std::string fncRow(int number) {
         fncCardsBrief(hand, Side::Player), fncCardsBrief(hand, Side::Banker),
         std::to_string(fncTotalOf(hand, Side::Player)),
         std::to_string(fncTotalOf(hand, Side::Banker)), std::string(fncResultName(hand.Result)),
-        fncQuoted(fncDecisions(hand)), std::to_string(hand.ChipValue)}) {
+        fncQuoted(fncDecisions(hand)), fncPlainNumberText(hand.ChipValue)}) {
     row += field + ',';
   }
   return row + fncSeatFields(hand, 0) + fncSeatFields(hand, 1) + (hand.Reset ? "yes" : "no") +

@@ -12,24 +12,26 @@ struct Band {
   std::array<float, 4> Edges{};
 };
 
-/// The bands of a seat behind each hand so far, and the law behind the last of them.
+/// The bands of a seat behind each hand of a reach so far, and the law behind the last of them.
 struct Bands {
   SumLaw Law;
   std::deque<Band> ByHand;
 };
-std::array<Bands, intSeats> bands;
+std::array<Bands, intSeats> bands;  ///< Of the whole evening.
+
+const EveningHand& fncHand(int number) {
+  return colEveningHands[static_cast<std::size_t>(number) - 1];
+}
 
 /// Works out the bands of the hands that came since they were last asked for.
-const std::deque<Band>& fncBands(Integer intSeat) {
-  Bands& seat = bands.at(static_cast<std::size_t>(intSeat));
-  while (seat.ByHand.size() < colEveningHands.size()) {
-    prcAddHand(seat.Law, fncHandLaw(colEveningHands[seat.ByHand.size()], intSeat));
-    Band band{.Mean = static_cast<float>(seat.Law.Mean)};
-    std::ranges::transform(fncQuantiles(seat.Law, dblBandShares), band.Edges.begin(),
+void prcExtend(Bands& of, Integer intSeat, Reach reach) {
+  for (int n = reach.From + static_cast<int>(of.ByHand.size()) + 1; n <= reach.To; ++n) {
+    prcAddHand(of.Law, fncHandLaw(fncHand(n), intSeat));
+    Band band{.Mean = static_cast<float>(of.Law.Mean)};
+    std::ranges::transform(fncQuantiles(of.Law, dblBandShares), band.Edges.begin(),
                            [](double edge) { return static_cast<float>(edge); });
-    seat.ByHand.push_back(band);
+    of.ByHand.push_back(band);
   }
-  return seat.ByHand;
 }
 
 /// A band lies around the money that the seat would own had its bets moved none.
@@ -37,7 +39,7 @@ CurvePoint fncPoint(const EveningHand& hand, Integer intSeat, double won, const 
   const auto seat = static_cast<std::size_t>(intSeat);
   const double unmoved = hand.Money.at(seat) - won;
   CurvePoint point{.Money = hand.Money.at(seat),
-                   .Stake = static_cast<double>(hand.Stake.at(seat)),
+                   .Stake = hand.Stake.at(seat),
                    .Expected = unmoved + double{band.Mean}};
   std::ranges::transform(band.Edges, point.Band.begin(),
                          [&](float edge) { return unmoved + double{edge}; });
@@ -46,32 +48,45 @@ CurvePoint fncPoint(const EveningHand& hand, Integer intSeat, double won, const 
 
 }  // namespace
 
-std::vector<CurvePoint> fncCurve(Integer intSeat) {
+Reach fncReach(int shoe) {
+  if (shoe == 0) {
+    return {0, static_cast<int>(colEveningHands.size())};
+  }
+  const auto hands = std::ranges::equal_range(
+      colEveningHands, shoe, {}, [](const EveningHand& hand) { return int{hand.Shoe}; });
+  return {static_cast<int>(hands.begin() - colEveningHands.begin()),
+          static_cast<int>(hands.end() - colEveningHands.begin())};
+}
+
+std::vector<CurvePoint> fncCurve(Integer intSeat, int shoe) {
   std::vector<CurvePoint> curve;
-  if (colEveningHands.empty()) {
+  const Reach reach = fncReach(shoe);
+  if (reach.From == reach.To) {
     return curve;
   }
-  const std::deque<Band>& band = fncBands(intSeat);
-  curve.reserve(colEveningHands.size() + 1);
-  const EveningHand& first = colEveningHands.front();
-  EveningHand start = first;
-  start.Money.at(static_cast<std::size_t>(intSeat)) = fncMoneyBefore(first, intSeat);
+  Bands ofShoe;
+  Bands& of = shoe == 0 ? bands.at(static_cast<std::size_t>(intSeat)) : ofShoe;
+  prcExtend(of, intSeat, reach);
+  curve.reserve(of.ByHand.size() + 1);
+  EveningHand start = fncHand(reach.From + 1);
+  start.Money.at(static_cast<std::size_t>(intSeat)) = fncMoneyBefore(start, intSeat);
   curve.push_back(fncPoint(start, intSeat, 0, {}));
   double won = 0;
-  for (std::size_t n = 0; n < colEveningHands.size(); ++n) {
-    won += fncNet(colEveningHands[n], intSeat);
-    curve.push_back(fncPoint(colEveningHands[n], intSeat, won, band[n]));
+  for (const Band& band : of.ByHand) {
+    const EveningHand& hand = fncHand(reach.From + static_cast<int>(curve.size()));
+    won += fncNet(hand, intSeat);
+    curve.push_back(fncPoint(hand, intSeat, won, band));
   }
   return curve;
 }
 
-Stretch fncDeepestFall(Integer intSeat) {
+Stretch fncDeepestFall(Integer intSeat, int shoe) {
+  const Reach reach = fncReach(shoe);
   Stretch deepest;
   double won = 0, height = 0;
-  int top = 0, number = 0;
-  for (const EveningHand& hand : colEveningHands) {
-    won += fncNet(hand, intSeat);
-    ++number;
+  int top = reach.From;
+  for (int number = reach.From + 1; number <= reach.To; ++number) {
+    won += fncNet(fncHand(number), intSeat);
     if (won >= height) {
       height = won;
       top = number;
@@ -82,12 +97,11 @@ Stretch fncDeepestFall(Integer intSeat) {
   return deepest;
 }
 
-Stretch fncLongestLosingRun(Integer intSeat) {
+Stretch fncLongestLosingRun(Integer intSeat, int shoe) {
+  const Reach reach = fncReach(shoe);
   Stretch longest, run;
-  int number = 0;
-  for (const EveningHand& hand : colEveningHands) {
-    const double net = fncNet(hand, intSeat);
-    ++number;
+  for (int number = reach.From + 1; number <= reach.To; ++number) {
+    const double net = fncNet(fncHand(number), intSeat);
     if (net > 0) {
       run = {};
     } else if (net < 0) {

@@ -21,9 +21,15 @@ struct CurvePoint {
   std::array<double, 4> Band{};  ///< What it would own at the edges of the band.
 };
 
-/// One point for each hand, and in front of them the seat as it came to the first one; empty before
-/// that. The bands of hands seen before are kept.
-std::vector<CurvePoint> fncCurve(Integer intSeat);
+/// The hands of a shoe from 1, or of all for 0: from the one behind which it begins to its last.
+struct Reach {
+  int From = 0, To = 0;
+};
+Reach fncReach(int shoe);
+
+/// One point for each hand of a reach, and in front of them the seat as it came to the first one;
+/// empty where there is none. The bands begin there. Those of the whole evening are kept.
+std::vector<CurvePoint> fncCurve(Integer intSeat, int shoe = 0);
 
 /// A stretch of hands, from the one behind which it begins to its last; From 0 is the start. Amount
 /// is money, or hands lost. Where there is none all are 0.
@@ -32,12 +38,12 @@ struct Stretch {
   double Amount = 0;
 };
 
-/// The deepest fall of a seat's winnings from a height before it.
-Stretch fncDeepestFall(Integer intSeat);
+/// The deepest fall of a seat's winnings from a height before it, within a shoe or, for 0, in all.
+Stretch fncDeepestFall(Integer intSeat, int shoe = 0);
 
 /// The most losing hands of a seat without a winning one between; hands that moved no money count
-/// for neither.
-Stretch fncLongestLosingRun(Integer intSeat);
+/// for neither. Within a shoe or, for 0, in all.
+Stretch fncLongestLosingRun(Integer intSeat, int shoe = 0);
 
 /// Forgets the bands that are kept.
 void prcForgetCurve();

@@ -20,6 +20,7 @@ void prcHandSettled() {
 void prcStatisticsReset() {
   prcNoteReset();
   prcForgetBetChanges();
+  prcFollowCourse();
 }
 
 }  // namespace
@@ -33,5 +34,6 @@ void prcStartEvening() {
   hooks = {.HandSettled = prcHandSettled,
            .BetChanging = prcNoteBetChange,
            .StatisticsReset = prcStatisticsReset,
+           .StakeChanged = prcFollowCourse,
            .MenusLaidOut = prcLayOutEveningMenu};
 }

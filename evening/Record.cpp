@@ -40,11 +40,12 @@ void prcNoteSeat(EveningHand& hand, Integer i) {
   money = dblPlayerTotal[i];
   for (const BetSide side : betSides) {
     hand.Chips.at(fncAt(i)).at(fncAt(side)) = fncInteger(fncBetChips(side, i));
+    hand.Paid.at(fncAt(i)).at(fncAt(side)) = fncBet(side, i).Money;
     if (!fncLoses(side, strResult[intShoeNumber])) {
       money += fncBet(side, i).Money;
     }
   }
-  hand.Stake.at(fncAt(i)) = fncLong(fncGetSetting(fncSeatSection(i), "Stake"));
+  hand.Stake.at(fncAt(i)) = fncStakeNow(i);
 }
 
 }  // namespace
@@ -63,7 +64,7 @@ int fncTotalOf(const EveningHand& hand, Side side, int intCards) {
 }
 
 double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side) {
-  return 1.0 * hand.ChipValue * hand.Chips.at(fncAt(intSeat)).at(fncAt(side));
+  return hand.Paid.at(fncAt(intSeat)).at(fncAt(side));
 }
 
 double fncStaked(const EveningHand& hand, Integer intSeat) {
@@ -78,8 +79,11 @@ double fncNet(const EveningHand& hand, Integer intSeat, char result) {
   const std::string letter(1, result);
   double net = 0;
   for (const BetSide side : betSides) {
-    const double bet = fncBetMoney(hand, intSeat, side);
-    net += fncWins(side, letter) ? bet * fncPays(side) : fncLoses(side, letter) ? -bet : 0;
+    if (fncWins(side, letter)) {
+      net += hand.Chips.at(fncAt(intSeat)).at(fncAt(side)) * hand.ChipValue * fncPays(side);
+    } else if (fncLoses(side, letter)) {
+      net -= fncBetMoney(hand, intSeat, side);
+    }
   }
   return net;
 }
@@ -94,7 +98,7 @@ void prcNoteHand() {
   }
   hand.Decks = static_cast<std::uint8_t>(intDecksInPlay[intShoeNumber]);
   hand.Cards = fncCardsOnTable();
-  hand.ChipValue = fncLong(fncUnitValue());
+  hand.ChipValue = fncUnitValue();
   hand.Result = strResult[intShoeNumber].front();
   for (int i = 0; i < intSeats; ++i) {
     prcNoteSeat(hand, i);
@@ -103,6 +107,10 @@ void prcNoteHand() {
   blnResetSince = false;
   colEveningHands.push_back(hand);
 }
+
+bool fncResetSince() { return blnResetSince; }
+
+double fncStakeNow(Integer intSeat) { return fncGetSetting(fncSeatSection(intSeat), "Stake"); }
 
 void prcNoteReset() { blnResetSince = !colEveningHands.empty(); }
 

@@ -7,17 +7,17 @@
 #include "table/Bets.h"
 
 // Every hand settled since the program started. It lives in memory alone: the end of the program
-// forgets it. A hand is small, so that an evening of ten thousand costs half a megabyte.
+// forgets it. A hand is small, so that an evening of ten thousand costs less than a megabyte.
 
 /// One settled hand. Seats are 0..1.
 struct EveningHand {
   std::array<double, intSeats>
       Money{};  ///< All that a seat owns behind it, bets that stay included.
-  std::array<std::int32_t, intSeats>
-      Stake{};  ///< The seat's stake in money, the curve's base line.
+  std::array<double, intSeats> Stake{};  ///< The seat's stake in money, the curve's base line.
+  double ChipValue = 0;                  ///< Money per chip.
+  std::array<std::array<std::int32_t, 3>, intSeats> Paid{};   ///< In money, by seat and BetSide.
   std::array<std::array<std::int16_t, 3>, intSeats> Chips{};  ///< By seat and BetSide.
   std::array<std::uint8_t, intPositions> Cards{};  ///< 1..52 by table position; 0 where none lay.
-  std::int32_t ChipValue = 0;                      ///< Money per chip.
   std::int16_t Shoe = 0;   ///< The evening's shoes that dealt a hand, from 1.
   std::uint8_t Decks = 0;  ///< 1, 2, 4, 6 or 8.
   char Result = 'T';       ///< 'B', 'P' or 'T'.
@@ -39,12 +39,13 @@ inline int fncTotalOf(const EveningHand& hand, Side side) {
   return fncTotalOf(hand, side, fncCardsOf(hand, side));
 }
 
-/// A bet of a seat in money; the three bets of a seat in money.
+/// What a bet of a seat was paid with, in money; what its three bets were paid with.
 double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side);
 double fncStaked(const EveningHand& hand, Integer intSeat);
 
 /// What the bets of a seat win, less what they lose, in money: on a result 'B', 'P' or 'T', or as
-/// the hand came out.
+/// the hand came out. A bet wins by its chips, and loses what was paid for it; the two differ where
+/// the chip value changed in between.
 double fncNet(const EveningHand& hand, Integer intSeat, char result);
 inline double fncNet(const EveningHand& hand, Integer intSeat) {
   return fncNet(hand, intSeat, hand.Result);
@@ -64,6 +65,12 @@ void prcNoteHand();
 
 /// The next hand begins anew behind a reset of the statistics.
 void prcNoteReset();
+
+/// Whether the statistics were reset since the last hand.
+bool fncResetSince();
+
+/// The stake of a seat as of now, in money.
+double fncStakeNow(Integer intSeat);
 
 /// Forgets all hands, as at the start of the program.
 void prcForgetHands();

@@ -14,6 +14,8 @@ struct GameHooks {
                                                                            double) {};
   /// All statistics have been set to zero, and the bets are off the table.
   void (*StatisticsReset)() = [] {};
+  /// The stake of a seat has been changed.
+  void (*StakeChanged)() = [] {};
   /// The frame's menus up to Options stand; those of a companion come here, in front of Web.
   void (*MenusLaidOut)() = [] {};
 };

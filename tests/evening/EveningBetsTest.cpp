@@ -47,7 +47,7 @@ class EveningBets : public Game {
   }
 };
 
-TEST_F(EveningBets, AreRepeatedAsOfTheLastHandWithABet) {
+TEST_F(EveningBets, AreRepeatedAsOfTheLastHand) {
   Repeat();
   EXPECT_EQ(Table(), "0/0/0 $1,000, 0/0/0 $1,000") << "nothing was bet yet";
   Bet(betBanker, 0, "5");
@@ -62,7 +62,7 @@ TEST_F(EveningBets, AreRepeatedAsOfTheLastHandWithABet) {
                                    "0/0/0 $930, 0/0/3 $1,000"}));
   Deal();  // Seat 0 sits out.
   Repeat();
-  EXPECT_EQ(Table().substr(0, 5), "2/5/0");
+  EXPECT_EQ(Table(), "0/0/0 $930, 0/0/3 $970") << "and so it does in the repetition";
   EXPECT_TRUE(user::Boxes().empty());
 }
 
@@ -114,6 +114,17 @@ TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
     EXPECT_EQ(Table(), "0/4/0 $910, 0/0/0 $1,000") << "in the middle of a hand";
   });
   Deal();
+}
+
+TEST_F(EveningBets, LeaveTheFocusWhereItIsWhenNothingIsToBeDone) {
+  ASSERT_TRUE(user::Click(BaccTable.txtUnitValue));
+  const std::uint32_t given = BaccTable.Form.FocusGiven;
+  Repeat();
+  TakeBack();
+  Double();
+  EXPECT_EQ(BaccTable.Form.ActiveControl, &BaccTable.txtUnitValue);
+  EXPECT_EQ(std::uint32_t{BaccTable.Form.FocusGiven}, given)
+      << "nor is it given anew, which would mark the text";
 }
 
 TEST_F(EveningBets, OfBeforeAResetAreNotBroughtBack) {

@@ -109,6 +109,36 @@ TEST_F(EveningRecord, LosesTheBetsOfAHandInWhichTheStatisticsAreReset) {
   EXPECT_EQ(fncNet(colEveningHands[0], 0), 0);
 }
 
+TEST_F(EveningRecord, GoesByWhatWasPaidWhereTheChipValueChangedSince) {
+  Bet(betBanker, 0, "5");
+  Bet(betPlayer, 1, "5");
+  user::Type(BaccTable.txtUnitValue, "20");
+  user::Tab(BaccTable.Form);
+  DealResult("B");
+  EXPECT_EQ(Money(0), "1000/1000 1095/1000 ") << "$50 win $95";
+  EXPECT_EQ(Money(1), "1000/1000 950/1000 ") << "$50 lose $50";
+  EXPECT_EQ(Stored("Player1Stats", "Turnover"), "50");
+  EXPECT_EQ(fncStaked(colEveningHands[0], 0), 50);
+}
+
+class EveningOfOddSettings : public EveningRecord {
+ protected:
+  void SetUp() override {
+    Game::SetUp();
+    Setting("Player1Stats", "Stake", "3000000000");
+    Setting("Misc", "UnitValue", "5000000000");
+    Start();
+    Shuffle();
+  }
+};
+
+TEST_F(EveningOfOddSettings, DoesNotEndTheGame) {
+  Deal();
+  EXPECT_EQ(LastBox(), "");
+  EXPECT_FALSE(user::Ended());
+  EXPECT_EQ(Money(0), "3000000000/3000000000 3000000000/3000000000 ");
+}
+
 TEST(EveningReasons, FollowTheDrawRules) {
   struct Case {
     std::array<std::uint8_t, 6>
@@ -134,6 +164,7 @@ TEST(EveningCurve, FindsTheDeepestFallAndTheLongestLosingRun) {
   for (const char result : std::string("PBTBPBB-BP")) {
     EveningHand hand{.ChipValue = 10, .Decks = 8, .Result = result};
     hand.Chips[1][betPlayer] = result == '-' ? 0 : 1;
+    hand.Paid[1][betPlayer] = result == '-' ? 0 : 10;
     hand.Result = result == '-' ? 'B' : result;
     colEveningHands.push_back(hand);
   }

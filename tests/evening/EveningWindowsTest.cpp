@@ -200,25 +200,58 @@ TEST_F(EveningWindows, LuckIsTheResultLessWhatTheEdgeCosts) {
   EXPECT_EQ(headless::Printed(), Lines{"Course of the Money"});
 }
 
-TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarked) {
+TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
+  using Points = std::vector<ChartPoint>;
   PlayThree();
+  Open(prcShowCourse);
+  headless::Click(frmCourse.optSeat[0]);
   headless::WhileModal([] {
     headless::Type(frmStatistics.mskSteak[0], "1500");
     headless::Click(frmStatistics.Command1);
   });
   prcStatistics();
+  headless::Wait(300);
+  EXPECT_EQ(Line("Stake").Points, (Points{{0, 1000}, {3, 1000}, {3, 1500}}));
   DealResult("P");
   headless::Answer(platform::Answer::Ok);
   headless::WhileModal([] { headless::Click(frmStatistics.cmdResetStats); });
   prcStatistics();
+  headless::Wait(300);
+  const auto resets = [] {
+    Points places;
+    for (const ChartMark& mark : frmCourse.crtMoney.Chart->Marks) {
+      if (mark.Text == "Statistics reset") {
+        places.push_back(mark.At);
+      }
+    }
+    return places;
+  };
+  EXPECT_EQ(resets(), (Points{{4, 1495}}));
   DealResult("P");
+  headless::Wait(300);
+  EXPECT_EQ(resets(), (Points{{4, 1495}})) << "it stays where it was";
+  EXPECT_EQ(Line("Stake").Points, (Points{{0, 1000}, {3, 1000}, {3, 1500}, {5, 1500}}));
+  EXPECT_EQ(Line("Player 1").Points.back(), (ChartPoint{5, 1500}));
+}
+
+TEST_F(EveningWindows, AShoeIsTakenAsAnEveningOfItsOwn) {
+  Bet(betBanker, 0, "50");
+  DealResult("P");
+  headless::Answer(platform::Answer::Ok);
+  Shuffle(2);
+  Bet(betPlayer, 0, "10");
+  DealResult("P");
+  DealResult("B");
   Open(prcShowCourse);
   headless::Click(frmCourse.optSeat[0]);
-  EXPECT_EQ(Line("Stake").Points,
-            (std::vector<ChartPoint>{{0, 1000}, {3, 1000}, {3, 1500}, {5, 1500}}));
-  EXPECT_EQ(Line("Player 1").Points.back(), (ChartPoint{5, 1500}));
-  const auto& marks = frmCourse.crtMoney.Chart->Marks;
-  EXPECT_EQ(std::ranges::count(marks, "Statistics reset", &ChartMark::Text), 1);
+  prcSetValue(frmCourse.Shoe.sldShoe, 2);
+  EXPECT_EQ(frmCourse.crtMoney.Spoken,
+            "Course of the money over 2 hands. Player 1 came with $500 and has $500, had most, "
+            "$600 behind hand 2, and least, $500 behind hand 1. The deepest fall was $100, "
+            "from hand 2 to 3. Most losses in a row: 1.");
+  const auto& band = frmCourse.crtMoney.Chart->Bands.front().Spans;
+  EXPECT_EQ(band.front().Low, band.front().High) << "nothing has been bet yet";
+  EXPECT_EQ((std::array{band.back().Low, band.back().High}), (std::array{300.F, 700.F}));
 }
 
 }  // namespace

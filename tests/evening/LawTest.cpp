@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -9,11 +10,20 @@
 
 namespace {
 
+/// Makes the chips of a hand worth so much each.
+void prcPay(EveningHand& hand, std::int32_t unit) {
+  hand.ChipValue = unit;
+  for (std::size_t i = 0; i < hand.Chips.size(); ++i) {
+    std::ranges::transform(hand.Chips.at(i), hand.Paid.at(i).begin(),
+                           [&](int count) { return count * unit; });
+  }
+}
+
 EveningHand fncHand(char result, std::array<std::int16_t, 3> chips, std::int32_t unit = 10,
                     std::uint8_t decks = 8, std::array<std::int16_t, 3> other = {}) {
   EveningHand hand;
   hand.Chips = {chips, other};
-  hand.ChipValue = unit;
+  prcPay(hand, unit);
   hand.Decks = decks;
   hand.Result = result;
   hand.Shoe = 1;
@@ -189,7 +199,7 @@ TEST(Luck, TellsHowFarACoarseGridMayBeOff) {
   colEveningHands.clear();
   for (int n = 0; n < 3000; ++n) {
     colEveningHands.push_back(fncMixed(n % 40 + 1).back());
-    colEveningHands.back().ChipValue = n % 2 == 0 ? 10 : 9990;
+    prcPay(colEveningHands.back(), n % 2 == 0 ? 10 : 9990);
   }
   const Luck luck = fncLuck({});
   EXPECT_GT(luck.Error, 0);
