@@ -71,6 +71,12 @@ TEST_F(Saving, TheDialogNamesTheFileByItsKind) {
     type(folder_.filePath(typed), kind);
     EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), fncPath(path));
   }
+  type(folder_.filePath("four.jpg"), 1);
+  EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), fncPath("four.jpg.svg"));
+  ASSERT_EQ(platform::SaveFile(fncPath("five.jpg.png"), "kept"), "");
+  type(folder_.filePath("five.jpg"), 0);
+  EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), "")
+      << "it is there already: the dialog stays, to ask, and is closed";
   EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), "") << "closed, and not accepted";
 }
 

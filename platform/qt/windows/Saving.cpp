@@ -11,6 +11,7 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 
 #include "platform/platform.h"
@@ -27,7 +28,10 @@ constexpr int intPictureFactor = 2;  // A saved picture is to look sharp on a la
 /// Shows one of the toolkit's dialogs above the window in use and serves events until it is closed.
 /// Returns whether it was accepted.
 bool fncAsk(QDialog& dialog) {
-  const QPointer<QWidget> parent(QApplication::activeWindow());
+  QPointer<QWidget> parent(QApplication::activeWindow());
+  if (parent == &dialog) {
+    parent.clear();  // Shown again: it has its parent.
+  }
   if (parent != nullptr && parent->windowHandle() != nullptr) {
     dialog.winId();
     dialog.windowHandle()->setTransientParent(parent->windowHandle());
@@ -45,6 +49,27 @@ bool fncAsk(QDialog& dialog) {
 QString fncFilter(const platform::FileKind& kind) {
   return QStringLiteral("%1 (*.%2)")
       .arg(QString::fromUtf8(kind.Name), QString::fromUtf8(kind.Ending));
+}
+
+/// Serves the dialog until a file is chosen that has one of these endings; empty where it is given
+/// up. A name with another one gets that of the filter: if there is such a file already, the dialog
+/// comes again with it, to ask about it.
+QString fncChosen(QFileDialog& dialog, std::span<const platform::FileKind> kinds) {
+  while (fncAsk(dialog)) {
+    const QString path = dialog.selectedFiles().value(0);
+    const QString ending = QFileInfo(path).suffix();
+    if (std::ranges::any_of(kinds, [&](const platform::FileKind& kind) {
+          return ending.compare(QLatin1String(kind.Ending), Qt::CaseInsensitive) == 0;
+        })) {
+      return path;
+    }
+    const QString named = path + QLatin1Char('.') + dialog.defaultSuffix();
+    if (!QFileInfo::exists(named)) {
+      return named;
+    }
+    dialog.selectFile(named);
+  }
+  return {};
 }
 
 /// Draws a control as it looks when nobody points at it.
@@ -113,7 +138,7 @@ std::string AskSavePath(const std::string& title, const std::string& name,
   };
   QObject::connect(dialog.get(), &QFileDialog::filterSelected, dialog.get(), follow);
   follow(filters.front());
-  return fncAsk(*dialog) ? dialog->selectedFiles().value(0).toStdString() : std::string();
+  return fncChosen(*dialog, kinds).toStdString();
 }
 
 std::string SaveFile(const std::string& path, const std::string& contents) {
