@@ -52,10 +52,11 @@ Reach fncReach(int shoe) {
   if (shoe == 0) {
     return {0, static_cast<int>(colEveningHands.size())};
   }
-  const auto hands = std::ranges::equal_range(
-      colEveningHands, shoe, {}, [](const EveningHand& hand) { return int{hand.Shoe}; });
-  return {static_cast<int>(hands.begin() - colEveningHands.begin()),
-          static_cast<int>(hands.end() - colEveningHands.begin())};
+  const auto shoeOf = [](const EveningHand& hand) { return int{hand.Shoe}; };
+  const auto from = std::ranges::lower_bound(colEveningHands, shoe, {}, shoeOf);
+  const auto to = std::ranges::upper_bound(colEveningHands, shoe, {}, shoeOf);
+  return {static_cast<int>(from - colEveningHands.begin()),
+          static_cast<int>(to - colEveningHands.begin())};
 }
 
 std::vector<CurvePoint> fncCurve(Integer intSeat, int shoe) {

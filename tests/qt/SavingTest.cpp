@@ -127,6 +127,23 @@ TEST_F(Saving, APictureIsTwiceAsFineAndADrawingIsNoPicture) {
   EXPECT_TRUE(QSvgRenderer(drawing).isValid());
 }
 
+TEST_F(Saving, AStepOfACurveStandsUprightUpAsWellAsDown) {
+  for (const float to : {70.F, 0.F}) {
+    std::array<QImage, 2> pictures;
+    for (const bool blnPointBetween : {false, true}) {
+      auto data = std::make_shared<ChartData>();
+      data->Lines.push_back({.Points = {{0, 35}, {10, 35}, {10, to}}});
+      if (blnPointBetween) {
+        data->Lines[0].Points.insert(data->Lines[0].Points.begin() + 1, {9, 35});
+      }
+      crtPaper.Chart = data;
+      ASSERT_EQ(platform::SavePicture(crtPaper, fncPath("step.png")), "");
+      pictures.at(blnPointBetween ? 1 : 0) = QImage(folder_.filePath("step.png"));
+    }
+    EXPECT_EQ(pictures[0], pictures[1]) << "level up to the step to " << to;
+  }
+}
+
 TEST_F(Saving, CopiedTextIsOnTheClipboard) {
   platform::CopyText("1,\u2660");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1,\u2660"));

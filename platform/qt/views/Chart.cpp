@@ -45,15 +45,21 @@ ChartPlot fncInPixels(ChartPlot plot) {
 }
 
 /// A row of places, thinned: of those that fall on one column, a pixel of the design broad, the
-/// lowest and highest are all that can be seen.
+/// lowest and highest are all that can be seen. They stay in their order, so that a step is
+/// upright.
 class Thinned {
  public:
   explicit Thinned(double column) : column_(column) {}
 
   void prcAdd(QPointF at) {
     if (blnOpen_ && std::floor(at.x() / column_) == std::floor(low_.x() / column_)) {
-      low_ = at.y() > low_.y() ? at : low_;
-      high_ = at.y() < high_.y() ? at : high_;
+      if (at.y() > low_.y()) {
+        low_ = at;
+        blnLowFirst_ = false;
+      } else if (at.y() < high_.y()) {
+        high_ = at;
+        blnLowFirst_ = true;
+      }
       return;
     }
     prcClose();
@@ -71,9 +77,9 @@ class Thinned {
     if (!blnOpen_) {
       return;
     }
-    kept_.append(low_.x() < high_.x() ? low_ : high_);
+    kept_.append(blnLowFirst_ ? low_ : high_);
     if (low_ != high_) {
-      kept_.append(low_.x() < high_.x() ? high_ : low_);
+      kept_.append(blnLowFirst_ ? high_ : low_);
     }
     blnOpen_ = false;
   }
@@ -82,6 +88,7 @@ class Thinned {
   QPolygonF kept_;
   QPointF low_, high_;
   bool blnOpen_ = false;
+  bool blnLowFirst_ = false;
 };
 
 QPen fncPen(const Sheet& sheet, const QColor& ink, double width, bool blnDashed) {

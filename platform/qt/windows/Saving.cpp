@@ -56,14 +56,14 @@ QString fncFilter(const platform::FileKind& kind) {
 /// comes again with it, to ask about it.
 QString fncChosen(QFileDialog& dialog, std::span<const platform::FileKind> kinds) {
   while (fncAsk(dialog)) {
-    const QString path = dialog.selectedFiles().value(0);
+    QString path = dialog.selectedFiles().value(0);
     const QString ending = QFileInfo(path).suffix();
     if (std::ranges::any_of(kinds, [&](const platform::FileKind& kind) {
           return ending.compare(QLatin1String(kind.Ending), Qt::CaseInsensitive) == 0;
         })) {
       return path;
     }
-    const QString named = path + QLatin1Char('.') + dialog.defaultSuffix();
+    QString named = path + QLatin1Char('.') + dialog.defaultSuffix();
     if (!QFileInfo::exists(named)) {
       return named;
     }
