@@ -225,7 +225,7 @@ void TBetInc(Integer Index, Integer intMultiple) { prcInc(betTie, Index, intMult
 
 void prcBetInc(BetSide side, Integer Index, Integer intMultiple) {
   static constexpr std::array incs{TBetInc, BBetInc, PBetInc};
-  incs.at(side)(Index, intMultiple);
+  incs.at(static_cast<std::size_t>(side))(Index, intMultiple);
 }
 
 void txtTieBet_GotFocus(Integer Index) { prcGotFocus(betTie, Index); }

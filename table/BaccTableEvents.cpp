@@ -112,7 +112,7 @@ constexpr ControlEvents evtTimer{.Timer = [](Control&) { Timer1_Timer(); }};
 
 void prcTieSeat(Integer i) {
   for (const BetSide side : betSides) {
-    fncBet(side, i).Box.On = &evtBoxes.at(side);
+    fncBet(side, i).Box.On = &evtBoxes.at(static_cast<std::size_t>(side));
   }
   for (Control* label : fncChips(i)) {
     label->On = fncChip(*label).Chips == 0 ? &evtClear : &evtChip;
