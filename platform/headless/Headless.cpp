@@ -221,6 +221,9 @@ void RunModal(Window& window) {
   if (window.Visible) {
     prcUserClose(window);
   }
+  if (window.Visible) {
+    fncUnload(window);  // A box that refuses is left as it is: there is nobody to mend it.
+  }
 }
 
 void Activate(Window& window) {
