@@ -98,6 +98,10 @@ void prcUseStatistics(std::uint8_t which, std::uint8_t how) {
     prcClick(frmStatistics.cmdResetStats);
   }
   prcClick(frmStatistics.Command1);
+  if (frmStatistics.Form.Visible) {  // A stake that is refused holds its user until it is mended.
+    prcType(frmStatistics.mskSteak[which % intSeats], "10000000");
+    prcClick(frmStatistics.Command1);
+  }
 }
 
 void prcMenu(std::uint8_t which, std::uint8_t how) {
