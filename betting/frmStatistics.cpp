@@ -69,7 +69,9 @@ void prcResetSeat(Integer i) {
 }
 
 constexpr ControlEvents evtReset{.Click = [](Control&) { cmdResetStats_Click(); }};
-constexpr ControlEvents evtOk{.Click = [](Control&) { fncUnload(frmStatistics.Form); }};
+void Command1_Click(Control& /*button*/) { fncUnload(frmStatistics.Form); }
+
+constexpr ControlEvents evtOk{.Click = Command1_Click};
 constexpr ControlEvents evtStake{
     .GotFocus = [](Control& box) { mskSteak_GotFocus(box.Index); },
     .Validate = [](Control& box, bool& Cancel) { mskSteak_Validate(box.Index, Cancel); }};
@@ -164,14 +166,14 @@ void prcLayOutStatistics(Window& form) {
   w.Command1.On = &evtOk;
 }
 
-void prcLoadStatistics(Window& form) {
+void Form_Load(Window& form) {
   prcLayOutStatistics(form);
   form.Topmost = true;
   prcReadPlace(form, "frmStatistics");
   prcStatisticsRefresh();
 }
 
-void prcUnloadStatistics(Window& form, bool&) {
+void Form_Unload(Window& form, bool&) {
   const Procedure running("frmStatistics_Form_Unload");
   prcWritePlace(form, "frmStatistics");
   running.Step(2);
@@ -180,7 +182,7 @@ void prcUnloadStatistics(Window& form, bool&) {
   prcSetButton("Statistics", 0);
 }
 
-constexpr WindowEvents evtStatistics{.Load = prcLoadStatistics, .Unload = prcUnloadStatistics};
+constexpr WindowEvents evtStatistics{.Load = Form_Load, .Unload = Form_Unload};
 
 }  // namespace
 

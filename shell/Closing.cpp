@@ -7,8 +7,10 @@
 #include "marking/MarkCard.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
+#include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "shell/frmSelectaShoe.h"
 #include "table/BaccTable.h"
 
 namespace {
@@ -25,7 +27,7 @@ void prcCloseMarkCards() {
   }
 }
 
-/// The lists of cards dealt, and what else floats: each window keeps its place.
+/// What else floats, such as the windows of the evening: each keeps its place.
 void prcCloseFloats() {
   // Each closing may take its window off the loaded ones.
   std::vector<Window*> floats;
@@ -45,9 +47,12 @@ void MDIForm1_Unload() {
   prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
   prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
   running.Step(2);
-  prcCloseFloats();
+  fncUnload(frmCardsDealt.Form);
+  fncUnload(frmCardsDealtCount.Form);
   fncUnload(BaccTable.Form);
   prcCloseMarkCards();
+  fncUnload(frmSelectaShoe.Form);
+  prcCloseFloats();
   // The frame's own unload is what runs here.
   prcForgetWindow(MDIForm1.Form);
   running.Step(3);

@@ -326,7 +326,7 @@ void Screen(double width, double height) {
 }
 
 void PlaceWindows() {
-  for (const std::vector<Window*> loaded = fncWindows(); Window * window : loaded) {
+  for (Window* window : fncWindows()) {
     if (window->FixedInner) {
       window->Width = window->ScaleWidth;
       window->Height = window->ScaleHeight;
