@@ -326,7 +326,9 @@ void Screen(double width, double height) {
 }
 
 void PlaceWindows() {
-  for (Window* window : fncWindows()) {
+  // A resize handler may load a window.
+  const std::vector<Window*> loaded(fncWindows().begin(), fncWindows().end());
+  for (Window* window : loaded) {
     if (window->FixedInner) {
       window->Width = window->ScaleWidth;
       window->Height = window->ScaleHeight;
