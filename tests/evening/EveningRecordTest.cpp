@@ -57,6 +57,7 @@ TEST_F(EveningRecord, HoldsEachSettledHandWithTheMoneyBeforeAndBehindIt) {
             ",1,6,Banker,\"Player 5 draws, Banker 4 draws against 6\",10,50,0,10,1000,1037.5,1000,"
             "0,20,0,1000,980,1000,no");
   EXPECT_EQ(std::ranges::count(csv, '\n'), 3);
+  EXPECT_EQ(fncCardBrief(13) + fncCardBrief(14) + fncCardBrief(27) + fncCardBrief(49), "KSACAD10H");
   EXPECT_EQ(Money(0), "1000/1000 1037.5/1000 1037.5/1000 ");
 }
 

@@ -75,10 +75,10 @@ void prcSeeAction(Control& seen, const QAction& action) {
   seen.Value = action.isChecked() ? 1 : 0;
 }
 
-void prcSeeText(Control& seen, const QLineEdit& edit) {
-  const bool blnPlain =
-      seen.Kind != ControlKind::MaskedEdit || fncMaskShown(seen) != fncTold(edit.text());
-  seen.Text = blnPlain ? fncTold(edit.text()) : seen.Text;
+void prcSeeText(Control& seen, const QLineEdit& edit, bool blnTyped) {
+  const std::string meant =
+      blnTyped || seen.Kind != ControlKind::MaskedEdit ? seen.Text : fncMaskShown(seen);
+  seen.Text = fncTold(edit.text()) == meant ? seen.Text : "shows " + fncTold(edit.text());
   if (edit.hasFocus()) {
     seen.SelLength = static_cast<int>(edit.selectedText().size());
   }
@@ -96,7 +96,7 @@ void prcSeeRows(Control& seen, const QListWidget& list) {
 void prcSeeKind(Control& seen, const qt::ControlView& view) {
   QWidget* widget = view.Widget;
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    prcSeeText(seen, *edit);
+    prcSeeText(seen, *edit, view.Home.Source->ActiveControl == view.Source);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
     seen.Text = fncTold(button->text());
     seen.Value = button->isCheckable() ? (button->isChecked() ? 1 : 0) : seen.Value;

@@ -124,6 +124,7 @@ TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
   const double before = qt::fncScale();
   for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.5}) {
     qt::prcSetScale(scale);
+    EXPECT_EQ(qt::fncPixels(qt::fncTwips(97)), 97) << scale;
     for (int twips = 0; twips < 400; twips += 7) {
       const QRect left = qt::fncPixelRect(twips, 0, 135, 100);
       EXPECT_EQ(left.right() + 1, qt::fncPixelRect(twips + 135, 0, 20, 100).left());
@@ -206,14 +207,18 @@ TEST_F(Looks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   user::Settle();
   QWidget& shell = *stage::fncView(child).Ground->parentWidget();
   QWindow* handle = shell.window()->windowHandle();
-  const auto at = [&](QPoint inside) { return handle->mapFromGlobal(shell.mapToGlobal(inside)); };
-  const QPoint from = at(QPoint(40, 10));
-  QTest::mousePress(handle, Qt::LeftButton, {}, from);
-  QTest::mouseMove(handle, from + QPoint(30, 20));
-  QTest::mouseRelease(handle, Qt::LeftButton, {}, from + QPoint(30, 20));
-  user::Settle();
+  const auto drag = [&](QPoint way) {
+    const QPoint from = handle->mapFromGlobal(shell.mapToGlobal(QPoint(40, 10)));
+    QTest::mousePress(handle, Qt::LeftButton, {}, from);
+    QTest::mouseMove(handle, from + way);
+    QTest::mouseRelease(handle, Qt::LeftButton, {}, from + way);
+    user::Settle();
+  };
+  drag({30, 20});
   EXPECT_EQ(qt::fncPixels(child.Left), qt::fncPixels(600) + 30);
   EXPECT_EQ(qt::fncPixels(child.Top), qt::fncPixels(600) + 20);
+  drag({0, -400});
+  EXPECT_EQ(shell.y(), 0) << "a title stays within reach";
   child.Left = -90;
   user::Settle();
   EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";

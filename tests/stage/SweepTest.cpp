@@ -336,6 +336,11 @@ class Sweep {
     Begin();
     prcPoint(top_, at);
     strTold.clear();
+    prcPress(top_, Qt::LeftButton);
+    Click(Qt::RightButton);
+    prcLift(top_, Qt::LeftButton);
+    prcExpect(name + " with a second button", once);
+    Begin();
     prcTurnWheel(top_, 1);
     prcExpect(name + " under the wheel", {});
     Refuse(control, name, at);

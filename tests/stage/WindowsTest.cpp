@@ -45,7 +45,7 @@ TEST_F(Windows, CtrlF4AsksTheChildThatHasTheInputAndMayBeClosed) {
     stage::prcKey(Qt::Key_F4, Qt::ControlModifier);
   };
   ctrlF4(fncMarkCard(0)->Form);
-  EXPECT_TRUE(blnMarkCardLoaded && !user::Ended()) << "the marking card cannot be closed";
+  EXPECT_NE(fncMarkCard(0), nullptr) << "the marking card cannot be closed";
   blnBusy = true;
   ctrlF4(BaccTable.Form);
   ASSERT_EQ(user::Boxes().size(), 1U);
@@ -80,6 +80,15 @@ TEST_F(Windows, AChildThatGoesLeavesTheInputToTheOther) {
   fncUnload(card);
   user::Settle();
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form);
+}
+
+TEST_F(Windows, TheMarkingCardIsPannedByItsBarAndByKeys) {
+  MarkCardWindow& card = *fncMarkCard(0);
+  user::Click(card.HScroll1);
+  EXPECT_EQ(card.HScroll1.Value, card.HScroll1.LargeChange);
+  user::Activate(card.Form);
+  stage::prcKey(Qt::Key_Right);
+  EXPECT_EQ(card.Picture1.Left, -card.HScroll1.LargeChange - card.HScroll1.SmallChange);
 }
 
 TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
