@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/Texts.h"
-#include "platform/platform.h"
 
 namespace {
 
@@ -70,12 +69,6 @@ void prcLoad(Window& window) {
 void prcShow(Window& window) {
   prcLoad(window);
   window.Visible = true;
-}
-
-void prcShowModal(Window& window) {
-  prcShow(window);
-  prcToFront(window);
-  platform::RunModal(window);
 }
 
 bool fncUnload(Window& window) {

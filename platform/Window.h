@@ -92,10 +92,6 @@ void prcLoad(Window& window);
 /// Loads the window if needed, and makes it visible.
 void prcShow(Window& window);
 
-/// Shows the window as a modal dialog and returns when it is hidden or unloaded. Events are served
-/// meanwhile.
-void prcShowModal(Window& window);
-
 /// Unloads a loaded window: runs its unload handler; unless that cancels, hides it and gives up its
 /// handle. Returns whether it is gone; True for a window that was not loaded.
 bool fncUnload(Window& window);

@@ -1,6 +1,7 @@
 #include "shell/Dialogs.h"
 
 #include "betting/frmStatistics.h"
+#include "platform/Modal.h"
 #include "platform/Procedure.h"
 #include "shell/MDIForm1.h"
 #include "shell/Switches.h"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Layout.h"
+#include "platform/Modal.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 #include "shell/About.h"

@@ -4,6 +4,7 @@
 #include <QWindow>
 
 #include "marking/MarkCard.h"
+#include "platform/Modal.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/WindowViews.h"
