@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
 
 namespace qt {
 

@@ -7,7 +7,6 @@
 #include <QStyleOption>
 #include <QToolTip>
 #include <algorithm>
-#include <cmath>
 
 #include "platform/qt/looks/Parts.h"
 #include "platform/qt/looks/Scale.h"
@@ -203,28 +202,6 @@ QPalette fncPalette() {
 }
 
 }  // namespace
-
-QColor fncColour(const Colour& colour) {
-  return colour.Clear ? QColor(0, 0, 0, 0) : QColor(colour.Red, colour.Green, colour.Blue);
-}
-
-QFont fncFont(const Type& face) {
-  QFont font;
-  if (face.Fixed) {
-    font.setFamilies({QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
-                      QStringLiteral("Courier New")});
-    font.setStyleHint(QFont::Monospace);
-  } else {
-    font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
-                      QStringLiteral("DejaVu Sans")});
-    font.setStyleHint(QFont::SansSerif);
-  }
-  font.setPixelSize(
-      std::max(1, static_cast<int>(std::lround(double{face.Size} * 96 / 72 * fncScale()))));
-  font.setBold(face.Bold);
-  font.setUnderline(face.Underline);
-  return font;
-}
 
 QFont fncPlainFont() { return fncFont({sngPlainSize}); }
 

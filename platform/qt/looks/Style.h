@@ -1,29 +1,14 @@
 #pragma once
 
-#include <QColor>
 #include <QFont>
 
-#include "platform/Control.h"
+#include "platform/qt/looks/Palette.h"
 
-// How the program looks: its colours, its type and the drawing of the toolkit's standard parts.
+class QPainter;
+
+// How the program draws the toolkit's standard parts.
 
 namespace qt {
-
-inline constexpr QRgb rgbIvory = 0xFFF3EFE4;     ///< Bars and dialogs.
-inline constexpr QRgb rgbPaper = 0xFFFFFDF5;     ///< Boxes that take input.
-inline constexpr QRgb rgbInk = 0xFF26221A;       ///< Text on ivory.
-inline constexpr QRgb rgbFaded = 0xFF665F4F;     ///< Disabled text on ivory.
-inline constexpr QRgb rgbGold = 0xFFC9A227;      ///< Accents.
-inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;  ///< Outlines of the accents, and the focus.
-inline constexpr QRgb rgbFelt = 0xFF0E4A33;      ///< The ground of the night.
-inline constexpr QRgb rgbDarkFelt = 0xFF08301F;
-inline constexpr QRgb rgbOutline = 0xFFB5AA8E;
-
-/// A colour of the model; Clear becomes transparent.
-QColor fncColour(const Colour& colour);
-
-/// A face of the model at the scale in use.
-QFont fncFont(const Type& face);
 
 /// The face in which the toolkit's own texts (menus, tool tips, message boxes) are set.
 QFont fncPlainFont();

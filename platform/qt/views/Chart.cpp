@@ -7,8 +7,8 @@
 #include "platform/Chart.h"
 #include "platform/Picking.h"
 #include "platform/Texts.h"
+#include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
 #include "platform/qt/views/ControlViews.h"
 
 namespace qt {

@@ -9,9 +9,9 @@
 
 #include "platform/UserInput.h"
 #include "platform/qt/input/Acts.h"
+#include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Buttons.h"
 #include "platform/qt/views/ControlViews.h"
 

@@ -15,7 +15,7 @@
 #include <memory>
 
 #include "platform/platform.h"
-#include "platform/qt/looks/Style.h"
+#include "platform/qt/looks/Palette.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Loop.h"

@@ -11,7 +11,6 @@
 #include "platform/UserInput.h"
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/ChildShell.h"
