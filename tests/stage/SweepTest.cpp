@@ -14,7 +14,7 @@
 #include "bench/UserEvents.h"
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Pictures.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "tests/Game.h"
 #include "tests/stage/Stage.h"

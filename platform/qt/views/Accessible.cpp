@@ -9,7 +9,7 @@
 
 #include "platform/UserInput.h"
 #include "platform/qt/input/Acts.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/ChildShell.h"
 

@@ -9,7 +9,7 @@
 #include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/Loop.h"
 

@@ -3,10 +3,12 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include "platform/UserInput.h"
+#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 
 namespace qt {
@@ -115,6 +117,16 @@ void ProgressView::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgb(rgbGold));
     painter.drawRoundedRect(done, corner / 2, corner / 2);
+  }
+}
+
+void prcConnectClick(ControlView& view, QAbstractButton& button) {
+  const auto act = [&view] { prcAct(view, prcUserClick); };
+  if (button.isCheckable()) {
+    button.setAutoExclusive(false);
+    QObject::connect(&button, &QAbstractButton::toggled, &button, act);
+  } else {
+    QObject::connect(&button, &QAbstractButton::clicked, &button, act);
   }
 }
 

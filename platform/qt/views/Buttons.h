@@ -71,4 +71,9 @@ class ProgressView : public QProgressBar {
   void paintEvent(QPaintEvent* event) override;
 };
 
+/// Tells the model of what is done to a button by other ways than mouse and keys. One that can be
+/// checked is turned over by some of them without a click; which others it then releases is the
+/// model's to say.
+void prcConnectClick(ControlView& view, QAbstractButton& button);
+
 }  // namespace qt

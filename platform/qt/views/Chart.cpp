@@ -9,7 +9,7 @@
 #include "platform/Texts.h"
 #include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 
 namespace qt {
 

@@ -15,6 +15,7 @@
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Buttons.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Grid.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/views/Painted.h"
@@ -24,20 +25,6 @@
 namespace qt {
 
 namespace {
-
-bool fncPainted(ControlKind kind) {
-  switch (kind) {
-    case ControlKind::Label:
-    case ControlKind::Picture:
-    case ControlKind::Shape:
-    case ControlKind::Line:
-    case ControlKind::Frame:
-    case ControlKind::Chart:
-      return true;
-    default:
-      return false;
-  }
-}
 
 /// What only adorns lets the mouse through to what lies below. Whatever may hold other controls
 /// must not: the toolkit would let them go with it.
@@ -306,16 +293,6 @@ void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
 
 }  // namespace
 
-void prcConnectClick(ControlView& view, QAbstractButton& button) {
-  const auto act = [&view] { prcAct(view, prcUserClick); };
-  if (button.isCheckable()) {
-    button.setAutoExclusive(false);
-    QObject::connect(&button, &QAbstractButton::toggled, &button, act);
-  } else {
-    QObject::connect(&button, &QAbstractButton::clicked, &button, act);
-  }
-}
-
 void prcMakeControl(ControlView& view, QWidget* parent) {
   const Control& control = *view.Source;
   const KindRow& row = fncRow(control.Kind);
@@ -397,50 +374,6 @@ void prcShowFocusTexts(WindowView& home) {
       }
     }
   }
-}
-
-QString fncText(const std::string& text) {
-  QString shown = QString::fromStdString(text);
-  shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  return shown;
-}
-
-QString fncSpokenName(const Control& control) {
-  if (control.Dress == Look::Shadow) {
-    return {};  // Whatever throws the shadow is spoken of.
-  }
-  if (!control.Spoken.empty()) {
-    const bool blnShown = control.Kind == ControlKind::Label && control.Dress != Look::Chip;
-    const QStringList lines = fncText(control.Text).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    const QString name = fncText(control.Spoken);
-    return blnShown ? (name + QLatin1Char(' ') + lines.join(QLatin1String(", "))).simplified()
-                    : name;
-  }
-  const bool blnTyped =
-      control.Kind == ControlKind::TextBox || control.Kind == ControlKind::MaskedEdit;
-  if (control.Text.empty() || blnTyped) {
-    return fncText(control.ToolTip);
-  }
-  QString name = fncText(control.Text);
-  if (!fncPainted(control.Kind)) {
-    name.remove(QLatin1Char('&'));
-  }
-  return name;
-}
-
-QString fncCaption(const Control& control) {
-  QString caption = fncText(control.Text);
-  const auto at = caption.indexOf(QLatin1Char(control.AccessKey), 0, Qt::CaseInsensitive);
-  if (control.AccessKey != 0 && at >= 0) {
-    caption.insert(at, QLatin1Char('&'));
-  }
-  return caption;
-}
-
-QString fncObjectName(const Control& control) {
-  const QString name = QString::fromUtf8(control.Name);
-  return control.Index < 0 ? name
-                           : QStringLiteral("%1(%2)").arg(name).arg(std::int16_t{control.Index});
 }
 
 }  // namespace qt

@@ -10,7 +10,7 @@
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/Loop.h"
 
 namespace qt {

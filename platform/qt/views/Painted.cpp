@@ -9,8 +9,8 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Chart.h"
-#include "platform/qt/views/ControlViews.h"
 
 namespace qt {
 

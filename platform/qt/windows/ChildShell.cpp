@@ -8,7 +8,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/WindowViews.h"

@@ -9,7 +9,7 @@
 
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 

@@ -16,7 +16,7 @@
 
 #include "platform/platform.h"
 #include "platform/qt/looks/Palette.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"

@@ -12,7 +12,7 @@
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Boxes.h"
-#include "platform/qt/views/ControlViews.h"
+#include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/ChildShell.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Topmost.h"
