@@ -24,6 +24,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"

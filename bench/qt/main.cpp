@@ -7,6 +7,7 @@
 #include "platform/UserInput.h"
 #include "platform/platform.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 #include "shell/Program.h"
 #include "shell/StartScreen.h"
 #include "table/BaccTable.h"

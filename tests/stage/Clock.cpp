@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 
 /// Exported by the toolkit for event loops like this one, but told in none of its public headers.
 class QWindowSystemInterface {

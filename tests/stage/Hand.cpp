@@ -18,6 +18,8 @@
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/windows/ChildShell.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
+#include "platform/qt/windows/Sync.h"
 #include "tests/conformance/Adapter.h"
 #include "tests/stage/Clock.h"
 #include "tests/stage/Stage.h"

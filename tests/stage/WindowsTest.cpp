@@ -7,7 +7,6 @@
 #include "platform/Modal.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"

@@ -3,9 +3,9 @@
 #include <QApplication>
 
 #include "platform/qt/views/ControlViews.h"
-#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/InFront.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

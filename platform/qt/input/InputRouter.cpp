@@ -6,10 +6,11 @@
 #include <QMouseEvent>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/InFront.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/Sync.h"
 #include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
@@ -153,8 +154,8 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
     case QEvent::Resize:
       if (WindowView* view = fncWindowViewOf(&widget);
           view != nullptr && (view->Shell == &widget || view->Ground == &widget)) {
-        if (widget.isWindow() || view->Source->Kind == WindowKind::Frame) {
-          prcWindowMoved(*view);
+        if (fncWindowMoved(*view)) {
+          prcSyncAll();
         }
       }
       break;

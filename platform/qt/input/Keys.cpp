@@ -7,12 +7,12 @@
 
 #include "platform/Picking.h"
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/input/InputRouter.h"
 #include "platform/qt/views/Menus.h"
+#include "platform/qt/windows/InFront.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

@@ -6,6 +6,7 @@
 
 #include "platform/UserInput.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 
 #if defined(Q_OS_UNIX)
 #include <fcntl.h>

@@ -11,7 +11,6 @@
 
 #include "platform/platform.h"
 #include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 

@@ -6,6 +6,7 @@
 #include "platform/qt/machine/Closing.h"
 #include "platform/qt/machine/OneInstance.h"
 #include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Session.h"
 
 namespace qt {

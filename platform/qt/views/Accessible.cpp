@@ -8,10 +8,11 @@
 #include <vector>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Reports.h"
+#include "platform/qt/windows/Screen.h"
 
 namespace qt {
 

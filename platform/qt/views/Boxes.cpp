@@ -6,12 +6,11 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Menus.h"
-#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 
 namespace qt {
 

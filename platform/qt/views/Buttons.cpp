@@ -4,12 +4,12 @@
 #include <QStyleOption>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
+#include "platform/qt/windows/Reports.h"
 
 namespace qt {
 

@@ -8,7 +8,6 @@
 #include <cmath>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
@@ -19,8 +18,7 @@
 #include "platform/qt/views/Grid.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/views/Painted.h"
-#include "platform/qt/windows/Loop.h"
-#include "platform/qt/windows/WindowViews.h"
+#include "platform/qt/windows/Reports.h"
 
 namespace qt {
 
@@ -291,11 +289,41 @@ void prcUpdateCommon(ControlView& view, const Control& next, bool blnFirst) {
   }
 }
 
+/// Takes what stands for a control off the screen.
+void prcDropControl(ControlView& view) {
+  if (view.Helper != nullptr) {
+    prcSilence(*view.Helper);
+    view.Helper->deleteLater();
+    if (auto* timer = qobject_cast<QTimer*>(view.Helper); timer != nullptr) {
+      timer->stop();
+    }
+  }
+  if (view.Widget == nullptr) {
+    return;
+  }
+  prcForgetWidget(view.Widget);
+  if (auto* painted = qobject_cast<PaintedView*>(view.Widget); painted != nullptr) {
+    painted->prcDetach();
+  } else if (auto* button = qobject_cast<ButtonView*>(view.Widget); button != nullptr) {
+    button->prcDetach();
+  } else if (auto* edit = qobject_cast<EditView*>(view.Widget); edit != nullptr) {
+    edit->prcDetach();
+  } else if (auto* rows = qobject_cast<RowsView*>(view.Widget); rows != nullptr) {
+    rows->prcDetach();
+  } else if (auto* grid = qobject_cast<GridView*>(view.Widget); grid != nullptr) {
+    grid->prcDetach();
+  }
+  prcSilence(*view.Widget);
+  view.Widget->hide();
+  view.Widget->deleteLater();
+}
+
 }  // namespace
 
 void prcMakeControl(ControlView& view, QWidget* parent) {
   const Control& control = *view.Source;
   const KindRow& row = fncRow(control.Kind);
+  view.Drop = prcDropControl;
   view.Widget = row.Make(view, parent);
   if (view.Widget != nullptr) {
     prcNoteWidget(view.Widget, &view);
@@ -329,34 +357,6 @@ void prcUpdateControl(ControlView& view, const Control& control) {
   if (blnAnnounce) {
     prcNoteForEar(view);
   }
-}
-
-void prcDropControl(ControlView& view) {
-  if (view.Helper != nullptr) {
-    prcSilence(*view.Helper);
-    view.Helper->deleteLater();
-    if (auto* timer = qobject_cast<QTimer*>(view.Helper); timer != nullptr) {
-      timer->stop();
-    }
-  }
-  if (view.Widget == nullptr) {
-    return;
-  }
-  prcForgetWidget(view.Widget);
-  if (auto* painted = qobject_cast<PaintedView*>(view.Widget); painted != nullptr) {
-    painted->prcDetach();
-  } else if (auto* button = qobject_cast<ButtonView*>(view.Widget); button != nullptr) {
-    button->prcDetach();
-  } else if (auto* edit = qobject_cast<EditView*>(view.Widget); edit != nullptr) {
-    edit->prcDetach();
-  } else if (auto* rows = qobject_cast<RowsView*>(view.Widget); rows != nullptr) {
-    rows->prcDetach();
-  } else if (auto* grid = qobject_cast<GridView*>(view.Widget); grid != nullptr) {
-    grid->prcDetach();
-  }
-  prcSilence(*view.Widget);
-  view.Widget->hide();
-  view.Widget->deleteLater();
 }
 
 void prcRaiseControl(ControlView& view) {

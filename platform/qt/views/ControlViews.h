@@ -12,9 +12,6 @@ void prcMakeControl(ControlView& view, QWidget* parent);
 /// Brings a view to what its control says now.
 void prcUpdateControl(ControlView& view, const Control& control);
 
-/// Takes what stands for a control off the screen.
-void prcDropControl(ControlView& view);
-
 /// Puts a control's widget above its neighbours.
 void prcRaiseControl(ControlView& view);
 

@@ -11,7 +11,7 @@
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Captions.h"
-#include "platform/qt/windows/Loop.h"
+#include "platform/qt/windows/Reports.h"
 
 namespace qt {
 

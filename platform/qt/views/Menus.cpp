@@ -8,12 +8,12 @@
 #include <algorithm>
 
 #include "platform/UserInput.h"
-#include "platform/qt/input/Acts.h"
 #include "platform/qt/looks/Palette.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Buttons.h"
 #include "platform/qt/views/Captions.h"
+#include "platform/qt/windows/Reports.h"
 
 namespace qt {
 

@@ -11,6 +11,7 @@
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Chart.h"
+#include "platform/qt/windows/Screen.h"
 
 namespace qt {
 

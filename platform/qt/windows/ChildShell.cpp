@@ -9,9 +9,7 @@
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Captions.h"
-#include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 
@@ -143,8 +141,7 @@ void ChildShell::mousePressEvent(QMouseEvent* event) {
   }
   const QPoint at = event->position().toPoint();
   if (view_->Source->TitleBar && view_->Source->CloseBox && fncCloseBox().contains(at)) {
-    Window* window = view_->Source;
-    prcServe([window] { prcUserClose(*window); });
+    close();  // Asked for as the window manager does, and taken from there.
     return;
   }
   edges_ = fncEdges(at);
@@ -186,9 +183,6 @@ void ChildShell::prcDragTo(QPoint global) {
     place.setBottom(std::max(place.bottom() + way.y(), place.top() + least));
   }
   setGeometry(place);
-  if (view_ != nullptr) {
-    prcWindowMoved(*view_);
-  }
 }
 
 void ChildShell::mouseReleaseEvent(QMouseEvent* /*event*/) { blnDragged_ = false; }

@@ -4,8 +4,6 @@
 #include <QEventLoop>
 
 #include "platform/Procedure.h"
-#include "platform/UserInput.h"
-#include "platform/qt/windows/Screen.h"
 
 namespace qt {
 
@@ -27,16 +25,6 @@ void prcNoteEnd() {
 }
 
 void prcForgetEnd() { blnEnded = false; }
-
-void prcServe(const std::function<void()>& handlers) {
-  if (blnEnded) {
-    return;
-  }
-  prcDispatch(handlers);
-  if (!blnEnded) {
-    prcSyncAll();
-  }
-}
 
 void prcServeUntil(const std::function<bool()>& blnDone) {
   while (!blnEnded && !blnDone()) {

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-// How handlers of the program run inside the toolkit's event loop, and how the program ends.
+// How the program waits inside the toolkit's event loop, and how it ends.
 
 namespace qt {
 
@@ -17,10 +17,6 @@ void prcNoteEnd();
 
 /// Makes the end undone, for tests that end the program more than once.
 void prcForgetEnd();
-
-/// Runs handlers for one event of the user and brings the screen up to date. Nothing is thrown out
-/// of it, so it may stand directly in a callback of the toolkit.
-void prcServe(const std::function<void()>& handlers);
 
 /// Serves events, sleeping between them, until blnDone says so or the program ends; then it throws
 /// EndOfProgram.

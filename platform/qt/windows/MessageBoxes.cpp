@@ -12,6 +12,7 @@
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/Sync.h"
 
 namespace {
 

@@ -19,7 +19,7 @@
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Loop.h"
-#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/Sync.h"
 
 namespace {
 

@@ -1,234 +1,19 @@
 #include "platform/qt/windows/Screen.h"
 
-#include <QApplication>
-#include <QEvent>
-#include <QHash>
 #include <algorithm>
-#include <optional>
-#include <unordered_set>
-#include <utility>
-
-#include "platform/platform.h"
-#include "platform/qt/views/Accessible.h"
-#include "platform/qt/views/ControlViews.h"
-#include "platform/qt/windows/Loop.h"
-#include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 
 namespace {
-
-constexpr std::uint32_t lngFrameMilliseconds = 8;
-
-// The widgets' index stands first, so that it outlives the views, whose end still looks into it.
-QHash<const QWidget*, ControlView*> vwByWidget;
-std::vector<std::unique_ptr<WindowView>> vwWindows;
-Window* wndActive = nullptr;
-Window* wndLastChild = nullptr;
-bool blnSyncing = false;
-std::optional<std::uint32_t> tckSynced;  // When all windows were last brought up to date.
 
 bool fncLoaded(const Window* window, std::int32_t handle) {
   return std::ranges::find(fncWindows(), window) != fncWindows().end() &&
          std::int32_t{window->hWnd} == handle;
 }
 
-bool fncMatches(const ControlView& view, const Control* control) {
-  return view.Source == control && view.Drawn.Serial == control->Serial;
-}
-
-/// The view of a control, made if needed together with the views of all that holds it.
-ControlView* fncEnsure(WindowView& home, Control& control,
-                       std::vector<std::unique_ptr<ControlView>>& made) {
-  const auto known = home.ByControl.find(&control);
-  if (known != home.ByControl.end()) {
-    return known->second;
-  }
-  QWidget* parent = home.Ground;
-  if (control.Container != nullptr) {
-    const ControlView* holder = fncEnsure(home, *control.Container, made);
-    parent = holder->Widget != nullptr ? holder->Widget : home.Ground;
-  }
-  made.push_back(std::make_unique<ControlView>(home, control));
-  ControlView* view = made.back().get();
-  home.ByControl[&control] = view;
-  prcMakeControl(*view, parent);
-  return view;
-}
-
-using Views = std::vector<std::unique_ptr<ControlView>>;
-
-/// Drops the views from place on whose controls have left the stack.
-Views fncSurvivors(WindowView& home, std::size_t place) {
-  std::unordered_set<std::uint32_t> present;
-  for (std::size_t at = place; at < home.Source->Controls.size(); ++at) {
-    present.insert(home.Source->Controls[at]->Serial);
-  }
-  Views left;
-  for (std::size_t at = place; at < home.Controls.size(); ++at) {
-    if (present.contains(home.Controls[at]->Drawn.Serial)) {
-      left.push_back(std::move(home.Controls[at]));
-    }
-  }
-  home.Controls.resize(place);
-  return left;
-}
-
-/// Puts the view of a control at its place in the list: found among the survivors, or made.
-/// Survivors keep their place on the screen while they follow one another as before; every other
-/// one is raised, in order.
-void prcMatchStack(WindowView& home) {
-  const std::vector<Control*>& stack = home.Source->Controls;
-  std::size_t place = 0;
-  while (place < stack.size() && place < home.Controls.size() &&
-         fncMatches(*home.Controls[place], stack[place])) {
-    ++place;
-  }
-  if (place == stack.size() && place == home.Controls.size()) {
-    return;
-  }
-  Views old = fncSurvivors(home, place);
-  Views made;
-  std::size_t next = 0;
-  for (; place < stack.size(); ++place) {
-    Control& control = *stack[place];
-    std::size_t at = next;
-    while (at < old.size() && !(old[at] != nullptr && fncMatches(*old[at], &control))) {
-      ++at;
-    }
-    if (at < old.size()) {
-      home.Controls.push_back(std::move(old[at]));
-      next = at + 1;
-      continue;
-    }
-    const auto moved = std::ranges::find_if(old, [&](const std::unique_ptr<ControlView>& view) {
-      return view != nullptr && fncMatches(*view, &control);
-    });
-    if (moved != old.end()) {
-      home.Controls.push_back(std::move(*moved));
-      prcRaiseControl(*home.Controls.back());
-      continue;
-    }
-    fncEnsure(home, control, made);
-    const auto fresh = std::ranges::find_if(made, [&](const std::unique_ptr<ControlView>& view) {
-      return view != nullptr && view->Source == &control;
-    });
-    home.Controls.push_back(std::move(*fresh));
-  }
-}
-
-void prcSyncControls(WindowView& home) {
-  prcMatchStack(home);
-  const bool blnFocusMoved =
-      home.DrawnActive != home.Source->ActiveControl || home.DrawnFocus != home.Source->FocusGiven;
-  home.DrawnActive = home.Source->ActiveControl;
-  home.DrawnFocus = home.Source->FocusGiven;
-  for (const std::unique_ptr<ControlView>& view : home.Controls) {
-    if (!(view->Drawn == *view->Source)) {
-      prcUpdateControl(*view, *view->Source);
-    }
-  }
-  if (blnFocusMoved) {
-    prcShowFocusTexts(home);
-  }
-}
-
-void prcDropUnloaded() {
-  for (const std::unique_ptr<WindowView>& view : vwWindows) {
-    if (!fncLoaded(view->Source, view->Handle)) {
-      prcHandOn(*view->Shell);
-    }
-  }
-  // Whoever looks into the list while a view goes finds it whole.
-  const auto gone = std::stable_partition(vwWindows.begin(), vwWindows.end(), [](const auto& view) {
-    return fncLoaded(view->Source, view->Handle);
-  });
-  const std::vector<std::unique_ptr<WindowView>> going(std::make_move_iterator(gone),
-                                                       std::make_move_iterator(vwWindows.end()));
-  vwWindows.erase(gone, vwWindows.end());
-  if (wndActive != nullptr && std::ranges::find(fncWindows(), wndActive) == fncWindows().end()) {
-    wndActive = nullptr;
-  }
-}
-
-void prcAddLoaded() {
-  // The frame first: it is the parent of its children.
-  for (const bool blnFrames : {true, false}) {
-    for (Window* window : fncWindows()) {
-      if ((window->Kind == WindowKind::Frame) == blnFrames && fncViewOf(*window) == nullptr) {
-        vwWindows.push_back(std::make_unique<WindowView>(*window));
-      }
-    }
-  }
-}
-
-/// The input of a window that has gone is due to the child that the frame's belongs to; the toolkit
-/// would hand it to any widget, and the model not hear of it.
-void prcHandOnInput() {
-  if (wndActive == nullptr || !wndActive->Visible) {
-    const Window* next = fncFrameInput();
-    if (WindowView* view = next != nullptr ? fncViewOf(*next) : nullptr; view != nullptr) {
-      view->blnShown = true;
-    }
-  }
-}
-
-void prcSyncOnce() {
-  blnSyncing = true;
-  prcDropUnloaded();
-  prcAddLoaded();
-  // The frame comes up with everything in it, and the windows that stand before it come after it.
-  for (const WindowKind kind : {WindowKind::Child, WindowKind::Frame, WindowKind::Float,
-                                WindowKind::Dialog, WindowKind::Start}) {
-    for (const std::unique_ptr<WindowView>& view : vwWindows) {
-      if (view->Source->Kind == kind) {
-        prcSyncControls(*view);
-        prcSyncWindow(*view);
-      }
-    }
-  }
-  prcHandOnInput();
-  prcFollowActive();
-  prcTellEar();
-  blnSyncing = false;
-  tckSynced = platform::TickCount();
-}
-
-/// The window to be resized or activated next; none if nothing is due. Of several that have come
-/// up, the frame is first, and a window that opened others while it loaded is shown after them and
-/// has the input in the end.
-WindowView* fncDue() {
-  WindowView* shown = nullptr;
-  for (const std::unique_ptr<WindowView>& view : vwWindows) {
-    if (view->blnResized) {
-      return view.get();
-    }
-    if (view->blnShown && (shown == nullptr || shown->Source->Kind != WindowKind::Frame)) {
-      shown = view.get();
-    }
-  }
-  return shown;
-}
-
-/// Runs one resize or activate handler that is due. Returns whether there was one.
-bool fncRunDue() {
-  WindowView* due = fncDue();
-  if (due == nullptr) {
-    return false;
-  }
-  WindowView& view = *due;
-  const bool blnResize = std::exchange(view.blnResized, false);
-  const bool blnActivate = !blnResize && std::exchange(view.blnShown, false);
-  Window* window = fncLive(view);
-  if (window != nullptr && blnResize && window->On->Resize != nullptr) {
-    prcServe([window] { window->On->Resize(*window); });
-  } else if (window != nullptr && blnActivate) {
-    prcActivate(*window);
-  }
-  return true;
-}
-
 }  // namespace
+
+ScreenState scrNow;
 
 ControlView::ControlView(WindowView& home, Control& source)
     : Home(home), Source(&source), Drawn(source) {}
@@ -238,59 +23,24 @@ ControlView::~ControlView() {
   if (known != Home.ByControl.end() && known->second == this) {
     Home.ByControl.erase(known);
   }
-  prcDropControl(*this);
+  if (Drop != nullptr) {
+    Drop(*this);
+  }
 }
 
-WindowView::WindowView(Window& source) : Source(&source), Handle(source.hWnd) {
-  prcMakeWindow(*this);
-}
+WindowView::WindowView(Window& source) : Source(&source), Handle(source.hWnd) {}
 
 WindowView::~WindowView() {
   Controls.clear();
-  prcDropWindow(*this);
-}
-
-void prcSyncAll() {
-  if (blnSyncing) {
-    return;
+  if (Drop != nullptr) {
+    Drop(*this);
   }
-  prcSyncOnce();
-  while (!fncEnded() && fncRunDue()) {
-  }
-}
-
-void prcSyncIfDue() {
-  if (!tckSynced || platform::TickCount() - *tckSynced >= lngFrameMilliseconds) {
-    prcSyncAll();
-  }
-}
-
-void prcPaintNow(Window& window) {
-  WindowView* view = fncViewOf(window);
-  if (view == nullptr || blnSyncing || !fncLoaded(view->Source, view->Handle)) {
-    return;
-  }
-  blnSyncing = true;
-  prcSyncControls(*view);
-  blnSyncing = false;
-  QEvent paint(QEvent::UpdateRequest);
-  QCoreApplication::sendEvent(view->Shell->window(), &paint);
-}
-
-void prcClearScreen() {
-  blnSyncing = true;  // The focus that goes round among what is left is no user's.
-  vwWindows.clear();
-  vwByWidget.clear();
-  wndActive = nullptr;
-  wndLastChild = nullptr;
-  tckSynced.reset();
-  blnSyncing = false;
 }
 
 WindowView* fncViewOf(const Window& window) {
   const auto known =
-      std::ranges::find(vwWindows, &window, [](const auto& view) { return view->Source; });
-  return known == vwWindows.end() ? nullptr : known->get();
+      std::ranges::find(scrNow.Windows, &window, [](const auto& view) { return view->Source; });
+  return known == scrNow.Windows.end() ? nullptr : known->get();
 }
 
 ControlView* fncViewOf(const Control& control) {
@@ -304,7 +54,7 @@ ControlView* fncViewOf(const Control& control) {
 
 ControlView* fncControlViewOf(const QWidget* widget) {
   for (; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
-    if (ControlView* view = vwByWidget.value(widget); view != nullptr) {
+    if (ControlView* view = scrNow.ByWidget.value(widget); view != nullptr) {
       return view;
     }
   }
@@ -313,7 +63,7 @@ ControlView* fncControlViewOf(const QWidget* widget) {
 
 WindowView* fncWindowViewOf(const QWidget* widget) {
   for (; widget != nullptr; widget = widget->parentWidget()) {
-    for (const std::unique_ptr<WindowView>& view : vwWindows) {
+    for (const std::unique_ptr<WindowView>& view : scrNow.Windows) {
       if (view->Shell == widget || view->Ground == widget) {
         return view.get();
       }
@@ -325,9 +75,11 @@ WindowView* fncWindowViewOf(const QWidget* widget) {
   return nullptr;
 }
 
-void prcNoteWidget(const QWidget* widget, ControlView* view) { vwByWidget.insert(widget, view); }
+void prcNoteWidget(const QWidget* widget, ControlView* view) {
+  scrNow.ByWidget.insert(widget, view);
+}
 
-void prcForgetWidget(const QWidget* widget) { vwByWidget.remove(widget); }
+void prcForgetWidget(const QWidget* widget) { scrNow.ByWidget.remove(widget); }
 
 Control* fncLive(const ControlView& view) {
   if (fncLive(view.Home) == nullptr) {
@@ -342,28 +94,13 @@ Window* fncLive(const WindowView& view) {
   return fncLoaded(view.Source, view.Handle) ? view.Source : nullptr;
 }
 
-Window* fncActiveWindow() { return wndActive; }
-
-void prcActivate(Window& window) {
-  if (wndActive == &window || std::ranges::find(fncWindows(), &window) == fncWindows().end()) {
-    return;
-  }
-  wndActive = &window;
-  if (window.Kind == WindowKind::Child) {
-    wndLastChild = &window;
-  }
-  if (window.On->Activate != nullptr) {
-    prcServe([&window] { window.On->Activate(window); });
-  } else if (!blnSyncing) {
-    prcSyncAll();
-  }
-}
+Window* fncActiveWindow() { return scrNow.Active; }
 
 Window* fncFrameInput() {
   Window* found = nullptr;
   for (Window* window : fncWindows()) {
     const bool blnOpen = window->Kind == WindowKind::Child && window->Visible;
-    if (blnOpen && (found == nullptr || window == wndLastChild)) {
+    if (blnOpen && (found == nullptr || window == scrNow.LastChild)) {
       found = window;
     }
   }
@@ -373,10 +110,10 @@ Window* fncFrameInput() {
 
 WindowView* fncFrameView() {
   const auto frame = std::ranges::find_if(
-      vwWindows, [](const auto& view) { return view->Source->Kind == WindowKind::Frame; });
-  return frame == vwWindows.end() ? nullptr : frame->get();
+      scrNow.Windows, [](const auto& view) { return view->Source->Kind == WindowKind::Frame; });
+  return frame == scrNow.Windows.end() ? nullptr : frame->get();
 }
 
-bool fncSyncing() { return blnSyncing; }
+bool fncSyncing() { return scrNow.blnSyncing; }
 
 }  // namespace qt

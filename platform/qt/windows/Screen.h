@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QPointer>
 #include <QWidget>
 #include <cstdint>
@@ -11,7 +12,7 @@
 #include "platform/Window.h"
 
 // The screen as a cache of the model: one view for each loaded window and each of its controls,
-// with a copy of what was drawn last. Comparing the two tells what to change.
+// with a copy of what was drawn last. windows/Sync.h compares the two.
 
 namespace qt {
 
@@ -29,6 +30,7 @@ struct ControlView {
   Control Drawn;
   QPointer<QWidget> Widget;  ///< None for timers and menu entries.
   QPointer<QObject> Helper;  ///< The timer, menu, or action that stands for the control.
+  void (*Drop)(ControlView&) = nullptr;  ///< Takes off the screen what its maker has put there.
 };
 
 /// What a window's frame showed last.
@@ -54,6 +56,7 @@ struct WindowView {
   std::int32_t Handle;
   QPointer<QWidget> Shell;
   QPointer<QWidget> Ground;
+  void (*Drop)(WindowView&) = nullptr;  ///< Takes off the screen what its maker has put there.
   DrawnWindow Drawn;
   bool blnFirst = true;
   bool blnResized = false;         ///< The inner size has changed; its handler is due.
@@ -64,17 +67,15 @@ struct WindowView {
   std::unordered_map<const Control*, ControlView*> ByControl;
 };
 
-/// Brings all loaded windows up to date and runs the resize handlers that are due.
-void prcSyncAll();
-
-/// The same, unless it was done less than a frame's time ago.
-void prcSyncIfDue();
-
-/// Brings the controls of one window up to date and paints what has changed at once.
-void prcPaintNow(Window& window);
-
-/// Takes all windows off the screen, at the end.
-void prcClearScreen();
+/// What is on the screen. windows/Sync.cpp alone changes it, but for the widgets noted below.
+struct ScreenState {
+  QHash<const QWidget*, ControlView*> ByWidget;  ///< First: the end of a view still looks into it.
+  std::vector<std::unique_ptr<WindowView>> Windows;
+  Window* Active = nullptr;     ///< The window that has the input.
+  Window* LastChild = nullptr;  ///< The child that had it last.
+  bool blnSyncing = false;
+};
+extern ScreenState scrNow;
 
 WindowView* fncViewOf(const Window& window);
 /// The view of a loaded control; none while it is not on the screen.
@@ -97,8 +98,6 @@ Window* fncActiveWindow();
 /// The child that the frame's input belongs to: the one used last, else any that is visible, else
 /// the frame itself.
 Window* fncFrameInput();
-/// Gives a window the input and runs its activate handler if it is another than before.
-void prcActivate(Window& window);
 
 /// The frame's view, if the frame is loaded.
 WindowView* fncFrameView();

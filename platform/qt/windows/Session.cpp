@@ -9,7 +9,7 @@
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Accessible.h"
-#include "platform/qt/windows/Screen.h"
+#include "platform/qt/windows/Sync.h"
 
 namespace qt {
 

@@ -6,9 +6,9 @@
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/InFront.h"
 #include "platform/qt/windows/Loop.h"
-#include "platform/qt/windows/Screen.h"
-#include "platform/qt/windows/WindowViews.h"
+#include "platform/qt/windows/Sync.h"
 
 // What the game asks of the screen: turns of the event loop, waits, modal windows, sizes, the end.
 

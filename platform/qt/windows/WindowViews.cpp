@@ -14,7 +14,6 @@
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/ChildShell.h"
-#include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Topmost.h"
 
 namespace qt {
@@ -53,18 +52,6 @@ void prcStandBefore(QWidget& shell) {
   shell.raise();
 }
 
-/// Brings the windows up to date when the frame comes on the screen or goes.
-class FrameWatch : public QObject {
- public:
-  using QObject::QObject;
-  bool eventFilter(QObject* /*object*/, QEvent* event) override {
-    if (event->type() == QEvent::Expose || event->type() == QEvent::WindowStateChange) {
-      QTimer::singleShot(0, this, [] { prcSyncAll(); });
-    }
-    return false;
-  }
-};
-
 void prcMakeFrame(WindowView& view) {
   auto* frame = new QMainWindow;
   auto* field = new GroundView(*view.Source, nullptr);
@@ -75,7 +62,6 @@ void prcMakeFrame(WindowView& view) {
   view.Shell = frame;
   view.Ground = field;
   frame->winId();
-  frame->windowHandle()->installEventFilter(new FrameWatch(frame));
 }
 
 void prcMakeChild(WindowView& view, WindowView& frame) {
@@ -301,9 +287,21 @@ void prcTakePlace(WindowView& view) {
   prcKeepInner(view);
 }
 
+void prcDropWindow(WindowView& view) {
+  if (view.Shell == nullptr) {
+    return;
+  }
+  if (ChildShell* child = fncChild(view); child != nullptr) {
+    child->prcDetach();
+  }
+  view.Shell->hide();
+  view.Shell->deleteLater();
+}
+
 }  // namespace
 
 void prcMakeWindow(WindowView& view) {
+  view.Drop = prcDropWindow;
   WindowView* frame = fncFrameView();
   if (view.Source->Kind == WindowKind::Frame) {
     prcMakeFrame(view);
@@ -314,17 +312,6 @@ void prcMakeWindow(WindowView& view) {
   }
   view.Shell->setObjectName(QString::fromUtf8(view.Source->Name));
   view.Ground->setAccessibleName(fncText(view.Source->Caption));
-}
-
-void prcDropWindow(WindowView& view) {
-  if (view.Shell == nullptr) {
-    return;
-  }
-  if (ChildShell* child = fncChild(view); child != nullptr) {
-    child->prcDetach();
-  }
-  view.Shell->hide();
-  view.Shell->deleteLater();
 }
 
 void prcSyncWindow(WindowView& view) {
@@ -350,19 +337,17 @@ void prcSyncWindow(WindowView& view) {
   view.blnFirst = false;
 }
 
-void prcWindowMoved(WindowView& view) {
+bool fncWindowMoved(WindowView& view) {
   Window* window = fncLive(view);
   if (window == nullptr || fncSyncing() || !window->Visible) {
-    return;
+    return false;
   }
   if (fncChild(view) == nullptr) {
     window->Maximised = view.Shell->isMaximized();
   }
   prcTakePlace(view);
   view.Drawn = fncDrawn(view);
-  if (view.blnResized) {
-    prcSyncAll();
-  }
+  return view.blnResized;
 }
 
 void prcHandOn(const QWidget& shell) {
@@ -392,48 +377,6 @@ void prcFollowActive() {
       edit->prcSelect();
     }
   }
-}
-
-void prcBringUp(Window& window) {
-  WindowView* view = fncViewOf(window);
-  if (view == nullptr || !view->Shell->isVisible()) {
-    return;
-  }
-  prcToFront(window);
-  if (fncChild(*view) != nullptr) {
-    view->Shell->raise();
-    view->Drawn.Raised = window.Raised;
-    if (!view->Shell->isActiveWindow()) {
-      view->Shell->activateWindow();
-    }
-  } else {
-    view->Shell->raise();
-    view->Shell->activateWindow();
-  }
-  if (const Window* before = fncActiveWindow(); before != nullptr) {
-    if (const WindowView* other = fncViewOf(*before); other != nullptr) {
-      other->Shell->update();
-    }
-  }
-  view->Shell->update();
-  prcActivate(window);
-}
-
-Window* fncNextChild() {
-  std::vector<Window*> children;
-  for (Window* window : fncWindows()) {
-    const bool blnSmall = window->Kind == WindowKind::Child || window->Kind == WindowKind::Float;
-    if (blnSmall && window->Visible) {
-      children.push_back(window);
-    }
-  }
-  if (children.empty()) {
-    return nullptr;
-  }
-  const auto at = std::ranges::find(children, fncActiveWindow());
-  const auto place = at == children.end() ? 0 : static_cast<std::size_t>(at - children.begin()) + 1;
-  Window* next = children[place % children.size()];
-  return next == fncActiveWindow() ? nullptr : next;
 }
 
 }  // namespace qt

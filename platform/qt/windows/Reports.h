@@ -4,7 +4,8 @@
 
 #include "platform/Window.h"
 
-// What the toolkit reports of a control, by whatever way it came, is told to the model here.
+// What the toolkit reports, by whatever way it came, is told to the model by these. The views call
+// them from below what stands behind them: prcAct in input/Acts.cpp, prcServe in windows/Sync.cpp.
 
 namespace qt {
 
@@ -18,5 +19,9 @@ void prcAct(ControlView& view, const std::function<void(Control&)>& act);
 /// The same for a control that is not known by its view; one that is not on the screen is left
 /// alone.
 void prcAct(const Control& control, const std::function<void(Control&)>& act);
+
+/// Runs handlers for one event of the user or of a timer and brings the screen up to date. Nothing
+/// is thrown out of it, so it may stand directly in a callback of the toolkit.
+void prcServe(const std::function<void()>& handlers);
 
 }  // namespace qt
