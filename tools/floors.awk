@@ -1,6 +1,7 @@
 # Reads C++ files and takes each source with its header for a module. Prints every module that
 # includes itself by way of others, and, behind a table of floors, every module that stands on none,
-# has no header of its own name or includes one of a higher floor. With -v list=1 it prints how many
+# has no header of its own name where the table does not say so, or includes one of a higher floor.
+# With -v list=1 it prints how many
 # modules stand on each floor instead.
 #   awk -f tools/floors.awk [tools/floors] FILES...
 
@@ -19,7 +20,10 @@ function module(file) {
 FILENAME !~ /\.(cpp|h)$/ {
   if ($0 ~ /^[^#].*:/) name[++floors] = substr($0, 1, index($0, ":") - 1)
   sub(/^.*:|^#.*/, "")
-  for (i = 1; i <= NF; ++i) floor[$i] = floors
+  for (i = 1; i <= NF; ++i) {
+    floor[module($i)] = floors
+    if ($i ~ /cpp$/) headed[module($i)] = 1
+  }
   next
 }
 FNR == 1 {
