@@ -58,10 +58,8 @@ void prcTakeOtherOff(BetSide side, Integer Index, bool blnRefund) {
   if (blnRefund) {
     dblPlayerTotal[Index] += other.Money;
   }
-  other.Box.Text = "0";
-  other.Money = 0;
-  prcShowMoney(other.Value, 0);
-  other.Value.Visible = false;
+  prcTakeOff(other);
+  prcHideValue(other, fncCurrency(0));
 }
 
 void prcShowTotal(Integer Index) {
@@ -189,8 +187,7 @@ void prcBookTypedBet(BetSide side, Integer Index) {
 void prcTakeUnreckonedOff(BetSide side, Integer Index) {
   const BetControls bet = fncBet(side, Index);
   dblPlayerTotal[Index] += bet.Money;
-  bet.Box.Text = "0";
-  bet.Money = 0;
+  prcTakeOff(bet);
   bet.Value.Visible = false;
   prcShowTotal(Index);
 }

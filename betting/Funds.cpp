@@ -10,10 +10,8 @@
 namespace {
 
 void prcReturnBet(BetSide side, Integer i) {
-  const BetControls bet = fncBet(side, i);
   dblPlayerTotal[i] += fncBetChips(side, i) * fncUnitValue();
-  bet.Box.Text = "0";
-  bet.Money = 0;
+  prcTakeOff(fncBet(side, i));
 }
 
 }  // namespace

@@ -56,11 +56,8 @@ void prcResetSeat(Integer i) {
   prcShowMoney(frmStatistics.lblTurnover[i], 0);
   prcWriteSetting(section, "Turnover", 0);
   for (const BetSide side : betSides) {
-    const BetControls bet = fncBet(side, i);
-    bet.Box.Text = "0";
-    bet.Money = 0;
-    bet.Value.Text = "0";
-    bet.Value.Visible = false;
+    prcTakeOff(fncBet(side, i));
+    prcHideValue(fncBet(side, i), "0");
   }
   dblPlayerTotal[i] = fncVal(frmStatistics.mskSteak[i].Text);
   prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);

@@ -50,8 +50,13 @@ void prcForLostBets(const std::function<void(const BetControls& bet, Integer int
 }
 
 void prcTakeOff(const BetControls& bet) {
-  bet.Money = 0;
   bet.Box.Text = "0";
+  bet.Money = 0;
+}
+
+void prcHideValue(const BetControls& bet, const std::string& strText) {
+  bet.Value.Text = strText;
+  bet.Value.Visible = false;
 }
 
 void prcClearLostBets() {

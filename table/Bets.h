@@ -49,8 +49,12 @@ void prcShowMoney(Control& label, double money);
 /// Banker, Player.
 void prcForLostBets(const std::function<void(const BetControls& bet, Integer intSeat)>& action);
 
-/// Takes a bet's chips and money off the table; no money moves, and its value label stays.
+/// Takes a bet's chips and money off the table; no money moves to its seat, and its value label
+/// keeps standing.
 void prcTakeOff(const BetControls& bet);
+
+/// Puts a bet's value label out of sight, with the text that it has from then on.
+void prcHideValue(const BetControls& bet, const std::string& strText);
 
 /// Takes the lost bets of the hand just dealt off the table. No money moves: they were paid for
 /// when placed.

@@ -113,17 +113,6 @@ void prcHoldForPlayerThird() {
   }
 }
 
-void prcShowResults() {
-  for (Control* label : fncSideResults()) {
-    label->Announce = label->Visible = true;
-  }
-  for (int i = 0; i < intSeats; ++i) {
-    for (const SeatResult& result : fncSeatResults(i)) {
-      result.Label->Announce = result.Label->Visible = true;
-    }
-  }
-}
-
 }  // namespace
 
 void prcPresentHand() {

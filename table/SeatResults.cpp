@@ -1,7 +1,8 @@
 #include "table/SeatResults.h"
 
-std::vector<Control*> fncSideResults() {
-  const std::string& result = strResult[intShoeNumber];
+namespace {
+
+std::vector<Control*> fncSideLabels(const std::string& result) {
   if (result == "P") {
     return {&BaccTable.WinP};
   }
@@ -11,27 +12,31 @@ std::vector<Control*> fncSideResults() {
   return {&BaccTable.TieResultP, &BaccTable.TieResultB};
 }
 
-std::vector<SeatResult> fncSeatResults(Integer intSeat) {
-  struct Row {
-    BetSide Side;
-    bool Won;
-  };
-  static constexpr std::array<Row, 6> rows{{{betBanker, true},
-                                            {betPlayer, true},
-                                            {betBanker, false},
-                                            {betPlayer, false},
-                                            {betTie, false},
-                                            {betTie, true}}};
+}  // namespace
+
+std::vector<Control*> fncResultLabels() {
   const std::string& result = strResult[intShoeNumber];
-  std::vector<SeatResult> results;
-  for (const Row& row : rows) {
-    const bool blnDecided = row.Won ? fncWins(row.Side, result) : fncLoses(row.Side, result);
-    if (blnDecided && fncBetStands(row.Side, intSeat)) {
-      const BetControls bet = fncBet(row.Side, intSeat);
-      results.push_back({row.Side, row.Won, row.Won ? &bet.Win : &bet.Lose});
+  std::vector<Control*> labels = fncSideLabels(result);
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : {betBanker, betPlayer, betTie}) {
+      const BetControls bet = fncBet(side, i);
+      if (!fncBetStands(side, i)) {
+        continue;
+      }
+      if (fncWins(side, result)) {
+        labels.push_back(&bet.Win);
+      } else if (fncLoses(side, result)) {
+        labels.push_back(&bet.Lose);
+      }
     }
   }
-  return results;
+  return labels;
+}
+
+void prcShowResults() {
+  for (Control* label : fncResultLabels()) {
+    label->Announce = label->Visible = true;
+  }
 }
 
 void prcHideSeatResults() {

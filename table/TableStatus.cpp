@@ -30,8 +30,7 @@ void prcMendBet(BetSide side, Integer intSeat) {
   }
   if (!fncBetStands(side, intSeat)) {
     bet.Money = 0;
-    bet.Value.Text = "0";
-    bet.Value.Visible = false;
+    prcHideValue(bet, "0");
   }
 }
 

@@ -9,52 +9,31 @@ namespace {
 
 constexpr int intFlashTicks = 4;
 
-/// The flashing is for the eye alone: the ear has heard the result.
-void prcTurn(Control& label) {
-  label.Announce = false;
-  label.Visible = !label.Visible;
-}
-
 void prcFlash() {
-  for (Control* label : fncSideResults()) {
-    prcTurn(*label);
-  }
-  for (int i = 0; i < intSeats; ++i) {
-    for (const SeatResult& result : fncSeatResults(i)) {
-      prcTurn(*result.Label);
-    }
+  for (Control* label : fncResultLabels()) {
+    label->Announce = false;  // The flashing is for the eye alone: the ear has heard the result.
+    label->Visible = !label->Visible;
   }
   ++BaccTable.intFlashCount;
 }
 
-void prcReopenSeat(Integer i) {
-  for (const BetSide side : betSides) {
-    fncBet(side, i).Box.Enabled = true;
-  }
-  for (Control* chip : fncChips(i)) {
-    chip->Visible = chip->Enabled = true;
+void prcReopenSeats() {
+  for (int i = 0; i < intSeats; ++i) {
+    for (const BetSide side : betSides) {
+      fncBet(side, i).Box.Enabled = true;
+    }
+    for (Control* chip : fncChips(i)) {
+      chip->Visible = chip->Enabled = true;
+    }
   }
 }
 
 void prcCloseRound() {
   const bool blnOpen = !blnEndOfShoe[intShoeNumber];
-  for (Control* label : fncSideResults()) {
-    label->Announce = label->Visible = true;
-  }
-  for (int i = 0; i < intSeats; ++i) {
-    for (const SeatResult& result : fncSeatResults(i)) {
-      result.Label->Announce = result.Label->Visible = true;
-      if (!result.Won) {
-        const BetControls bet = fncBet(result.Side, i);
-        bet.Box.Text = "0";
-        bet.Money = 0;
-      }
-    }
-    if (blnOpen) {
-      prcReopenSeat(i);
-    }
-  }
+  prcShowResults();
+  prcClearLostBets();
   if (blnOpen) {
+    prcReopenSeats();
     prcOpenDealControls();
   }
   BaccTable.Timer1.Enabled = false;
