@@ -6,6 +6,7 @@
 #include "table/Cards.h"
 #include "table/DrawRules.h"
 #include "table/Odds.h"
+#include "table/Positions.h"
 
 std::deque<EveningHand> colEveningHands;
 
@@ -21,17 +22,13 @@ std::size_t fncAt(int index) { return static_cast<std::size_t>(index); }
 Integer fncFaceValue(std::uint8_t card) { return (card - 1) % 13 + 1; }
 
 std::array<std::uint8_t, intPositions> fncCardsOnTable() {
-  const Integer shoe = intShoeNumber;
-  const std::array<Integer, intPositions> cards{
-      intPlayerCard1[shoe],
-      intPlayerCard2[shoe],
-      blnPlayerThird[shoe] ? intPlayerCard3[shoe] : Integer(0),
-      intBankerCard1[shoe],
-      intBankerCard2[shoe],
-      blnBankerThird[shoe] ? intBankerCard3[shoe] : Integer(0)};
   std::array<std::uint8_t, intPositions> numbers{};
-  std::ranges::transform(cards, numbers.begin(),
-                         [](Integer card) { return static_cast<std::uint8_t>(card); });
+  for (int n = 0; n < intPositions; ++n) {
+    const HandSide side = fncHandSide(n);
+    if (n < side.First + 2 || side.blnThird) {
+      numbers.at(fncAt(n)) = static_cast<std::uint8_t>(fncHandCard(intShoeNumber, n));
+    }
+  }
   return numbers;
 }
 

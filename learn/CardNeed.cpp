@@ -3,7 +3,7 @@
 #include "learn/Advice.h"
 #include "platform/Procedure.h"
 #include "table/BaccTable.h"
-#include "table/TableState.h"
+#include "table/Positions.h"
 
 namespace {
 
@@ -17,25 +17,13 @@ TableView fncTableView() {
 }
 
 AdviceNumbers fncAdviceNumbers(Integer Index, const TableView& view) {
-  const Integer shoe = intShoeNumber;
-  switch (int{Index}) {
-    case 0:
-      return {intPlayerValue2[shoe], intBankerTotal2[shoe]};
-    case 1:
-      return {intPlayerValue1[shoe], intBankerTotal2[shoe]};
-    case 2:
-      return {intPlayerTotal2[shoe],
-              fncThirdRevealed(view, 5) ? intBankerTotal[shoe] : intBankerTotal2[shoe]};
-    case 3:
-      return {intBankerValue2[shoe], intPlayerTotal2[shoe]};
-    case 4:
-      return {intBankerValue1[shoe], intPlayerTotal2[shoe]};
-    case 5:
-      return {intBankerTotal2[shoe],
-              fncThirdRevealed(view, 2) ? intPlayerTotal[shoe] : intPlayerTotal2[shoe]};
-    default:
-      throw faultSubscript;
+  const HandSide own = fncHandSide(Index);
+  const HandSide other = fncHandSide(own.First == 0 ? 3 : 0);
+  if (Index == own.First + 2) {
+    return {own.Total2, fncThirdRevealed(view, other.First + 2) ? other.Total : other.Total2};
   }
+  const int partner = Index == own.First ? own.First + 1 : own.First;
+  return {fncHandValue(intShoeNumber, partner), other.Total2};
 }
 
 }  // namespace

@@ -31,22 +31,15 @@ void prcAdviseOnce(Integer Index) {
   }
 }
 
-/// Where a side shows what it has on two cards.
-struct SideResult {
-  Control &Total, &Natural;
-  Integer intTotal2;
-  bool blnNatural;
-};
-
 /// Shows the two-card total once the second card of the pair, whichever it is, has been turned.
-void prcShowPair(Integer first, const SideResult& side) {
-  if (BaccTable.pctCardBack[first].Visible || BaccTable.pctCardBack[first + 1].Visible) {
+void prcShowPair(const HandSide& side) {
+  if (BaccTable.pctCardBack[side.First].Visible || BaccTable.pctCardBack[side.First + 1].Visible) {
     return;
   }
-  side.Total.Text = std::to_string(side.intTotal2);
-  side.Total.Visible = true;
+  side.TotalLabel.Text = std::to_string(side.Total2);
+  side.TotalLabel.Visible = true;
   if (side.blnNatural) {
-    side.Natural.Visible = true;
+    side.NaturalLabel.Visible = true;
   }
 }
 
@@ -95,14 +88,13 @@ void prcUncover(Integer Index) {
 
 void pctCardBack_Click(Integer Index) {
   const Procedure running("Baccarat table pctCardBack_Click");
-  const Integer shoe = intShoeNumber;
   // A strip held beyond the turn of its card goes on pulling, and would show the total of two
   // cards over that of three.
   if (!blnCardClickable[Index] || !BaccTable.pctCardBack[Index].Visible) {
     return;
   }
   running.Step(2);
-  const Integer value = fncHandValue(shoe, Index);
+  const Integer value = fncHandValue(intShoeNumber, Index);
   running.Step(3);
   BaccTable.lblCardBottom[Index].Visible = false;
   BaccTable.lblCardRight[Index].Visible = false;
@@ -113,22 +105,11 @@ void pctCardBack_Click(Integer Index) {
   prcUncover(Index);
   platform::RepaintNow(BaccTable.pctCardFace[Index]);
   running.Step(6);
-  if (Index == 0 || Index == 1) {
-    prcShowPair(0, {BaccTable.PTotal, BaccTable.lblNaturalP, intPlayerTotal2[shoe],
-                    blnPlayerNatural[shoe]});
-  }
-  running.Step(7);
-  if (Index == 3 || Index == 4) {
-    prcShowPair(3, {BaccTable.BTotal, BaccTable.lblNaturalB, intBankerTotal2[shoe],
-                    blnBankerNatural[shoe]});
-  }
-  running.Step(8);
-  if (Index == 2) {
-    BaccTable.PTotal.Text = std::to_string(intPlayerTotal[shoe]);
-  }
-  running.Step(9);
-  if (Index == 5) {
-    BaccTable.BTotal.Text = std::to_string(intBankerTotal[shoe]);
+  const HandSide side = fncHandSide(Index);
+  if (Index < side.First + 2) {
+    prcShowPair(side);
+  } else {
+    side.TotalLabel.Text = std::to_string(side.Total);
   }
 }
 

@@ -11,37 +11,6 @@
 
 namespace {
 
-/// Everything of one side that the presentation shows, its first card's position among it.
-struct Side {
-  int First;
-  Control& Total;
-  Control& Natural;
-  const Table<Integer, intShoes>& Total2;
-  const Table<Integer, intShoes>& FinalTotal;
-  const Table<bool, intShoes>& HasNatural;
-  const Table<bool, intShoes>& HasThird;
-};
-
-Side fncPlayerSide() {
-  return {0,
-          BaccTable.PTotal,
-          BaccTable.lblNaturalP,
-          intPlayerTotal2,
-          intPlayerTotal,
-          blnPlayerNatural,
-          blnPlayerThird};
-}
-
-Side fncBankerSide() {
-  return {3,
-          BaccTable.BTotal,
-          BaccTable.lblNaturalB,
-          intBankerTotal2,
-          intBankerTotal,
-          blnBankerNatural,
-          blnBankerThird};
-}
-
 void prcLayBack(int n) {
   if (blnDealAnimation) {
     prcMoveCard(BaccTable, n);
@@ -71,23 +40,23 @@ void prcLayFirstFour() {
   prcLayBack(4);
 }
 
-void prcTurnPair(const Side& side) {
+void prcTurnPair(const HandSide& side) {
   for (const int n : {side.First, side.First + 1}) {
     BaccTable.pctCardFace[n].Picture = fncHandCard(intShoeNumber, n);
     BaccTable.pctCardFace[n].Visible = true;
     RevealCards(fncHandValue(intShoeNumber, n), n, BaccTable);
   }
   if (blnCardFaceUp) {
-    prcShowNumber(side.Total, side.Total2[intShoeNumber]);
-    side.Total.Visible = true;
-    if (side.HasNatural[intShoeNumber]) {
-      side.Natural.Visible = true;
+    prcShowNumber(side.TotalLabel, side.Total2);
+    side.TotalLabel.Visible = true;
+    if (side.blnNatural) {
+      side.NaturalLabel.Visible = true;
     }
   }
 }
 
-void prcThirdCard(const Side& side) {
-  if (!side.HasThird[intShoeNumber]) {
+void prcThirdCard(const HandSide& side) {
+  if (!side.blnThird) {
     return;
   }
   const int n = side.First + 2;
@@ -98,7 +67,7 @@ void prcThirdCard(const Side& side) {
   blnCardClickable[n] = true;
   RevealCards(fncHandValue(intShoeNumber, n), n, BaccTable);
   if (blnCardFaceUp) {
-    prcShowNumber(side.Total, side.FinalTotal[intShoeNumber]);
+    prcShowNumber(side.TotalLabel, side.Total);
   }
 }
 
@@ -124,17 +93,17 @@ void prcPresentHand() {
   if (!blnDealDelay) {
     prcWaitSeconds(0.5);
   }
-  prcTurnPair(fncPlayerSide());
-  prcTurnPair(fncBankerSide());
+  prcTurnPair(fncHandSide(0));
+  prcTurnPair(fncHandSide(3));
   for (const int n : {0, 1, 3, 4}) {
     blnCardClickable[n] = true;
   }
   if (!blnCardFaceUp) {
     prcPoll([] { return fncTurned(0) && fncTurned(1) && fncTurned(3) && fncTurned(4); });
   }
-  prcThirdCard(fncPlayerSide());
+  prcThirdCard(fncHandSide(0));
   prcHoldForPlayerThird();
-  prcThirdCard(fncBankerSide());
+  prcThirdCard(fncHandSide(3));
   if (!blnCardFaceUp && (blnPlayerThird[intShoeNumber] || blnBankerThird[intShoeNumber])) {
     prcPoll([] { return fncTurned(2) && fncTurned(5); });
   }

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "table/TableState.h"
+#include "table/BaccTable.h"
 
 // The hand by table position 0..5: the Player's first, second and third card, then the Banker's.
 // Any other Index is faultSubscript.
@@ -12,6 +12,20 @@ Integer& fncHandCard(Integer intShoe, Integer Index);
 
 /// Its face value 1..13.
 Integer& fncHandValue(Integer intShoe, Integer Index);
+
+/// One side of the hand on the table: where it shows, and what the hand holds of it.
+struct HandSide {
+  int First;  ///< The position of its first card, 0 or 3.
+  Control& TotalLabel;
+  Control& NaturalLabel;
+  Integer Total2;  ///< On its first two cards.
+  Integer Total;
+  bool blnNatural;
+  bool blnThird;  ///< It has drawn a third card.
+};
+
+/// The side that a position belongs to.
+HandSide fncHandSide(Integer Index);
 
 /// "Player first card" and so on, as a position is spoken of.
 std::string fncSpokenPosition(Integer Index);
