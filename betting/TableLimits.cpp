@@ -32,7 +32,7 @@ void txtUnitValue_LostFocus() {
   const char* fault = fncUnitValueFault();
   if (fault == nullptr) {
     running.Step(2);
-    prcWritePrivateProfileString("Misc", "UnitValue", BaccTable.txtUnitValue.Text);
+    prcWritePrivateProfileString(secMisc, keyUnitValue, BaccTable.txtUnitValue.Text);
     return;
   }
   platform::MsgBox(fault, platform::Icon::Exclamation, "Velmora");

@@ -21,14 +21,9 @@ namespace {
 
 constexpr double dblMostStake = 10'000'000;
 constexpr int intStakeDigits = 8;
-constexpr const char* strPlayed = "ShoesHandsPlayed";
 constexpr const char* strBadStake = "Stake Money must be 0 to $10,000,000";
 constexpr const char* strLowStake = "Cannot reduce stake money below player's total";
 constexpr Colour clrGround{250, 247, 236};
-
-std::string fncDecksKey(int i) {
-  return "Decks " + std::to_string(intShoeSizes.at(static_cast<std::size_t>(i)));
-}
 
 /// All that a seat owns: off the table and on it.
 double fncCurrentMoney(Integer i) {
@@ -50,11 +45,11 @@ bool fncResetWanted() {
 /// The seat starts again from its stake. What stands on the table goes without a refund.
 void prcResetSeat(Integer i) {
   const std::string section = fncSeatSection(i);
-  prcShowMoney(frmStatistics.lblCurrentMoney[i], fncGetSetting(section, "Stake"));
+  prcShowMoney(frmStatistics.lblCurrentMoney[i], fncGetSetting(section, keyStake));
   prcShowMoney(frmStatistics.lblWinningsStat[i], 0);
-  prcWriteSetting(section, "Win", 0);
+  prcWriteSetting(section, keyWin, 0);
   prcShowMoney(frmStatistics.lblTurnover[i], 0);
-  prcWriteSetting(section, "Turnover", 0);
+  prcWriteSetting(section, keyTurnover, 0);
   for (const BetSide side : betSides) {
     prcTakeOff(fncBet(side, i));
     prcHideValue(fncBet(side, i), "0");
@@ -166,13 +161,13 @@ void prcLayOutStatistics(Window& form) {
 void Form_Load(Window& form) {
   prcLayOutStatistics(form);
   form.Topmost = true;
-  prcReadPlace(form, "frmStatistics");
+  prcReadPlace(form, secStatistics);
   prcStatisticsRefresh();
 }
 
 void Form_Unload(Window& form, bool&) {
   const Procedure running("frmStatistics_Form_Unload");
-  prcWritePlace(form, "frmStatistics");
+  prcWritePlace(form, secStatistics);
   running.Step(2);
   MDIForm1.mnuStatistics.Value = 0;
   running.Step(3);
@@ -186,19 +181,20 @@ constexpr WindowEvents evtStatistics{.Load = Form_Load, .Unload = Form_Unload};
 void prcStatisticsRefresh() {
   const Procedure running("prcStatisticsRefresh");
   StatisticsWindow& w = frmStatistics;
-  w.lblHandsPlayed.Text = fncGetPrivateProfileString(strPlayed, "Hands");
+  w.lblHandsPlayed.Text = fncGetPrivateProfileString(secPlayed, keyHands);
   running.Step(2);
   for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
-    w.lblShoesPlayedDecks[i].Text = fncGetPrivateProfileString(strPlayed, fncDecksKey(i));
+    w.lblShoesPlayedDecks[i].Text = fncGetPrivateProfileString(
+        secPlayed, fncDecksKey(intShoeSizes.at(static_cast<std::size_t>(i))));
   }
   running.Step(3);
   for (int i = 0; i < intSeats; ++i) {
     const std::string section = fncSeatSection(i);
     prcSetMasked(w.mskSteak[i],
-                 fncPlainNumberText(std::nearbyint(fncGetSetting(section, "Stake"))));
-    prcShowMoney(w.lblWinningsStat[i], fncGetSetting(section, "Win"));
+                 fncPlainNumberText(std::nearbyint(fncGetSetting(section, keyStake))));
+    prcShowMoney(w.lblWinningsStat[i], fncGetSetting(section, keyWin));
     prcShowMoney(w.lblCurrentMoney[i], fncCurrentMoney(i));
-    prcShowMoney(w.lblTurnover[i], fncGetSetting(section, "Turnover"));
+    prcShowMoney(w.lblTurnover[i], fncGetSetting(section, keyTurnover));
   }
 }
 
@@ -211,11 +207,11 @@ void cmdResetStats_Click() {
   prcWriteTogether([&] {
     running.Step(2);
     w.lblHandsPlayed.Text = "0";
-    prcWriteSetting(strPlayed, "Hands", 0);
+    prcWriteSetting(secPlayed, keyHands, 0);
     running.Step(3);
     for (int i = 0; i < w.lblShoesPlayedDecks.size(); ++i) {
       w.lblShoesPlayedDecks[i].Text = "0";
-      prcWriteSetting(strPlayed, fncDecksKey(i), 0);
+      prcWriteSetting(secPlayed, fncDecksKey(intShoeSizes.at(static_cast<std::size_t>(i))), 0);
     }
     running.Step(4);
     for (int i = 0; i < intSeats; ++i) {
@@ -251,7 +247,7 @@ void mskSteak_Validate(Integer Index, bool& Cancel) {
     return;
   }
   running.Step(4);
-  prcWritePrivateProfileString(fncSeatSection(Index), "Stake", box.Text);
+  prcWritePrivateProfileString(fncSeatSection(Index), keyStake, box.Text);
   running.Step(5);
   dblPlayerTotal[Index] += stake - frmStatistics.dblOldStake;
   // A check can come twice while the focus stays: the change must not be booked again.

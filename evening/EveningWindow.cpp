@@ -20,7 +20,7 @@ void prcPrepareEveningWindow(Window& form, const char* name, const char* caption
 }
 
 void prcPlaceEveningWindow(Window& form) {
-  if (fncGetPrivateProfileString(form.Name, "Top") == "No") {
+  if (fncGetPrivateProfileString(form.Name, keyTop) == "No") {
     form.Left = (platform::ScreenWidth() - form.ScaleWidth) / 2;
     form.Top = (platform::ScreenHeight() - form.ScaleHeight) / 2;
   } else {

@@ -107,7 +107,7 @@ void prcNoteHand() {
 
 bool fncResetSince() { return blnResetSince; }
 
-double fncStakeNow(Integer intSeat) { return fncGetSetting(fncSeatSection(intSeat), "Stake"); }
+double fncStakeNow(Integer intSeat) { return fncGetSetting(fncSeatSection(intSeat), keyStake); }
 
 void prcNoteReset() { blnResetSince = !colEveningHands.empty(); }
 

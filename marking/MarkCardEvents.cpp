@@ -1,9 +1,7 @@
 #include "marking/MarkCardEvents.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <utility>
 
 #include "marking/AutomaticDeal.h"
 #include "marking/MarkCardLayout.h"
@@ -11,7 +9,8 @@
 #include "platform/Places.h"
 #include "platform/Procedure.h"
 #include "shell/MDIForm1.h"
-#include "shell/SettingsStore.h"
+#include "shell/SettingsKeys.h"
+#include "shell/WindowPlace.h"
 #include "table/BaccTable.h"
 
 namespace {
@@ -24,14 +23,6 @@ constexpr double dblLeftShift = 150;
 constexpr double dblPictureWidth = 30000;
 constexpr double dblBarWidth = 225;
 constexpr double dblInset = 15;  ///< From the drawing area's edge to its rectangle and rules.
-
-/// The places that a card's section of the settings file holds.
-std::array<std::pair<const char*, double*>, 4> fncStoredPlace(Window& form) {
-  return {
-      {{"Top", &form.Top}, {"Left", &form.Left}, {"Height", &form.Height}, {"Width", &form.Width}}};
-}
-
-std::string fncSection(const Integer& card) { return "frmMarkCard" + std::to_string(int{card}); }
 
 /// The card that a window or a control on it belongs to, loaded or being loaded.
 MarkCardWindow& fncOwner(const Window& window) {
@@ -111,9 +102,7 @@ void Form_Load(Window& window) {
   MarkCardWindow& form = fncOwner(window);
   prcLayOutMarkCard(form);
   prcJoinEvents(form);
-  for (const auto& [key, place] : fncStoredPlace(window)) {
-    *place = fncGetSetting(fncSection(intMarkCardNumber), key);
-  }
+  prcReadPlace(window, fncMarkCardSection(intMarkCardNumber), PlaceKeys::Whole);
   prcPlaceForm(window);
   running.Step(2);
   prcMakeRules(form);
@@ -135,9 +124,7 @@ void Form_Unload(Window& window, bool& /*blnCancel*/) {
   const Integer card = fncMarkCardNumber(window);
   if (card >= 0) {
     running.Step(2);
-    for (const auto& [key, place] : fncStoredPlace(window)) {
-      prcWriteSetting(fncSection(card), key, *place);
-    }
+    prcWritePlace(window, fncMarkCardSection(card), PlaceKeys::Whole);
   }
   running.Step(3);
   RemoveCardViewForm(fncOwner(window));

@@ -47,11 +47,11 @@ void prcLayOutCount();
 constexpr ListWindow wndCards{frmCardsDealt.Form,
                               frmCardsDealt.lstCardsDealt,
                               frmCardsDealt.chkOnTop,
-                              "frmCardsDealt",
-                              "CardsDealtOnTop",
+                              secCardsDealt,
+                              keyCardsDealtOnTop,
                               MDIForm1.mnuShowCardsDealt,
                               "CardsDealt",
-                              "Show Cards Dealt",
+                              keyShowCardsDealt,
                               "frmCardsDealt_Form_Load",
                               "frmCardsDealt_Unload",
                               "chkOnTop_Click",
@@ -59,11 +59,11 @@ constexpr ListWindow wndCards{frmCardsDealt.Form,
 constexpr ListWindow wndCount{frmCardsDealtCount.Form,
                               frmCardsDealtCount.lstCardsDealtCount,
                               frmCardsDealtCount.chkOnTop,
-                              "frmCardsDealtCount",
-                              "CardsDealtCountOnTop",
+                              secCardsDealtCount,
+                              keyCardsDealtCountOnTop,
                               MDIForm1.mnuShowCardsDealtCount,
                               "CardsDealtCount",
-                              "Show Cards Dealt Count",
+                              keyShowCardsDealtCount,
                               "frmCardsDealtCount_Form_Load",
                               "frmCardsDealtCount_Unload",
                               "frmCardsDealtCount_chkOnTop_Click",
@@ -83,7 +83,7 @@ void chkOnTop_Click(Control& box) {
   const Procedure running(window.ClickLabel);
   window.Form.Topmost = window.OnTop.Value == 1;
   running.Step(2);
-  prcWritePrivateProfileString("Misc", window.OnTopKey, window.Form.Topmost ? "1" : "0");
+  prcWritePrivateProfileString(secMisc, window.OnTopKey, window.Form.Topmost ? "1" : "0");
 }
 
 constexpr ControlEvents evtOnTop{.Click = chkOnTop_Click};
@@ -128,7 +128,7 @@ void Form_Load(Window& form) {
   prcReadPlace(form, window.Section);
   running.Step(3);
   form.Topmost = false;
-  if (fncGetPrivateProfileString("Misc", window.OnTopKey) == "1") {
+  if (fncGetPrivateProfileString(secMisc, window.OnTopKey) == "1") {
     prcSetValue(window.OnTop, 1);
   }
 }
@@ -141,7 +141,7 @@ void Form_Unload(Window& form, bool& blnCancel) {
   running.Step(2);
   prcSetButton(window.Button, 0);
   running.Step(3);
-  prcWriteSwitch("Card Options", window.SwitchKey, false);
+  prcWriteSwitch(secCardOptions, window.SwitchKey, false);
   running.Step(4);
   prcWritePlace(form, window.Section);
   running.Step(5);

@@ -9,7 +9,8 @@
 #include "platform/platform.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
-#include "shell/SettingsStore.h"
+#include "shell/SettingsKeys.h"
+#include "shell/WindowPlace.h"
 #include "shell/frmSelectaShoe.h"
 #include "table/BaccTable.h"
 
@@ -42,10 +43,7 @@ void prcCloseFloats() {
 
 void MDIForm1_Unload() {
   const Procedure running("MDIForm1_Unload");
-  prcWriteSetting("MDIForm1", "Top", MDIForm1.Form.Top);
-  prcWriteSetting("MDIForm1", "Left", MDIForm1.Form.Left);
-  prcWriteSetting("MDIForm1", "Height", MDIForm1.Form.Height);
-  prcWriteSetting("MDIForm1", "Width", MDIForm1.Form.Width);
+  prcWritePlace(MDIForm1.Form, secFrame, PlaceKeys::Whole);
   running.Step(2);
   fncUnload(frmCardsDealt.Form);
   fncUnload(frmCardsDealtCount.Form);

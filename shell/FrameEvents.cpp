@@ -28,7 +28,7 @@ void Timer1_Timer(Control& timer) {
   running.Step(2);
   prcMarkShoeSize();
   running.Step(3);
-  prcUseArrows(fncSwitchedOn("Reveal", "Arrows"));
+  prcUseArrows(fncSwitchedOn(secReveal, keyArrows));
 }
 
 constexpr ControlEvents evtTimer{.Timer = Timer1_Timer};
@@ -49,7 +49,7 @@ void MDIForm1_Load(Window& form) {
   prcLayOutFrame();
   strHelpFile = fncHelpFilePath();
   running.Step(2);
-  prcUseToolbar(fncSwitchedOn("Options", "Large Buttons"));
+  prcUseToolbar(fncSwitchedOn(secOptions, keyLargeButtons));
   running.Step(3);
   form.Maximised = true;
   form.Width = platform::ScreenWidth();

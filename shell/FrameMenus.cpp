@@ -26,7 +26,7 @@ constexpr int intContentsAndIndex = 0;
 void mnuLargeButtons_Click(Control& entry) {
   prcInvert(entry);
   const bool blnLarge = entry.Value == 1;
-  prcWriteSwitch("Options", "Large Buttons", blnLarge);
+  prcWriteSwitch(secOptions, keyLargeButtons, blnLarge);
   prcUseToolbar(blnLarge);
   prcSetMenusAndButtons();
 }

@@ -15,28 +15,36 @@ namespace {
 
 constexpr std::size_t intLongestValue = 99;
 
+struct FirstSetting {
+  std::string Section;
+  const char* Key;
+  int Value;
+};
+
 /// Without these a first run would open a table of no size, seats that have no money and lists that
 /// lie over the menus. They also stand in for a file that has gone or that cannot be made. Twips,
 /// money per chip, money.
-constexpr const char* strFirstSettings =
-    "[frmBaccTable]\r\n"
-    "Height= 5400\r\n"
-    "Width= 10770\r\n"
-    "[frmCardsDealt]\r\n"
-    "Top= 1800\r\n"
-    "Left= 18300\r\n"
-    "[frmCardsDealtCount]\r\n"
-    "Top= 1800\r\n"
-    "Left= 300\r\n"
-    "[frmStatistics]\r\n"
-    "Top= 3000\r\n"
-    "Left= 4200\r\n"
-    "[Misc]\r\n"
-    "UnitValue= 10\r\n"
-    "[Player1Stats]\r\n"
-    "Stake= 1000\r\n"
-    "[Player2Stats]\r\n"
-    "Stake= 1000\r\n";
+std::string fncFirstSettings() {
+  const FirstSetting rows[] = {
+      {secBaccTable, keyHeight, 5400},    {secBaccTable, keyWidth, 10770},
+      {secCardsDealt, keyTop, 1800},      {secCardsDealt, keyLeft, 18300},
+      {secCardsDealtCount, keyTop, 1800}, {secCardsDealtCount, keyLeft, 300},
+      {secStatistics, keyTop, 3000},      {secStatistics, keyLeft, 4200},
+      {secMisc, keyUnitValue, 10},        {fncSeatSection(0), keyStake, 1000},
+      {fncSeatSection(1), keyStake, 1000}};
+  std::string text;
+  std::string section;
+  for (const FirstSetting& row : rows) {
+    if (row.Section != section) {
+      section = row.Section;
+      text += "[" + section + "]" + strLineBreak;
+    }
+    text += std::string(row.Key) + "=" + fncNumberText(row.Value) + strLineBreak;
+  }
+  return text;
+}
+
+const std::string strFirstSettings = fncFirstSettings();
 
 /// The path of the file follows.
 const std::string strNotKept =

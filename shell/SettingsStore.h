@@ -3,7 +3,9 @@
 #include <functional>
 #include <string>
 
-// The settings file, key by key. docs/settings.md lists the keys.
+#include "shell/SettingsKeys.h"
+
+// The settings file, key by key.
 
 /// Full path of the settings file; set once, before the first read.
 extern std::string strIniFile;

@@ -21,7 +21,7 @@ Control& fncSizeButton(int decks) { return fncToolButton("Decks" + std::to_strin
 /// out of range.
 Integer fncStoredDecks() {
   using Bounds = std::numeric_limits<std::int16_t>;
-  return fncInteger(std::clamp(fncGetSetting("Shoe Size", "Decks"), double{Bounds::min()},
+  return fncInteger(std::clamp(fncGetSetting(secShoeSize, keyDecks), double{Bounds::min()},
                                double{Bounds::max()}));
 }
 
@@ -44,7 +44,7 @@ void prcDecks(Integer decks, Control& button) {
     MDIForm1.mnuShoeSizeDecks[i].Value = intShoeSizes[static_cast<std::size_t>(i)] == decks ? 1 : 0;
   }
   running.Step(3);
-  prcWriteSetting("Shoe Size", "Decks", decks);
+  prcWriteSetting(secShoeSize, keyDecks, decks);
   running.Step(4);
   prcSetButton(button, 1);
   tlbrDecksButton = &button;

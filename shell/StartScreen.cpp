@@ -46,7 +46,7 @@ void cmdHelp_Click(Control&) { prcShowHelp(); }
 void cmdQuit_Click(Control&) { prcLeave(); }
 
 void Nerodik_Click(Control& box) {
-  prcWritePrivateProfileString("Misc", "Nerodik", box.Value == 1 ? "1" : "0");
+  prcWritePrivateProfileString(secMisc, keyNerodik, box.Value == 1 ? "1" : "0");
 }
 
 void Label6_Click(Control&) { DisplayURL(strWebSite, "Velmora"); }
@@ -134,7 +134,7 @@ void Form_Load(Window& form) {
   running.Step(4);
   prcPlacePoints();
   running.Step(5);
-  if (fncGetPrivateProfileString("Misc", "Nerodik") == "1") {
+  if (fncGetPrivateProfileString(secMisc, keyNerodik) == "1") {
     prcShowFrame();
     return;
   }

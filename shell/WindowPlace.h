@@ -1,14 +1,20 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/Window.h"
 
-// Where the floating windows stood when they were last closed. Twips, in the screen's coordinates.
+// Where windows stood when they were last closed, each under a section of its own. Twips: a child's
+// place counts in the frame's field, any other's on the screen.
 
-/// Gives a window the Top and Left stored under its own section, mended so
-/// that it is seen; 0 where a key is missing.
-void prcReadPlace(Window& form, const std::string& strSection);
+/// What of a place is read.
+enum class PlaceKeys : std::uint8_t { Corner, Whole };
 
-/// Stores a window's Top and Left under its own section.
-void prcWritePlace(const Window& form, const std::string& strSection);
+/// Gives a window its stored Top and Left, or its Height and Width too, and mends them so that it
+/// is seen; 0 where a key is missing.
+void prcReadPlace(Window& form, const std::string& strSection, PlaceKeys keys = PlaceKeys::Corner);
+
+/// Stores the same.
+void prcWritePlace(const Window& form, const std::string& strSection,
+                   PlaceKeys keys = PlaceKeys::Corner);

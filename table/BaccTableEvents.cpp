@@ -9,7 +9,6 @@
 #include "betting/TableLimits.h"
 #include "learn/CardNeed.h"
 #include "marking/MarkCardEvents.h"
-#include "platform/Places.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/platform.h"
@@ -18,6 +17,7 @@
 #include "shell/Closing.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
+#include "shell/WindowPlace.h"
 #include "table/BaccTableLayout.h"
 #include "table/Bets.h"
 #include "table/DealCommand.h"
@@ -26,21 +26,16 @@
 
 namespace {
 
-const std::string strSection = "frmBaccTable";
-
 void prcApplyPlace() {
   Window& form = BaccTable.Form;
-  form.Top = fncGetSetting(strSection, "Top");
-  form.Height = fncGetSetting(strSection, "Height");
-  form.Width = fncGetSetting(strSection, "Width");
-  prcMendPlace(form);
+  prcReadPlace(form, secBaccTable, PlaceKeys::Whole);
   form.Left = (MDIForm1.Form.Width - form.Width) / 2;
 }
 
 void prcLoadSeat(Integer i) {
   const std::string section = fncSeatSection(i);
-  const auto stake = std::nearbyint(fncGetSetting(section, "Stake"));
-  dblPlayerWin[i] = fncGetSetting(section, "Win");
+  const auto stake = std::nearbyint(fncGetSetting(section, keyStake));
+  dblPlayerWin[i] = fncGetSetting(section, keyWin);
   dblPlayerTotal[i] = stake + dblPlayerWin[i];
   prcShowMoney(BaccTable.lblPlayerWinnings[i], dblPlayerWin[i]);
   prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
@@ -165,11 +160,11 @@ void Form_Load(Window&) {
   running.Step(7);
   BaccTable.maisyk.Text = "Shuffle";
   running.Step(8);
-  if (fncEqualNoCase(fncGetPrivateProfileString("File", "Learn"), "True")) {
+  if (fncEqualNoCase(fncGetPrivateProfileString(secFile, keyLearn), "True")) {
     prcShowLearnPanels(true);
   }
   running.Step(9);
-  BaccTable.txtUnitValue.Text = fncPlainNumberText(fncGetSetting("Misc", "UnitValue"));
+  BaccTable.txtUnitValue.Text = fncPlainNumberText(fncGetSetting(secMisc, keyUnitValue));
   running.Step(10);
   blnTableLoaded = true;
   running.Step(11);
@@ -190,10 +185,7 @@ void Form_Load(Window&) {
 
 void Form_Unload(Window& form, bool& /*blnCancel*/) {
   const Procedure running("Baccarat table Form_Unload");
-  prcWriteSetting(strSection, "Top", form.Top);
-  prcWriteSetting(strSection, "Left", form.Left);
-  prcWriteSetting(strSection, "Height", form.Height);
-  prcWriteSetting(strSection, "Width", form.Width);
+  prcWritePlace(form, secBaccTable, PlaceKeys::Whole);
   running.Step(2);
   // A shuffle that outlives the window tests this bound on every pass, and ends.
   intLastCard[intShoeNumber] = 0;

@@ -33,6 +33,6 @@ void prcEndOfShoe() {
     prcListRest();
   }
   intNextCard[intShoeNumber] = int{intLastCard[intShoeNumber]};
-  const std::string key = "Decks " + std::to_string(intDecksInPlay[intShoeNumber]);
-  prcWriteSetting("ShoesHandsPlayed", key, fncLong(fncGetSetting("ShoesHandsPlayed", key) + 1));
+  const std::string key = fncDecksKey(intDecksInPlay[intShoeNumber]);
+  prcWriteSetting(secPlayed, key, fncLong(fncGetSetting(secPlayed, key) + 1));
 }

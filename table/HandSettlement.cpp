@@ -15,10 +15,10 @@ void prcSettleSeat(Integer i) {
   prcShowMoney(BaccTable.lblPlayerWinnings[i], dblPlayerWin[i]);
   dblPlayerTotal[i] = dblHandWin + dblPlayerTotal[i];
   prcShowMoney(BaccTable.lblPlayerTotal[i], dblPlayerTotal[i]);
-  prcWriteSetting(section, "Win", dblPlayerWin[i]);
-  const Long turnover = fncLong(fncGetSetting(section, "Turnover"));
+  prcWriteSetting(section, keyWin, dblPlayerWin[i]);
+  const Long turnover = fncLong(fncGetSetting(section, keyTurnover));
   const Long played = turnover + lngTieBet[i] + lngBankerBet[i] + lngPlayerBet[i];
-  prcWriteSetting(section, "Turnover", played);
+  prcWriteSetting(section, keyTurnover, played);
 }
 
 }  // namespace
@@ -28,8 +28,7 @@ void prcSettleHand() {
     for (int i = 0; i < intSeats; ++i) {
       prcSettleSeat(i);
     }
-    prcWriteSetting("ShoesHandsPlayed", "Hands",
-                    fncLong(fncGetSetting("ShoesHandsPlayed", "Hands") + 1));
+    prcWriteSetting(secPlayed, keyHands, fncLong(fncGetSetting(secPlayed, keyHands) + 1));
   });
   for (int k = 0; k < intShoes; ++k) {
     if (intMarkCardShoe[k] == intShoeNumber && k != intShoeNumber) {

@@ -85,7 +85,3 @@ void prcResetTableState() {
     *flag = false;
   }
 }
-
-std::string fncSeatSection(Integer intSeat) {
-  return "Player" + std::to_string(intSeat + 1) + "Stats";
-}

@@ -114,6 +114,3 @@ extern bool blnTableLoaded, blnMarkCardLoaded;
 
 /// Puts every table and value back to how the program starts. Windows are not touched.
 void prcResetTableState();
-
-/// The settings section of a seat, "Player1Stats" for seat 0.
-std::string fncSeatSection(Integer intSeat);

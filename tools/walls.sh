@@ -35,6 +35,8 @@ wall "only platform/ knows the file system" \
   "${outside_platform[@]}"
 wall "only platform/ knows the locale and the environment" \
   '<(locale|clocale)>|setlocale|std::locale|getenv|strto[dflu]|sto[dfil]\(' "${outside_platform[@]}"
+wall "sections and keys of the settings file are named in shell/SettingsKeys.h" \
+  '(Setting|ProfileString|Switch|SwitchedOn|Place)\(([A-Za-z0-9_.()]+, *)?"' "${game[@]}"
 wall "unfinished work belongs in an issue" \
   '(TO''DO|FIX''ME|\bXX''X\b)' "${code[@]}" '*.sh' '*.cmake' '*.md' play check
 wall "name the thing itself: numbers of chapters go stale" \
@@ -50,5 +52,12 @@ if [ -n "$climbing" ]; then
   echo "  ^ the house has floors (tools/floors), and a module includes downwards only" >&2
   breaches=1
 fi
+
+while read -r name; do
+  if ! grep -qF "\`$name\`" docs/settings.md; then
+    echo "docs/settings.md does not tell \`$name\` of shell/SettingsKeys.h" >&2
+    breaches=1
+  fi
+done < <(sed -nE 's/.* = "([^"]+)";.*/\1/p' shell/SettingsKeys.h)
 
 exit "$breaches"
