@@ -43,16 +43,6 @@ void mnuContents_Click(Control&) { platform::ShowHelp(strHelpFile, intContentsAn
 
 void mnuAbout_Click(Control&) { prcShowModal(KasSitas.Form); }
 
-void mnuLearn_Click(Control&) { prcLearn(); }
-void mnuCardFaceUpDown_Click(Control&) { prcCardFaceUpDown(); }
-void mnuShowCardValues_Click(Control&) { prcShowCardValues(); }
-void mnuShowCardsDealt_Click(Control&) { prcShowCardsDealt(); }
-void mnuShowCardsDealtCount_Click(Control&) { prcShowCardsDealtCount(); }
-void mnuShowScore_Click(Control&) { prcShowScore(); }
-void mnuShowNaturals_Click(Control&) { prcShowNaturals(); }
-void mnuPlayerBlue_Click(Control&) { prcPlayerBlue(); }
-void mnuDealDelay_Click(Control&) { prcDelay(); }
-void mnuDealAnimation_Click(Control&) { prcAnimation(); }
 void mnuArrows_Click(Control&) { prcSetRevealIcons(); }
 void mnuHands_Click(Control&) { prcSetRevealIcons(); }
 void mnuOptions_Click(Control&) { prcOptions(); }
@@ -70,25 +60,24 @@ struct MenuRow {
   void (*Click)(Control& entry) = nullptr;
 };
 
-constexpr MenuRow menuRows[] = {
+MenuRow fncRow(const Switch& row) {
+  return {row.Entry, row.Name, row.Caption, Rank::Switch, row.Click};
+}
+
+const MenuRow menuRows[] = {
     {MDIForm1.mnuFile, "mnuFile", "&File", Rank::Title},
-    {MDIForm1.mnuLearn, "mnuLearn", "&Learn", Rank::Switch, mnuLearn_Click},
+    fncRow(swtLearn),
     {MDIForm1.mnuSep5, "mnuSep5", "-", Rank::Entry},
     {MDIForm1.mnuExit, "mnuExit", "E&xit", Rank::Entry, mnuExit_Click},
     {MDIForm1.mnuCardOptions, "mnuCardOptions", "&Card Options", Rank::Title},
-    {MDIForm1.mnuCardFaceUpDown, "mnuCardFaceUpDown", "Cards Face &Up", Rank::Switch,
-     mnuCardFaceUpDown_Click},
-    {MDIForm1.mnuShowCardValues, "mnuShowCardValues", "Show Card &Values", Rank::Switch,
-     mnuShowCardValues_Click},
-    {MDIForm1.mnuShowCardsDealt, "mnuShowCardsDealt", "Show Cards &Dealt", Rank::Switch,
-     mnuShowCardsDealt_Click},
-    {MDIForm1.mnuShowCardsDealtCount, "mnuShowCardsDealtCount", "Show Cards Dealt &Count",
-     Rank::Switch, mnuShowCardsDealtCount_Click},
+    fncRow(swtCardFaceUp),
+    fncRow(swtShowCardValues),
+    fncRow(swtShowCardsDealt),
+    fncRow(swtShowCardsDealtCount),
     {MDIForm1.mnuMarkingOptions, "mnuMarkingOptions", "&Marking Options", Rank::Title},
-    {MDIForm1.mnuShowScore, "mnuShowScore", "Show &Score", Rank::Switch, mnuShowScore_Click},
-    {MDIForm1.mnuShowNaturals, "mnuShowNaturals", "Show &Naturals", Rank::Switch,
-     mnuShowNaturals_Click},
-    {MDIForm1.mnuPlayerBlue, "mnuPlayerBlue", "&Player Blue", Rank::Switch, mnuPlayerBlue_Click},
+    fncRow(swtShowScore),
+    fncRow(swtShowNaturals),
+    fncRow(swtPlayerBlue),
     {MDIForm1.mnuShoeSize, "mnuShoeSize", "&Shoe Size", Rank::Title},
     {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", Rank::Switch,
      mnuShoeSizeDecks_Click},
@@ -101,10 +90,8 @@ constexpr MenuRow menuRows[] = {
     {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", Rank::Switch,
      mnuShoeSizeDecks_Click},
     {MDIForm1.mnuDealing, "mnuDealing", "&Dealing", Rank::Title},
-    {MDIForm1.mnuDealDelay, "mnuDealDelay", "&Delay When Face Up", Rank::Switch,
-     mnuDealDelay_Click},
-    {MDIForm1.mnuDealAnimation, "mnuDealAnimation", "&Animation", Rank::Switch,
-     mnuDealAnimation_Click},
+    fncRow(swtDelay),
+    fncRow(swtAnimation),
     {MDIForm1.mOptions, "mOptions", "&Options", Rank::Title},
     {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", Rank::Switch,
      mnuLargeButtons_Click},

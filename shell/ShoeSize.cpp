@@ -65,8 +65,6 @@ void prcDecksButtonWarning(Integer decks, Control& button) {
   }
 }
 
-void prcSizeButton(int decks) { prcDecksButtonWarning(decks, fncSizeButton(decks)); }
-
 void mnuShoeSizeDecks_Click(Control& entry) {
   if (fncChangeWanted()) {
     const int decks = intShoeSizes.at(static_cast<std::size_t>(std::int16_t{entry.Index}));

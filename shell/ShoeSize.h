@@ -14,9 +14,6 @@ void prcDecks(Integer decks, Control& button);
 /// The same after the warning that a shoe is in play; taken back, the size in force stays marked.
 void prcDecksButtonWarning(Integer decks, Control& button);
 
-/// The same by the button of that size, for decks 1, 2, 4, 6 or 8.
-void prcSizeButton(int decks);
-
 /// A click on an entry of mnuShoeSizeDecks, Index 0..4.
 void mnuShoeSizeDecks_Click(Control& entry);
 

@@ -1,8 +1,5 @@
 #include "shell/Switches.h"
 
-#include <algorithm>
-#include <array>
-
 #include "learn/CardNeed.h"
 #include "platform/Procedure.h"
 #include "reveal/CardReveal.h"
@@ -14,21 +11,6 @@
 #include "table/TableState.h"
 
 namespace {
-
-/// When prcSetMenusAndButtons reads a switch: before or after the shoe size.
-enum class Turn : std::uint8_t { First, Last };
-
-struct Switch {
-  Control& Entry;
-  const char* Button;
-  const char* Section;
-  const char* Key;
-  bool* Flag = nullptr;                  ///< None where the check mark itself is the flag.
-  void (*Effect)(bool blnOn) = nullptr;  ///< What changes at once, beyond what others read.
-  void (*StartsOn)() = nullptr;          ///< What it does when it comes up on from the file.
-  bool blnWarns = false;                 ///< Acts from the next shoe on, and says so.
-  Turn Read = Turn::First;
-};
 
 void prcCardsDealtShown(bool blnOn) {
   prcLoad(frmCardsDealt.Form);
@@ -43,129 +25,209 @@ void prcCountShown(bool blnOn) {
   }
 }
 
-constexpr std::array switches{
-    Switch{.Entry = MDIForm1.mnuLearn,
-           .Button = "Learn",
-           .Section = secFile,
-           .Key = keyLearn,
-           .Flag = &blnLearn,
-           .Effect = prcShowLearnPanels},
-    Switch{.Entry = MDIForm1.mnuCardFaceUpDown,
-           .Button = "CardFaceUp",
-           .Section = secCardOptions,
-           .Key = keyCardFaceUp,
-           .Flag = &blnCardFaceUp},
-    Switch{.Entry = MDIForm1.mnuShowCardValues,
-           .Button = "CardValues",
-           .Section = secCardOptions,
-           .Key = keyShowCardValues,
-           .Flag = &blnShowCardValues},
-    Switch{.Entry = MDIForm1.mnuShowCardsDealt,
-           .Button = "CardsDealt",
-           .Section = secCardOptions,
-           .Key = keyShowCardsDealt,
-           .Effect = prcCardsDealtShown},
-    Switch{.Entry = MDIForm1.mnuShowCardsDealtCount,
-           .Button = "CardsDealtCount",
-           .Section = secCardOptions,
-           .Key = keyShowCardsDealtCount,
-           .Flag = &blnShowCardsDealtCount,
-           .Effect = prcCountShown,
-           .StartsOn = LoadlstCardsDealtCount},
-    Switch{.Entry = MDIForm1.mnuShowScore,
-           .Button = "ShowScore",
-           .Section = secMarkingOptions,
-           .Key = keyShowScore,
-           .Flag = &blnShowScore},
-    Switch{.Entry = MDIForm1.mnuShowNaturals,
-           .Button = "ShowNaturals",
-           .Section = secMarkingOptions,
-           .Key = keyShowNaturals,
-           .Flag = &blnShowNaturals},
-    Switch{.Entry = MDIForm1.mnuPlayerBlue,
-           .Button = "PlayerBlue",
-           .Section = secPlayerBlue,
-           .Key = keyPlayerBlue,
-           .Flag = &blnPlayerBlue,
-           .blnWarns = true},
-    Switch{.Entry = MDIForm1.mnuDealDelay,
-           .Button = "Delay",
-           .Section = secDeal,
-           .Key = keyDelay,
-           .Flag = &blnDealDelay,
-           .Read = Turn::Last},
-    Switch{.Entry = MDIForm1.mnuDealAnimation,
-           .Button = "Animation",
-           .Section = secDeal,
-           .Key = keyAnimation,
-           .Flag = &blnDealAnimation,
-           .Read = Turn::Last},
-};
+void mnuLearn_Click(Control&) { prcLearn(); }
+void mnuCardFaceUpDown_Click(Control&) { prcCardFaceUpDown(); }
+void mnuShowCardValues_Click(Control&) { prcShowCardValues(); }
+void mnuShowCardsDealt_Click(Control&) { prcShowCardsDealt(); }
+void mnuShowCardsDealtCount_Click(Control&) { prcShowCardsDealtCount(); }
+void mnuShowScore_Click(Control&) { prcShowScore(); }
+void mnuShowNaturals_Click(Control&) { prcShowNaturals(); }
+void mnuPlayerBlue_Click(Control&) { prcPlayerBlue(); }
+void mnuDealDelay_Click(Control&) { prcDelay(); }
+void mnuDealAnimation_Click(Control&) { prcAnimation(); }
 
-/// The routine of the switch that has this menu entry. A click on the toolbar has already moved the
-/// button, one on the menu has not: in the end it shows what the entry does.
-void prcTurn(Control& entry, const char* label) {
-  const auto* const row =
-      std::ranges::find_if(switches, [&](const Switch& other) { return &other.Entry == &entry; });
-  const Procedure running(label);
-  if (!row->blnWarns || fncChangeWanted()) {
+/// A click on the toolbar has already moved the button, one on the menu has not: in the end it
+/// shows what the entry does.
+void prcTurn(const Switch& row) {
+  const Procedure running(row.RoutineLabel);
+  Control& entry = row.Entry;
+  if (!row.blnWarns || fncChangeWanted()) {
     prcInvert(entry);
     const bool blnOn = entry.Value == 1;
     running.Step(2);
-    prcWriteSwitch(row->Section, row->Key, blnOn);
+    prcWriteSwitch(row.Section, row.Key, blnOn);
     running.Step(3);
-    if (row->Flag != nullptr) {
-      *row->Flag = !*row->Flag;
+    if (row.Flag != nullptr) {
+      *row.Flag = !*row.Flag;
     }
     running.Step(4);
-    if (row->Effect != nullptr) {
-      row->Effect(blnOn);
+    if (row.Effect != nullptr) {
+      row.Effect(blnOn);
     }
   }
   running.Step(5);
-  prcSetButton(row->Button, entry.Value == 1 ? 1 : 0);
+  prcSetButton(row.Button, entry.Value == 1 ? 1 : 0);
 }
 
-void prcReadSwitches(Turn turn) {
-  for (const Switch& row : switches) {
-    if (row.Read != turn) {
-      continue;
-    }
-    const bool blnOn = fncSwitchedOn(row.Section, row.Key);
-    row.Entry.Value = blnOn ? 1 : 0;
-    if (row.Flag != nullptr) {
-      *row.Flag = blnOn;
-    }
-    prcSetButton(row.Button, blnOn ? 1 : 0);
-    if (blnOn && row.StartsOn != nullptr) {
-      row.StartsOn();
-    }
+void prcRead(const Switch& row) {
+  const bool blnOn = fncSwitchedOn(row.Section, row.Key);
+  row.Entry.Value = blnOn ? 1 : 0;
+  if (row.Flag != nullptr) {
+    *row.Flag = blnOn;
+  }
+  prcSetButton(row.Button, blnOn ? 1 : 0);
+  if (blnOn && row.StartsOn != nullptr) {
+    row.StartsOn();
   }
 }
 
 }  // namespace
 
+constinit const Switch swtLearn{.Entry = MDIForm1.mnuLearn,
+                                .Name = "mnuLearn",
+                                .Caption = "&Learn",
+                                .Button = "Learn",
+                                .Image = 1,
+                                .ToolTip = "Learn which cards are required to WIN",
+                                .ButtonCaption = "Learn",
+                                .Section = secFile,
+                                .Key = keyLearn,
+                                .Flag = &blnLearn,
+                                .Routine = prcLearn,
+                                .RoutineLabel = "MDIForm1_prcLearn",
+                                .Click = mnuLearn_Click,
+                                .Effect = prcShowLearnPanels};
+constinit const Switch swtCardFaceUp{.Entry = MDIForm1.mnuCardFaceUpDown,
+                                     .Name = "mnuCardFaceUpDown",
+                                     .Caption = "Cards Face &Up",
+                                     .Button = "CardFaceUp",
+                                     .Image = 2,
+                                     .ToolTip = "Cards dealt face up if pressed",
+                                     .ButtonCaption = "Card Face Up",
+                                     .Section = secCardOptions,
+                                     .Key = keyCardFaceUp,
+                                     .Flag = &blnCardFaceUp,
+                                     .Routine = prcCardFaceUpDown,
+                                     .RoutineLabel = "MDIForm1_prcCardFaceUpDown",
+                                     .Click = mnuCardFaceUpDown_Click};
+constinit const Switch swtShowCardValues{.Entry = MDIForm1.mnuShowCardValues,
+                                         .Name = "mnuShowCardValues",
+                                         .Caption = "Show Card &Values",
+                                         .Button = "CardValues",
+                                         .Image = 3,
+                                         .ToolTip = "Card values shown when revealing card face",
+                                         .Section = secCardOptions,
+                                         .Key = keyShowCardValues,
+                                         .Flag = &blnShowCardValues,
+                                         .Routine = prcShowCardValues,
+                                         .RoutineLabel = "MDIForm1_prcShowCardValues",
+                                         .Click = mnuShowCardValues_Click};
+constinit const Switch swtShowCardsDealt{.Entry = MDIForm1.mnuShowCardsDealt,
+                                         .Name = "mnuShowCardsDealt",
+                                         .Caption = "Show Cards &Dealt",
+                                         .Button = "CardsDealt",
+                                         .Image = 4,
+                                         .ToolTip = "Show list of all cards dealt",
+                                         .ButtonCaption = "Cards Dealt List",
+                                         .blnCaptionWhenSmall = false,
+                                         .Section = secCardOptions,
+                                         .Key = keyShowCardsDealt,
+                                         .Routine = prcShowCardsDealt,
+                                         .RoutineLabel = "MDIForm1_prcShowCardsDealt",
+                                         .Click = mnuShowCardsDealt_Click,
+                                         .Effect = prcCardsDealtShown};
+constinit const Switch swtShowCardsDealtCount{.Entry = MDIForm1.mnuShowCardsDealtCount,
+                                              .Name = "mnuShowCardsDealtCount",
+                                              .Caption = "Show Cards Dealt &Count",
+                                              .Button = "CardsDealtCount",
+                                              .Image = 5,
+                                              .ToolTip = "Show count of all cards dealt",
+                                              .ButtonCaption = "Cards Dealt Count",
+                                              .blnCaptionWhenSmall = false,
+                                              .Section = secCardOptions,
+                                              .Key = keyShowCardsDealtCount,
+                                              .Flag = &blnShowCardsDealtCount,
+                                              .Routine = prcShowCardsDealtCount,
+                                              .RoutineLabel = "MDIForm1_prcShowCardsDealtCount",
+                                              .Click = mnuShowCardsDealtCount_Click,
+                                              .Effect = prcCountShown,
+                                              .StartsOn = LoadlstCardsDealtCount};
+constinit const Switch swtShowScore{.Entry = MDIForm1.mnuShowScore,
+                                    .Name = "mnuShowScore",
+                                    .Caption = "Show &Score",
+                                    .Button = "ShowScore",
+                                    .Image = 6,
+                                    .ToolTip = "Show Score when pressed otherwise units bet",
+                                    .Section = secMarkingOptions,
+                                    .Key = keyShowScore,
+                                    .Flag = &blnShowScore,
+                                    .Routine = prcShowScore,
+                                    .RoutineLabel = "MDIForm1_prcShowScore",
+                                    .Click = mnuShowScore_Click};
+constinit const Switch swtShowNaturals{.Entry = MDIForm1.mnuShowNaturals,
+                                       .Name = "mnuShowNaturals",
+                                       .Caption = "Show &Naturals",
+                                       .Button = "ShowNaturals",
+                                       .Image = 7,
+                                       .ToolTip = "Show Naturals as ovals on mark card",
+                                       .Section = secMarkingOptions,
+                                       .Key = keyShowNaturals,
+                                       .Flag = &blnShowNaturals,
+                                       .Routine = prcShowNaturals,
+                                       .RoutineLabel = "MDIForm1_prcShowNaturals",
+                                       .Click = mnuShowNaturals_Click};
+constinit const Switch swtPlayerBlue{.Entry = MDIForm1.mnuPlayerBlue,
+                                     .Name = "mnuPlayerBlue",
+                                     .Caption = "&Player Blue",
+                                     .Button = "PlayerBlue",
+                                     .Image = 8,
+                                     .ToolTip = "Player is blue when pressed down",
+                                     .Section = secPlayerBlue,
+                                     .Key = keyPlayerBlue,
+                                     .Flag = &blnPlayerBlue,
+                                     .Routine = prcPlayerBlue,
+                                     .RoutineLabel = "MDIForm1_prcPlayerBlue",
+                                     .Click = mnuPlayerBlue_Click,
+                                     .blnWarns = true};
+constinit const Switch swtDelay{.Entry = MDIForm1.mnuDealDelay,
+                                .Name = "mnuDealDelay",
+                                .Caption = "&Delay When Face Up",
+                                .Button = "Delay",
+                                .Image = 14,
+                                .ToolTip = "Delay between showing cards when face up",
+                                .Section = secDeal,
+                                .Key = keyDelay,
+                                .Flag = &blnDealDelay,
+                                .Routine = prcDelay,
+                                .RoutineLabel = "MDIForm1_prcDelay",
+                                .Click = mnuDealDelay_Click};
+constinit const Switch swtAnimation{.Entry = MDIForm1.mnuDealAnimation,
+                                    .Name = "mnuDealAnimation",
+                                    .Caption = "&Animation",
+                                    .Button = "Animation",
+                                    .Image = 15,
+                                    .ToolTip = "Animation",
+                                    .Section = secDeal,
+                                    .Key = keyAnimation,
+                                    .Flag = &blnDealAnimation,
+                                    .Routine = prcAnimation,
+                                    .RoutineLabel = "MDIForm1_prcAnimation",
+                                    .Click = mnuDealAnimation_Click};
+
 void prcInvert(Control& entry) { entry.Value = entry.Value == 1 ? 0 : 1; }
 
-void prcLearn() { prcTurn(MDIForm1.mnuLearn, "MDIForm1_prcLearn"); }
-void prcCardFaceUpDown() { prcTurn(MDIForm1.mnuCardFaceUpDown, "MDIForm1_prcCardFaceUpDown"); }
-void prcShowCardValues() { prcTurn(MDIForm1.mnuShowCardValues, "MDIForm1_prcShowCardValues"); }
-void prcShowCardsDealt() { prcTurn(MDIForm1.mnuShowCardsDealt, "MDIForm1_prcShowCardsDealt"); }
-void prcShowCardsDealtCount() {
-  prcTurn(MDIForm1.mnuShowCardsDealtCount, "MDIForm1_prcShowCardsDealtCount");
-}
-void prcShowScore() { prcTurn(MDIForm1.mnuShowScore, "MDIForm1_prcShowScore"); }
-void prcShowNaturals() { prcTurn(MDIForm1.mnuShowNaturals, "MDIForm1_prcShowNaturals"); }
-void prcPlayerBlue() { prcTurn(MDIForm1.mnuPlayerBlue, "MDIForm1_prcPlayerBlue"); }
-void prcDelay() { prcTurn(MDIForm1.mnuDealDelay, "MDIForm1_prcDelay"); }
-void prcAnimation() { prcTurn(MDIForm1.mnuDealAnimation, "MDIForm1_prcAnimation"); }
+void prcLearn() { prcTurn(swtLearn); }
+void prcCardFaceUpDown() { prcTurn(swtCardFaceUp); }
+void prcShowCardValues() { prcTurn(swtShowCardValues); }
+void prcShowCardsDealt() { prcTurn(swtShowCardsDealt); }
+void prcShowCardsDealtCount() { prcTurn(swtShowCardsDealtCount); }
+void prcShowScore() { prcTurn(swtShowScore); }
+void prcShowNaturals() { prcTurn(swtShowNaturals); }
+void prcPlayerBlue() { prcTurn(swtPlayerBlue); }
+void prcDelay() { prcTurn(swtDelay); }
+void prcAnimation() { prcTurn(swtAnimation); }
 
 void prcSetMenusAndButtons() {
   const Procedure running("MDIForm1_prcSetMenusAndButtons");
-  prcReadSwitches(Turn::First);
+  for (const Switch* row :
+       {&swtLearn, &swtCardFaceUp, &swtShowCardValues, &swtShowCardsDealt, &swtShowCardsDealtCount,
+        &swtShowScore, &swtShowNaturals, &swtPlayerBlue}) {
+    prcRead(*row);
+  }
   prcReadShoeSize();
   running.Step(2);
-  prcReadSwitches(Turn::Last);
+  prcRead(swtDelay);
+  prcRead(swtAnimation);
   running.Step(3);
   prcSetButton("Statistics", MDIForm1.mnuStatistics.Value == 1 ? 1 : 0);
   running.Step(4);

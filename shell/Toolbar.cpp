@@ -24,44 +24,36 @@ struct ToolRow {
   bool blnCaptionWhenSmall;
   const char* ToolTip;
   void (*Routine)();
+  int Decks = 0;  ///< The shoe size that the button chooses, where it has no routine.
 };
 
 constexpr ToolRow rowSeparator{"Separator", ButtonStyle::Separator, 0, "", true, "", nullptr};
 
-constexpr std::array<ToolRow, intToolButtons> toolRows{{
-    {"Learn", ButtonStyle::Check, 1, "Learn", true, "Learn which cards are required to WIN",
-     prcLearn},
+ToolRow fncRow(const Switch& row) {
+  return {row.Button,  ButtonStyle::Check, row.Image, row.ButtonCaption, row.blnCaptionWhenSmall,
+          row.ToolTip, row.Routine};
+}
+
+const std::array<ToolRow, intToolButtons> toolRows{{
+    fncRow(swtLearn),
     rowSeparator,
-    {"CardFaceUp", ButtonStyle::Check, 2, "Card Face Up", true, "Cards dealt face up if pressed",
-     prcCardFaceUpDown},
-    {"CardValues", ButtonStyle::Check, 3, "", true, "Card values shown when revealing card face",
-     prcShowCardValues},
-    {"CardsDealt", ButtonStyle::Check, 4, "Cards Dealt List", false, "Show list of all cards dealt",
-     prcShowCardsDealt},
-    {"CardsDealtCount", ButtonStyle::Check, 5, "Cards Dealt Count", false,
-     "Show count of all cards dealt", prcShowCardsDealtCount},
+    fncRow(swtCardFaceUp),
+    fncRow(swtShowCardValues),
+    fncRow(swtShowCardsDealt),
+    fncRow(swtShowCardsDealtCount),
     rowSeparator,
-    {"ShowScore", ButtonStyle::Check, 6, "", true, "Show Score when pressed otherwise units bet",
-     prcShowScore},
-    {"ShowNaturals", ButtonStyle::Check, 7, "", true, "Show Naturals as ovals on mark card",
-     prcShowNaturals},
-    {"PlayerBlue", ButtonStyle::Check, 8, "", true, "Player is blue when pressed down",
-     prcPlayerBlue},
+    fncRow(swtShowScore),
+    fncRow(swtShowNaturals),
+    fncRow(swtPlayerBlue),
     rowSeparator,
-    {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe",
-     [] { prcSizeButton(1); }},
-    {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe",
-     [] { prcSizeButton(2); }},
-    {"Decks4", ButtonStyle::Group, 11, "", true, "4 Decks of cards per shoe",
-     [] { prcSizeButton(4); }},
-    {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe",
-     [] { prcSizeButton(6); }},
-    {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe",
-     [] { prcSizeButton(8); }},
+    {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe", nullptr, 1},
+    {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe", nullptr, 2},
+    {"Decks4", ButtonStyle::Group, 11, "", true, "4 Decks of cards per shoe", nullptr, 4},
+    {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe", nullptr, 6},
+    {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe", nullptr, 8},
     rowSeparator,
-    {"Delay", ButtonStyle::Check, 14, "", true, "Delay between showing cards when face up",
-     prcDelay},
-    {"Animation", ButtonStyle::Check, 15, "", true, "Animation", prcAnimation},
+    fncRow(swtDelay),
+    fncRow(swtAnimation),
     rowSeparator,
     {"RevealArrows", ButtonStyle::Group, 16, "", true, "Use arrows to reveal cards",
      prcSetRevealIcons},
@@ -85,7 +77,12 @@ const ToolRow& fncRow(const std::string& key) {
 
 void tlbrMDIForm1_ButtonClick(Control& button) {
   const Procedure running("MDIForm1_tlbrMDIForm1_ButtonClick");
-  fncRow(button.Name).Routine();
+  const ToolRow& row = fncRow(button.Name);
+  if (row.Routine != nullptr) {
+    row.Routine();
+  } else {
+    prcDecksButtonWarning(row.Decks, button);
+  }
 }
 
 void tlbrMDIForm2_ButtonClick(Control& button) { tlbrMDIForm1_ButtonClick(button); }
