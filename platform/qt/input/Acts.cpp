@@ -1,10 +1,9 @@
-#include "platform/qt/input/Acts.h"
+#include "platform/qt/windows/Reports.h"
 
 #include <QApplication>
 
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/InFront.h"
-#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
 
 namespace qt {
