@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int intShoe = 1;  // The table plays shoe 0: what lies in this one is listed nowhere.
+constexpr int intSpareShoe = 1;  // The table plays shoe 0: what lies in this one is listed nowhere.
 constexpr int intValues = 13;
 constexpr std::size_t intLeastBurnt = 2, intMostBurnt = 11;
 
@@ -20,7 +20,8 @@ struct Counts {
 };
 
 std::size_t fncSlot(std::size_t position) {
-  return static_cast<std::size_t>(int{intShoeCards[intShoe][static_cast<std::int64_t>(position)]});
+  return static_cast<std::size_t>(
+      int{intShoeCards[intSpareShoe][static_cast<std::int64_t>(position)]});
 }
 
 void prcCountShoe(Counts& counts, ShuffleStatistics& statistics) {
@@ -40,7 +41,7 @@ void prcCountShoe(Counts& counts, ShuffleStatistics& statistics) {
     before = value;
   }
   ++counts.First[fncSlot(0)];
-  ++counts.Burnt[static_cast<std::size_t>(int{intNextCard[intShoe]})];
+  ++counts.Burnt[static_cast<std::size_t>(int{intNextCard[intSpareShoe]})];
   statistics.BrokenShoes += blnBroken ? 1 : 0;
   statistics.Positions += static_cast<std::int64_t>(slots);
 }
@@ -126,10 +127,10 @@ ShuffleStatistics fncShuffleStatistics(int decks, std::int64_t shoes, std::uint6
   ShuffleStatistics statistics;
   statistics.Decks = decks;
   statistics.Shoes = shoes;
-  intDecks[intShoe] = decks;
+  intDecks[intSpareShoe] = decks;
   Counts counts(static_cast<std::size_t>(decks * intSlotsOfDeck));
   for (std::int64_t shoe = 0; shoe < shoes; ++shoe) {
-    Shuffle(intShoe);
+    Shuffle(intSpareShoe);
     prcCountShoe(counts, statistics);
   }
   prcJudgeFirst(counts, statistics);

@@ -60,24 +60,24 @@ struct MenuRow {
   void (*Click)(Control& entry) = nullptr;
 };
 
-MenuRow fncRow(const Switch& row) {
+MenuRow fncEntry(const Switch& row) {
   return {row.Entry, row.Name, row.Caption, Rank::Switch, row.Click};
 }
 
 const MenuRow menuRows[] = {
     {MDIForm1.mnuFile, "mnuFile", "&File", Rank::Title},
-    fncRow(swtLearn),
+    fncEntry(swtLearn),
     {MDIForm1.mnuSep5, "mnuSep5", "-", Rank::Entry},
     {MDIForm1.mnuExit, "mnuExit", "E&xit", Rank::Entry, mnuExit_Click},
     {MDIForm1.mnuCardOptions, "mnuCardOptions", "&Card Options", Rank::Title},
-    fncRow(swtCardFaceUp),
-    fncRow(swtShowCardValues),
-    fncRow(swtShowCardsDealt),
-    fncRow(swtShowCardsDealtCount),
+    fncEntry(swtCardFaceUp),
+    fncEntry(swtShowCardValues),
+    fncEntry(swtShowCardsDealt),
+    fncEntry(swtShowCardsDealtCount),
     {MDIForm1.mnuMarkingOptions, "mnuMarkingOptions", "&Marking Options", Rank::Title},
-    fncRow(swtShowScore),
-    fncRow(swtShowNaturals),
-    fncRow(swtPlayerBlue),
+    fncEntry(swtShowScore),
+    fncEntry(swtShowNaturals),
+    fncEntry(swtPlayerBlue),
     {MDIForm1.mnuShoeSize, "mnuShoeSize", "&Shoe Size", Rank::Title},
     {MDIForm1.mnuShoeSizeDecks[0], "mnuShoeSizeDecks", "&1 Deck", Rank::Switch,
      mnuShoeSizeDecks_Click},
@@ -90,8 +90,8 @@ const MenuRow menuRows[] = {
     {MDIForm1.mnuShoeSizeDecks[4], "mnuShoeSizeDecks", "&8 Decks", Rank::Switch,
      mnuShoeSizeDecks_Click},
     {MDIForm1.mnuDealing, "mnuDealing", "&Dealing", Rank::Title},
-    fncRow(swtDelay),
-    fncRow(swtAnimation),
+    fncEntry(swtDelay),
+    fncEntry(swtAnimation),
     {MDIForm1.mOptions, "mOptions", "&Options", Rank::Title},
     {MDIForm1.mnuLargeButtons, "mnuLargeButtons", "&Large Buttons", Rank::Switch,
      mnuLargeButtons_Click},

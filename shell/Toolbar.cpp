@@ -29,22 +29,22 @@ struct ToolRow {
 
 constexpr ToolRow rowSeparator{"Separator", ButtonStyle::Separator, 0, "", true, "", nullptr};
 
-ToolRow fncRow(const Switch& row) {
+ToolRow fncButton(const Switch& row) {
   return {row.Button,  ButtonStyle::Check, row.Image, row.ButtonCaption, row.blnCaptionWhenSmall,
           row.ToolTip, row.Routine};
 }
 
 const std::array<ToolRow, intToolButtons> toolRows{{
-    fncRow(swtLearn),
+    fncButton(swtLearn),
     rowSeparator,
-    fncRow(swtCardFaceUp),
-    fncRow(swtShowCardValues),
-    fncRow(swtShowCardsDealt),
-    fncRow(swtShowCardsDealtCount),
+    fncButton(swtCardFaceUp),
+    fncButton(swtShowCardValues),
+    fncButton(swtShowCardsDealt),
+    fncButton(swtShowCardsDealtCount),
     rowSeparator,
-    fncRow(swtShowScore),
-    fncRow(swtShowNaturals),
-    fncRow(swtPlayerBlue),
+    fncButton(swtShowScore),
+    fncButton(swtShowNaturals),
+    fncButton(swtPlayerBlue),
     rowSeparator,
     {"Decks1", ButtonStyle::Group, 9, "", true, "1 Deck of cards per shoe", nullptr, 1},
     {"Decks2", ButtonStyle::Group, 10, "", true, "2 Decks of cards per shoe", nullptr, 2},
@@ -52,8 +52,8 @@ const std::array<ToolRow, intToolButtons> toolRows{{
     {"Decks6", ButtonStyle::Group, 12, "", true, "6 Decks of cards per shoe", nullptr, 6},
     {"Decks8", ButtonStyle::Group, 13, "", true, "8 Decks of cards per shoe", nullptr, 8},
     rowSeparator,
-    fncRow(swtDelay),
-    fncRow(swtAnimation),
+    fncButton(swtDelay),
+    fncButton(swtAnimation),
     rowSeparator,
     {"RevealArrows", ButtonStyle::Group, 16, "", true, "Use arrows to reveal cards",
      prcSetRevealIcons},

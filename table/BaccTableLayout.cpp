@@ -156,12 +156,12 @@ constexpr std::array<BetRow, 3> rowBets{
       "999",
       'P'}}};
 
-struct Chip {
+struct ChipRow {
   int Chips;
   const char *Text, *ToolTip;
   int Picture;
 };
-constexpr std::array<Chip, 4> chpAll{
+constexpr std::array<ChipRow, 4> chpAll{
     {{0, "0", "", picChip0},
      {1, "1", "Left click add 1 chip / Right click subtract 1 chip", picChip1},
      {2, "2", "Left click add 2 chips / Right click subtract 2 chips", picChip2},
@@ -186,7 +186,7 @@ const char* fncBoxTip(BetSide side, int seat) {
 void prcLayChips(const BetRow& row, int seat) {
   for (std::size_t k = 0; k < chpAll.size(); ++k) {
     Control& label = *fncChips(seat)[static_cast<std::size_t>(row.Side) * chpAll.size() + k];
-    const Chip& chip = chpAll.at(k);
+    const ChipRow& chip = chpAll.at(k);
     prcAdd(
         {&label, row.Chips.at(k), seat, Label,
          colSeats.at(static_cast<std::size_t>(seat)).Chips + dblChipPitch * static_cast<double>(k),

@@ -1,45 +1,34 @@
 #!/usr/bin/env bash
-# clang-tidy over every source but the tests that a build folder compiles, as it compiles them: tools/tidy.sh BUILD.
-# What has passed is stamped in BUILD/tidy with a sum of the source, of all headers of ours that it includes and of
-# .clang-tidy, and is not looked at again until one of them changes. Headers come from the build's own record, so the
-# folder must have been built.
+# clang-tidy over every source that a build folder compiles, as it compiles it: tools/tidy.sh BUILD.
+# What has passed is stamped in BUILD/tidy with a sum of the source, of all files of ours that it includes and of
+# .clang-tidy, and is not looked at again until one of them changes. What a source includes comes from the build's own
+# record, so the folder must have been built.
 set -euo pipefail
 build=$(cd "$1" && pwd)
 cd "$(dirname "$0")/.."
-root=$PWD
 stamps=$build/tidy
 mkdir -p "$stamps"
-rules=$({ clang-tidy --version; cat .clang-tidy; } | cksum)
+rules=$({ clang-tidy --version; cat .clang-tidy; } | cksum | tr ' ' -)
 
-# sources_with_sums: "SUM SOURCE" for each source of ours, SUM over all that it is made of.
-sources_with_sums() {
-  ninja -C "$build" -t deps | awk -v root="$root/" -v build="$build/" '
-    /^[^ ].*#deps/ { source = ""; next }
+# made_of: "SOURCE FILE" for each file of ours that a compiled source is made of, itself among them.
+made_of() {
+  ninja -C "$build" -t deps | awk -v root="$PWD/" -v build="$build/" '
+    /#deps/ { source = ""; next }
     NF {
       file = $1
       if (file !~ /^\//) file = build file
       while (sub(/[^\/]+\/\.\.\//, "", file)) {}
-      if (index(file, root) != 1 || index(file, build) == 1) next
-      if (source == "") source = file
-      print source, file
-    }' | sort -u >"$stamps/made-of"
-  cut -d ' ' -f 2 "$stamps/made-of" | sort -u | xargs md5sum >"$stamps/sums"
-  awk 'NR == FNR { sum[$2] = $1; next }
-    { all[$1] = all[$1] sum[$2] } END { for (file in all) print file, all[file] }' \
-    "$stamps/sums" "$stamps/made-of" |
-    while read -r file sums; do
-      case $file in
-        "$root"/tests/*) ;;
-        *.cpp) echo "$(cksum <<<"$rules $sums" | tr ' ' -) $file" ;;
-      esac
-    done
+      if (source == "" && file ~ /\.c(pp|xx)$/) source = file
+      blnOurs = index(file, root) == 1 && index(file, build) != 1
+      if (blnOurs && (source ~ /\/Unity\// || index(source, build) != 1)) print source, file
+    }' | sort -u
 }
 
 # look SUM SOURCE: prints what is found, and stamps what is clean.
 look() {
-  local stamp=$stamps/$1 said
+  local said
   if said=$(clang-tidy --quiet -p "$build" --extra-arg=-Wno-unknown-warning-option "$2" 2>&1); then
-    touch "$stamp"
+    touch "$stamps/$1"
   else
     echo "$said"
     return 1
@@ -48,9 +37,13 @@ look() {
 export -f look
 export build stamps
 
-todo=$stamps/todo
-sources_with_sums | while read -r sum file; do [ -e "$stamps/$sum" ] || echo "$sum $file"; done >"$todo"
-echo "$(wc -l <"$todo") sources to look at"
-# The long ones first, so that no core idles at the end.
-while read -r sum file; do echo "$(wc -l <"$file") $sum $file"; done <"$todo" | sort -rn | cut -d ' ' -f 2- |
-  xargs -r -P "$(nproc)" -L 1 bash -c 'look "$0" "$1"'
+made_of >"$stamps/made-of"
+cut -d ' ' -f 2 "$stamps/made-of" | sort -u | xargs md5sum >"$stamps/sums"
+# The long ones first, so that no core idles at the end. What two targets compile is looked at once.
+awk 'NR == FNR { sum[$2] = $1; next }
+  { all[$1] = all[$1] sum[$2]; files[$1] += $2 ~ /cpp$/ }
+  END { for (source in all) print files[source], source, all[source] }' "$stamps/sums" "$stamps/made-of" |
+  sort -rn | while read -r _ source sums; do echo "$(md5sum <<<"$rules $sums" | cut -d ' ' -f 1) $source"; done |
+  awk '!seen[$1]++' | while read -r sum source; do [ -e "$stamps/$sum" ] || echo "$sum $source"; done >"$stamps/todo"
+echo "$(wc -l <"$stamps/todo") sources to look at"
+xargs -r -P "$(nproc)" -L 1 bash -c 'look "$0" "$1"' <"$stamps/todo"

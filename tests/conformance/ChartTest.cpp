@@ -14,11 +14,11 @@ struct Sheet {
   Control cmdFirst, crtCurve, grdRows;
 };
 Sheet sheet;
-std::string strHeard;
+std::string strAnswers;
 
 const ControlEvents evtHeard{
-    .Click = [](Control& c) { strHeard += std::string("click ") + c.Name + " "; },
-    .Change = [](Control& c) { strHeard += std::to_string(c.ListIndex) + " "; }};
+    .Click = [](Control& c) { strAnswers += std::string("click ") + c.Name + " "; },
+    .Change = [](Control& c) { strAnswers += std::to_string(c.ListIndex) + " "; }};
 
 class ChartControl : public testing::Test {
  protected:
@@ -47,7 +47,7 @@ class ChartControl : public testing::Test {
     sheet.crtCurve.On = sheet.grdRows.On = &evtHeard;
     prcShow(sheet.Form);
     user::Settle();
-    strHeard.clear();
+    strAnswers.clear();
   }
   void TearDown() override {
     prcForgetWindow(sheet.Form);
@@ -60,11 +60,11 @@ TEST_F(ChartControl, ThePointerPicksTheNearestPoint) {
   const auto at = [&](double x) { return static_cast<float>(plot.fncX(x)); };
   user::Press(sheet.crtCurve, at(0.4), 1500);
   user::Drag(sheet.crtCurve, at(0.4), 1500);
-  strHeard.clear();
+  strAnswers.clear();
   for (const double x : {0.6, 5.9, 6.1, -0.5, 10.2, 10.1}) {
     user::Drag(sheet.crtCurve, at(x), 1500);
   }
-  EXPECT_EQ(strHeard, "1 2 3 0 3 ");
+  EXPECT_EQ(strAnswers, "1 2 3 0 3 ");
 }
 
 TEST_F(ChartControl, KeysGoAlongAndAClickTellsWhere) {
@@ -74,15 +74,15 @@ TEST_F(ChartControl, KeysGoAlongAndAClickTellsWhere) {
   for (const char* key : {"Right", "Right", "End", "Right", "Left", "Home", "Left"}) {
     user::Key(sheet.Form, key);
   }
-  EXPECT_EQ(strHeard, "0 1 3 2 0 ");
+  EXPECT_EQ(strAnswers, "0 1 3 2 0 ");
   user::Click(sheet.crtCurve);
-  EXPECT_TRUE(strHeard.ends_with("click crtCurve ")) << strHeard;
+  EXPECT_TRUE(strAnswers.ends_with("click crtCurve ")) << strAnswers;
 }
 
 TEST_F(ChartControl, WithoutPointsNothingIsPicked) {
   sheet.crtCurve.Chart = std::make_shared<ChartData>();
   user::Hover(sheet.crtCurve);
-  EXPECT_EQ(strHeard + std::to_string(sheet.crtCurve.ListIndex), "-1");
+  EXPECT_EQ(strAnswers + std::to_string(sheet.crtCurve.ListIndex), "-1");
 }
 
 TEST(ChartPlot, StepsAreRoundAndHoldTheCurve) {

@@ -11,7 +11,7 @@ class ShuffleStatisticsTest : public testing::TestWithParam<int> {};
 TEST_P(ShuffleStatisticsTest, KeepsToWhatTheMethodPromises) {
   constexpr std::int64_t positions = 2'000'000;
   const ShuffleStatistics s =
-      fncShuffleStatistics(GetParam(), positions / (GetParam() * intSlotsOfDeck), 1);
+      fncShuffleStatistics(GetParam(), positions / GetParam() / intSlotsOfDeck, 1);
   EXPECT_EQ(s.BrokenShoes, 0);
   EXPECT_LT(std::abs(s.FirstSlot.fncDeviation()), dblChance);
   EXPECT_LT(std::abs(s.Burnt.fncDeviation()), dblChance);

@@ -122,18 +122,12 @@ TEST_F(EveningRecord, GoesByWhatWasPaidWhereTheChipValueChangedSince) {
   EXPECT_EQ(fncStaked(colEveningHands[0], 0), 50);
 }
 
-class EveningOfOddSettings : public EveningRecord {
- protected:
-  void SetUp() override {
-    Game::SetUp();
-    Setting("Player1Stats", "Stake", "3000000000");
-    Setting("Misc", "UnitValue", "5000000000");
-    Start();
-    Shuffle();
-  }
-};
-
-TEST_F(EveningOfOddSettings, DoesNotEndTheGame) {
+TEST_F(EveningRecord, OfOddSettingsDoesNotEndTheGame) {
+  prcFreshGame(Folder());
+  Setting("Player1Stats", "Stake", "3000000000");
+  Setting("Misc", "UnitValue", "5000000000");
+  Start();
+  Shuffle();
   Deal();
   EXPECT_EQ(LastBox(), "");
   EXPECT_FALSE(user::Ended());

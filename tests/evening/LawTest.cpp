@@ -71,7 +71,7 @@ SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
 TEST(Law, OfTheCasinosOddsByHand) {
   // Eight decks, as published: Banker 45.86 %, Player 44.62 %, Tie 9.52 %.
   const HandLaw banker = fncHandLaw(fncHand('B', {1, 2, 0}, 100), 0);
-  EXPECT_EQ(banker.Net, (std::array<std::int64_t, 3>{90 * 20, -300 * 20, 800 * 20}));
+  EXPECT_EQ(banker.Net, (std::array<std::int64_t, 3>{1800, -6000, 16000}));
   EXPECT_NEAR(banker.Chance[0], 0.458597, 5e-7);
   EXPECT_NEAR(banker.Chance[1], 0.446247, 5e-7);
   EXPECT_NEAR(banker.Chance[2], 0.095156, 5e-7);
@@ -157,11 +157,12 @@ TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
 /// lost.
 std::vector<EveningHand> fncBigThenSmall(int big, std::int32_t bigUnit, int small,
                                          std::int32_t smallUnit, std::int16_t smallChips) {
-  std::vector<EveningHand> hands;
-  for (int n = 0; n < big + small; ++n) {
-    hands.push_back(n < big ? fncHand(n % 2 == 0 ? 'P' : 'B', {0, 0, 100}, bigUnit)
-                            : fncHand('P', {0, smallChips, 0}, smallUnit));
+  std::vector<EveningHand> hands(static_cast<std::size_t>(big), fncHand('P', {0, 0, 100}, bigUnit));
+  for (std::size_t n = 1; n < hands.size(); n += 2) {
+    hands[n] = fncHand('B', {0, 0, 100}, bigUnit);
   }
+  hands.resize(hands.size() + static_cast<std::size_t>(small),
+               fncHand('P', {0, smallChips, 0}, smallUnit));
   return hands;
 }
 

@@ -78,9 +78,12 @@ class Killed : public Game {
     const pid_t child = fork();
     if (child == 0) {
       close(ends[0]);
-      do {
+      for (;;) {
         Play(seed++, ends[1]);
-      } while (blnKill);
+        if (!blnKill) {
+          break;
+        }
+      }
       _exit(0);
     }
     close(ends[1]);  // Or the end of a game that ends early would not be seen.

@@ -85,9 +85,9 @@ TEST_F(AutomaticDeal, ACardOutsideIsToldUnderTheNameOfItsProcedure) {
     prcFreshGame(Folder());
     prcDispatch(call);
     const std::string line(told, 2), label(told + 3);
-    EXPECT_EQ(LastBox(), "Serious Error Occurred - Line " + line +
-                             " Error - 9-Subscript out of range\r\n'" + label +
-                             "'\r\nPLEASE RECORD ERROR MESSAGE");
+    std::string box("Serious Error Occurred - Line ");
+    box.append(line).append(" Error - 9-Subscript out of range\r\n'").append(label);
+    EXPECT_EQ(LastBox(), box + "'\r\nPLEASE RECORD ERROR MESSAGE");
   }
 }
 

@@ -42,7 +42,7 @@ TEST_F(ShoeTest, EverySizeHoldsEachSlotOnce) {
       ASSERT_EQ(order[static_cast<std::size_t>(slot)], slot) << decks;
       ASSERT_EQ(intCardValue[0][slot], slot % 13 + 1);
     }
-    EXPECT_THROW(intShoeCards[0][decks * 52], Fault) << "the row must be bounded anew";
+    EXPECT_THROW(intShoeCards[0][int{intLastCard[0]} + 1], Fault) << "the row must be bounded anew";
   }
 }
 
