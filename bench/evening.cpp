@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "bench/EveningProof.h"
+#include "judges/EveningProof.h"
 
 // Plays evenings at the running table and holds them against the law of luck: velmora_evening
 // [EVENINGS [SEED]], by default 1100 evenings, of a hundred hands each where no shoe ends.

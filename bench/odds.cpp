@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "bench/ExactOdds.h"
+#include "judges/ExactOdds.h"
 
 // Prints the exact odds of the five shoe sizes: as plain rows, or with --html as the table of the
 // help's page on odds.

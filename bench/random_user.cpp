@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "bench/Endurance.h"
-#include "tests/conformance/Adapter.h"
+#include "judges/Adapter.h"
+#include "judges/Endurance.h"
 
 // velmora_endurance [SEED [SHOES]]: a random user at the headless table, as long as wanted;
 // velmora_qt_endurance: at the real widgets. Both print counts, or the fault with its seed and the

@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "bench/ShuffleStatistics.h"
+#include "judges/ShuffleStatistics.h"
 
 // Prints what many shuffles of each shoe size give: velmora_shuffle [POSITIONS [SEED]], by default
 // ten million positions of each size.

@@ -11,7 +11,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "bench/Endurance.h"
+#include "judges/Endurance.h"
 #include "marking/MarkCard.h"
 #include "marking/MarkState.h"
 #include "platform/ProfileFile.h"

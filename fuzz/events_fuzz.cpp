@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "bench/Endurance.h"
+#include "judges/Endurance.h"
 
 // Arbitrary bytes as a seed and a user's events, four bytes each, on the headless game with every
 // watch looking. Plays in a folder "game" of the folder it is started in.

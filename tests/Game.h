@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "betting/BetEntry.h"
+#include "judges/Adapter.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "table/Bets.h"
 #include "table/TableState.h"
-#include "tests/conformance/Adapter.h"
 
 // The whole game on either platform: a fresh folder, the program started as its user starts
 // it, and a shoe whose next cards a test can choose.

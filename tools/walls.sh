@@ -15,7 +15,7 @@ wall() {
 }
 
 code=('*.cpp' '*.h')
-outside_platform=("${code[@]}" ':!platform' ':!tests' ':!bench' ':!fuzz')
+outside_platform=("${code[@]}" ':!platform' ':!tests' ':!judges' ':!bench' ':!fuzz')
 game=(table betting learn reveal marking shell evening)
 
 wall "only platform/qt and its tests may include the toolkit" \
@@ -25,6 +25,10 @@ wall "the game does not know which platform stands behind platform.h" \
   ':!platform/qt' ':!platform/headless'
 wall "the platform knows nothing of the game" \
   '#include *"(table|betting|learn|reveal|marking|shell|evening)/' platform
+for folder in tests bench fuzz; do
+  wall "tests, measurements and fuzz targets share what stands in judges/, and nothing else" \
+    "#include *\"$folder/" "${code[@]}" ":!$folder"
+done
 wall "only platform/ knows the clock" \
   '<chrono>|<ctime>|<time\.h>|std::chrono|(^|[^A-Za-z0-9_.])(time|clock|clock_gettime|gettimeofday)\(' \
   "${outside_platform[@]}"

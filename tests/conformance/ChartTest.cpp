@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "judges/Adapter.h"
 #include "platform/Chart.h"
 #include "platform/Grid.h"
 #include "platform/Layout.h"
-#include "tests/conformance/Adapter.h"
 
 // Charts and grids, alike on every platform.
 

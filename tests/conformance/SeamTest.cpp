@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "judges/Adapter.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
-#include "tests/conformance/Adapter.h"
 
 // What every platform must do alike. The suite is compiled once for each of them; a log of what the
 // handlers saw is compared, so that order counts.

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "bench/Endurance.h"
+#include "judges/Endurance.h"
 #include "shell/CardsDealt.h"
 #include "table/BaccTable.h"
 

@@ -1,4 +1,4 @@
-#include "bench/EveningProof.h"
+#include "judges/EveningProof.h"
 #include "tests/Game.h"
 
 namespace {

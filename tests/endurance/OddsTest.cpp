@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "bench/ExactOdds.h"
+#include "judges/ExactOdds.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "bench/ShuffleStatistics.h"
+#include "judges/ShuffleStatistics.h"
 
 // Two million positions of each size; docs/shuffle.md tells what ten million of each gave.
 

@@ -9,8 +9,8 @@
 #include <filesystem>
 #include <random>
 
-#include "bench/Endurance.h"
 #include "betting/frmStatistics.h"
+#include "judges/Endurance.h"
 #include "platform/Texts.h"
 #include "platform/headless/Headless.h"
 #include "shell/SettingsStore.h"

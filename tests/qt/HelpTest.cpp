@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <set>
 
+#include "judges/Adapter.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/machine/HelpWindow.h"
-#include "tests/conformance/Adapter.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 #include <deque>
 #include <memory>
 
+#include "judges/Adapter.h"
 #include "platform/Procedure.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/Sync.h"
-#include "tests/conformance/Adapter.h"
 
 // As much of the user as the tests of the real machine need: one who waits in real time, does what
 // the test says while a dialog is open, and closes it.

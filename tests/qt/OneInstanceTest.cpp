@@ -5,10 +5,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "judges/Adapter.h"
 #include "platform/platform.h"
 #include "platform/qt/machine/OneInstance.h"
 #include "platform/qt/windows/Screen.h"
-#include "tests/conformance/Adapter.h"
 
 // The one-instance rule between real processes. The second one is this program again: main.cpp
 // makes it ask for the lock, tell by one letter whether it has got it, and keep it until it is

@@ -13,10 +13,10 @@
 #include <QTest>
 #include <csignal>
 
+#include "judges/Adapter.h"
 #include "platform/Chart.h"
 #include "platform/Layout.h"
 #include "platform/qt/looks/Scale.h"
-#include "tests/conformance/Adapter.h"
 
 // Files that the user saves, by real dialogs onto a real disk.
 

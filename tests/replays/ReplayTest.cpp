@@ -7,7 +7,7 @@
 #include <sstream>
 #include <utility>
 
-#include "bench/Invariants.h"
+#include "judges/Invariants.h"
 #include "marking/MarkCardEvents.h"
 #include "marking/MarkState.h"
 #include "platform/Texts.h"

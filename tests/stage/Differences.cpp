@@ -1,4 +1,4 @@
-#include "tests/conformance/Adapter.h"
+#include "judges/Adapter.h"
 
 namespace user {
 

@@ -7,10 +7,10 @@
 #include <QProgressBar>
 #include <stdexcept>
 
+#include "judges/Adapter.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Painted.h"
-#include "tests/conformance/Adapter.h"
 #include "tests/stage/Stage.h"
 
 // The eyes: what a control or window shows, read from its widget.

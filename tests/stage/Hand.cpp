@@ -12,6 +12,7 @@
 #include <deque>
 #include <stdexcept>
 
+#include "judges/Adapter.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
@@ -20,7 +21,6 @@
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Sync.h"
-#include "tests/conformance/Adapter.h"
 #include "tests/stage/Clock.h"
 #include "tests/stage/Stage.h"
 

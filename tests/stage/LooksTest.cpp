@@ -13,10 +13,10 @@
 #include <utility>
 
 #include "assets/Pictures.h"
+#include "judges/Adapter.h"
 #include "platform/Layout.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
-#include "tests/conformance/Adapter.h"
 #include "tests/stage/Stage.h"
 
 // What only a real screen shows: pixels, cursors, tool tips, names, menus and bars.

@@ -1,9 +1,9 @@
 #include <QApplication>
 #include <cstdio>
 
+#include "judges/Adapter.h"
 #include "platform/platform.h"
 #include "platform/qt/windows/Session.h"
-#include "tests/conformance/Adapter.h"
 #include "tests/stage/Clock.h"
 
 // The real widgets on an offscreen display, the machine on paper, and the clock in our hands.

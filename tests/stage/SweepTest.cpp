@@ -11,7 +11,7 @@
 #include <map>
 #include <set>
 
-#include "bench/UserEvents.h"
+#include "judges/UserEvents.h"
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/views/Captions.h"

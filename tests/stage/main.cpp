@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/conformance/Adapter.h"
+#include "judges/Adapter.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

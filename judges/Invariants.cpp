@@ -1,10 +1,11 @@
-#include "bench/Invariants.h"
+#include "judges/Invariants.h"
 
 #include <cmath>
 #include <fstream>
 #include <iterator>
 #include <vector>
 
+#include "judges/Adapter.h"
 #include "platform/ProfileFile.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
@@ -12,7 +13,6 @@
 #include "shell/SettingsStore.h"
 #include "table/Bets.h"
 #include "table/Cards.h"
-#include "tests/conformance/Adapter.h"
 
 namespace {
 

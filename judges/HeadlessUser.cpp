@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "judges/Adapter.h"
 #include "platform/UserInput.h"
 #include "platform/headless/Headless.h"
-#include "tests/conformance/Adapter.h"
 
 namespace user {
 

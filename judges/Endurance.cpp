@@ -1,16 +1,16 @@
-#include "bench/Endurance.h"
+#include "judges/Endurance.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
-#include "bench/Invariants.h"
+#include "judges/Adapter.h"
+#include "judges/Invariants.h"
 #include "marking/MarkState.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
-#include "tests/conformance/Adapter.h"
 
 namespace {
 

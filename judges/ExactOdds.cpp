@@ -1,4 +1,4 @@
-#include "bench/ExactOdds.h"
+#include "judges/ExactOdds.h"
 
 #include <cstdio>
 

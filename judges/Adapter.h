@@ -9,8 +9,9 @@
 #include "platform/platform.h"
 
 // The user of the replays, the conformance suite and the endurance runs, once for each platform:
-// tests/headless acts on the model and looks at it, tests/stage has a hand that presses keys and
-// mouse buttons at the real widgets and eyes that read them. Time is virtual on both.
+// HeadlessUser.cpp acts on the model and looks at it, the stage of the tests has a hand that
+// presses keys and mouse buttons at the real widgets and eyes that read them. Time is virtual on
+// both.
 
 namespace user {
 

@@ -1,4 +1,4 @@
-#include "bench/ShuffleStatistics.h"
+#include "judges/ShuffleStatistics.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,16 +1,16 @@
-#include "bench/UserEvents.h"
+#include "judges/UserEvents.h"
 
 #include <array>
 #include <stdexcept>
 
 #include "betting/frmStatistics.h"
+#include "judges/Adapter.h"
 #include "marking/MarkCard.h"
 #include "platform/UserInput.h"
 #include "shell/CardsDealt.h"
 #include "shell/MDIForm1.h"
 #include "shell/ToolButtons.h"
 #include "table/Bets.h"
-#include "tests/conformance/Adapter.h"
 
 namespace {
 

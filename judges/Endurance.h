@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/UserEvents.h"
+#include "judges/UserEvents.h"
 
 // A user of any patience at the headless table, watched after every event.
 
