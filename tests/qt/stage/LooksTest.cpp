@@ -17,7 +17,7 @@
 #include "platform/Layout.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // What only a real screen shows: pixels, cursors, tool tips, names, menus and bars.
 

@@ -1,4 +1,4 @@
-#include "tests/stage/Clock.h"
+#include "tests/qt/stage/Clock.h"
 
 #include <QCoreApplication>
 #include <QTimerEvent>

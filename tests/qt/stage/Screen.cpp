@@ -4,7 +4,7 @@
 #include "judges/Adapter.h"
 #include "platform/platform.h"
 #include "platform/qt/windows/Session.h"
-#include "tests/stage/Clock.h"
+#include "tests/qt/stage/Clock.h"
 
 // The real widgets on an offscreen display, the machine on paper, and the clock in our hands.
 

@@ -6,7 +6,7 @@
 #include "betting/frmStatistics.h"
 #include "reveal/CardReveal.h"
 #include "tests/Game.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // What the sweep of all controls does not show of the one road in: what comes of it for the game.
 

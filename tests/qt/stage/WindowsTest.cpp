@@ -12,7 +12,7 @@
 #include "shell/MDIForm1.h"
 #include "table/BaccTable.h"
 #include "tests/Game.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // The windows of the game among each other: which one a key, a closing or a switch means.
 

@@ -17,7 +17,7 @@
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Painted.h"
 #include "tests/Game.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // Every control of every window in each of its states, by every way in. Who should answer is judged
 // by the model alone; handlers that only tell stand in for the game's, so that the state stays.

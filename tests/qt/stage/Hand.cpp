@@ -21,8 +21,8 @@
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Sync.h"
-#include "tests/stage/Clock.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Clock.h"
+#include "tests/qt/stage/Stage.h"
 
 // The hand: mouse and keys, given to the toolkit as its window system does, at places on the screen
 // that are found by where things are drawn. What is open is answered while it is open.

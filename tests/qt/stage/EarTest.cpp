@@ -15,7 +15,7 @@
 #include "shell/StartScreen.h"
 #include "table/Bets.h"
 #include "tests/Game.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // The whole game by keyboard and by ear: what a screen reader finds in each window, and what it is
 // told of a hand.

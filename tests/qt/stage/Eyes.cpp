@@ -11,7 +11,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Painted.h"
-#include "tests/stage/Stage.h"
+#include "tests/qt/stage/Stage.h"
 
 // The eyes: what a control or window shows, read from its widget.
 
