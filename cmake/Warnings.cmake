@@ -4,6 +4,9 @@ target_compile_options(
   velmora_warnings
   INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
             -Woverloaded-virtual -Wimplicit-fallthrough -Werror
+            # What only one file uses is in an unnamed namespace.
+            $<$<CXX_COMPILER_ID:GNU>:-Wmissing-declarations>
+            "$<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wmissing-prototypes;-Wmissing-variable-declarations>"
             # GCC 12 sees overlapping copies in "text" + std::string where there are none (its bug 105651).
             $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
             # Rounding must compile to one instruction: nothing here looks at errno.

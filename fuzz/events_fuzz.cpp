@@ -9,6 +9,8 @@
 // Arbitrary bytes as a seed and a user's events, four bytes each, on the headless game with every
 // watch looking. Plays in a folder "game" of the folder it is started in.
 
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t mostEvents = 120;
   if (size < 5) {

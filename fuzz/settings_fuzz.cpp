@@ -28,6 +28,8 @@ void prcNeed(bool blnHolds) {
 
 }  // namespace
 
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::ofstream(strFile, std::ios::binary) << std::string(data, data + size);
   const std::string other = fncReadProfile(strFile, "Misc", "UnitValue", "No");

@@ -33,9 +33,11 @@ Window* fncMainWindow() {
 #if defined(Q_OS_UNIX)
 int intPipe[2] = {-1, -1};
 
-extern "C" void prcSignalled(int /*signal*/) {
+extern "C" {
+static void prcSignalled(int /*signal*/) {
   const char mark = 1;
   [[maybe_unused]] const auto written = write(intPipe[1], &mark, 1);
+}
 }
 
 /// A signal may come at any instruction; a pipe brings it into the event loop.
