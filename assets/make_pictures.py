@@ -241,6 +241,31 @@ def shoe():
             + path("M70 48L81 37.9", stroke="#F7DFA0", stroke_width=0.9))
 
 
+def table_shoe():
+    """The dealing shoe as the players see it, in a 96 x 64 box: it stands at the table's edge, its
+    mouth towards them, a closed card at the mouth. Nothing shows through it, so that a card in
+    flight comes out from below."""
+    body = "M17 0H79Q81 0 81.6 2L91.4 47Q92 50 89 50H7Q4 50 4.6 47L14.4 2Q15 0 17 0Z"
+    slope = pts([(19.5, 17), (76.5, 17), (84.5, 47), (11.5, 47)])
+    back = pts([(23, 19), (73, 19), (80, 45), (16, 45)])
+    return (ellipse(48, 59, 46, 5, "url(#shadow)")
+            + path("M15.5 55H80.5L82 62Q82 63 81 63H15Q14 63 14 62Z", IVORY, stroke="#9A8C6C",
+                   stroke_width=0.5)
+            + path("M18.2 55H77.8L78.8 61H17.2Z", "url(#shoeback)")
+            + path(body, "url(#shoeside)", stroke="#2B0612", stroke_width=0.6)
+            + path("M15.4 2.4Q16 .9 17.4 .9H78.6Q80 .9 80.6 2.4L83 14H13Z", "url(#shoetop)")
+            + path(slope, "#23040E") + path(back, IVORY)
+            + path(pts([(25, 20.3), (71, 20.3), (77.6, 43.7), (18.4, 43.7)]), "url(#shoeback)")
+            + path(pts([(48, 22), (61, 32), (48, 42), (35, 32)]), stroke=GOLD, stroke_width=0.9)
+            + letter_v(48, 32.3, 9, "url(#goldv)")
+            + path(slope, stroke="url(#gold)", stroke_width=1.1)
+            + path("M13 14H83", stroke="#F7DFA0", stroke_width=0.7, opacity=0.8)
+            + rect(2, 48.5, 92, 7.5, 2.4, "url(#shoelip)", stroke="#5E3E12", stroke_width=0.5)
+            + path("M4 50.4H92", stroke="#FFF1C4", stroke_width=0.8, opacity=0.8)
+            + circle(48, 7.4, 4.9, "#3A0815", stroke="url(#gold)", stroke_width=0.9)
+            + suit("spade", 48, 7.3, 5.4, "url(#goldv)"))
+
+
 SHOE_DEFS = (linear("shoeside", [(0, "#8F2340"), (0.5, "#6A1530"), (1, "#430A1D")])
              + linear("shoetop", [(0, "#B2415B"), (1, "#8A2440")])
              + linear("shoefront", [(0, "#5B1128"), (1, "#2B0612")])
@@ -571,11 +596,11 @@ def write_chips():
             mid = math.pi * (i * 2 + 1) / 6
             a, b = mid - 0.2, mid + 0.2
             ring = ([(c + r * math.cos(t), cy + r * math.sin(t)) for t in (a, mid, b)]
-                    + [(c + 5.6 * math.cos(t), cy + 5.6 * math.sin(t)) for t in (b, a)])
+                    + [(c + 5.9 * math.cos(t), cy + 5.9 * math.sin(t)) for t in (b, a)])
             parts.append(path(pts(ring), spot))
-        parts.append(circle(c, cy, 5.7, face, stroke=edge, stroke_width=0.3, stroke_opacity=0.6))
+        parts.append(circle(c, cy, 6, face, stroke=edge, stroke_width=0.3, stroke_opacity=0.6))
         parts.append(circle(c, cy, r - 0.25, stroke=edge, stroke_width=0.5))
-        parts.append(digit(ch, c + (-0.3 if ch == "1" else 0), cy, 8.9, 1.8, ink))
+        parts.append(digit(ch, c + (-0.3 if ch == "1" else 0), cy, 10, 1.9, ink))
         defs = linear("edge", [(0, edge), (0.45, rim), (1, edge)], 0, 0, 1, 0)
         save(f"chip{ch}.svg", 15, 19, *parts, defs=defs)
 
@@ -654,7 +679,7 @@ def write_hands():
 
 
 def write_shoe():
-    save("shoe.svg", 96, 64, shoe(), defs=GOLD_DEFS + SHADOW_DEFS + SHOE_DEFS)
+    save("shoe.svg", 96, 64, table_shoe(), defs=GOLD_DEFS + SHADOW_DEFS + SHOE_DEFS)
 
 
 def main():

@@ -61,6 +61,7 @@ struct Type {
   bool Bold = false;
   bool Fixed = false;
   bool Underline = false;
+  bool Struck = false;  ///< Struck out, as what no longer counts.
   bool operator==(const Type&) const = default;
 };
 
@@ -87,7 +88,13 @@ enum class Look : std::uint8_t {
   Patch,
   Link,
   Heading,
-  Mat
+  Mat,
+  CardPlace,  ///< Where a card will lie.
+  Waiting,    ///< A rim of light around what waits for the user.
+  PullEdge,   ///< An edge to pull at, upwards or to the left.
+  ChipStack,  ///< As many chips as the value says; hollow while disabled.
+  Won,
+  Lost
 };
 
 /// Mouse buttons as handlers get them.

@@ -11,12 +11,6 @@
 
 namespace {
 
-/// A click on a label counts with any button, as chips are given and taken by it; other kinds
-/// answer the left one.
-bool fncClicksWith(const Control& control, int button) {
-  return button == intLeftButton || control.Kind == ControlKind::Label;
-}
-
 void prcReleaseFellows(Control& control) {
   if (control.Kind == ControlKind::ToolButton) {
     // A group runs from separator to separator.
@@ -142,6 +136,10 @@ bool fncUsable(const Control& control) {
     }
   }
   return true;
+}
+
+bool fncClicksWith(const Control& control, int button) {
+  return button == intLeftButton || control.Kind == ControlKind::Label;
 }
 
 bool fncUserReach(Control& control) {

@@ -15,6 +15,10 @@
 /// program stops here.
 void prcDispatch(const std::function<void()>& handlers);
 
+/// Whether a mouse button can click a control: a label answers any, as chips are given and taken by
+/// it, other kinds the left one.
+bool fncClicksWith(const Control& control, int button);
+
 /// The road itself: a set-focus from outside, and the beginning of everything else. Returns whether
 /// the control may be used; if not, nothing more may follow.
 bool fncUserReach(Control& control);

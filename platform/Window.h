@@ -31,6 +31,9 @@ struct WindowEvents {
   /// A printable key, before the focused control gets it.
   void (*KeyPress)(Window&, char chrKey) = nullptr;
   void (*MouseMove)(Window&, const Mouse&) = nullptr;
+  /// Brings what only adorns the window to what its other controls show. Runs before each drawing;
+  /// changes nothing else, serves no events and never fails.
+  void (*Adorn)(Window&) = nullptr;
 };
 
 inline constexpr WindowEvents evtNoWindow{};

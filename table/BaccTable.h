@@ -18,6 +18,7 @@ struct BaccTableWindow {
   Control shpSeats, lneSeats;  ///< The plate of both seats, and the line between them.
   Table<Control, 2> lblSeat;
   Table<Control, 3> lblRow;
+  Table<Control, 3> lblStep;  ///< What leads to a first hand: shuffle, bet, deal.
 
   Table<Control, 4> duokkortos;  ///< The Deal buttons; 0 deals as many hands as the hands box says.
   Control maisyk;                ///< The Shuffle button.
@@ -25,6 +26,7 @@ struct BaccTableWindow {
 
   Table<Control, 2> txtTieBet, txtBankerBet, txtPlayerBet;
   Table<Control, 2> txtTieBetValue, txtBankerBetValue, txtPlayerBetValue;
+  Table<Control, 2> shpTStack, shpBStack, shpPStack;  ///< The chips of a bet, beside its money.
   Table<Control, 2> lblTBetInc0, lblTBetInc1, lblTBetInc2, lblTBetInc5;
   Table<Control, 2> lblBBetInc0, lblBBetInc1, lblBBetInc2, lblBBetInc5;
   Table<Control, 2> lblPBetInc0, lblPBetInc1, lblPBetInc2, lblPBetInc5;
@@ -42,6 +44,7 @@ struct BaccTableWindow {
   Control Label1, Label2, Label4, Label5, Label8;
 
   Table<Control, 2> shpCardDealBG;
+  Table<Control, 6> shpCardPlace, shpCardWaits;  ///< Where a card will lie; one to be turned.
   Table<Control, 6> pctCardBack, pctCardFace, shpCardShadow;
   Table<Control, 6> pctCardTopLeft, pctCardTopRight, pctCardBottomLeft, pctCardBottomRight;
   Table<Control, 6> pctCardTopLeftWide, pctCardTopRightWide;
@@ -53,6 +56,7 @@ struct BaccTableWindow {
   Control txtsetfocus;  ///< Takes the focus off the bet boxes when they close; never seen.
   Control Timer1;
 
+  bool blnHandSeen = false;     ///< A hand has been dealt since the table came up.
   Integer intFlashCount;        ///< Ticks of flashing done.
   Integer intAddSub;            ///< Sign of the chip click under way.
   bool blnCardsPlaced = false;  ///< The first four backs of the hand lie on the table.

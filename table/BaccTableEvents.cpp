@@ -18,10 +18,12 @@
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "shell/WindowPlace.h"
+#include "table/Adornments.h"
 #include "table/BaccTableLayout.h"
 #include "table/Bets.h"
 #include "table/DealCommand.h"
 #include "table/Shoe.h"
+#include "table/TableStatus.h"
 #include "table/TableTimer.h"
 
 namespace {
@@ -181,6 +183,7 @@ void Form_Load(Window&) {
   }
   running.Step(15);
   blnShoePlayerBlue.fill(blnPlayerBlue);
+  prcFocusNextStep();
 }
 
 void Form_Unload(Window& form, bool& /*blnCancel*/) {
@@ -212,7 +215,8 @@ constexpr WindowEvents evtBaccTable{.Load = Form_Load,
                                     .Unload = Form_Unload,
                                     .CloseAsked = Form_CloseAsked,
                                     .KeyDown = Form_KeyDown,
-                                    .MouseMove = Form_MouseMove};
+                                    .MouseMove = Form_MouseMove,
+                                    .Adorn = [](Window&) { prcAdornTable(); }};
 
 }  // namespace
 

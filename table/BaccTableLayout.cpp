@@ -19,7 +19,7 @@ constexpr Colour clrPlate{9, 34, 26};
 constexpr Colour clrPlateEdge{96, 112, 74};
 constexpr Colour clrPanel{14, 30, 58};
 constexpr Colour clrWon{28, 110, 58};
-constexpr Colour clrLost{122, 32, 38};
+constexpr Colour clrLost{240, 150, 140};
 
 constexpr Type tpeQuiet{.Size = 7.5F};
 constexpr Type tpeText{.Size = 9};
@@ -77,8 +77,6 @@ void prcLayGround() {
 
 void prcLayShoe() {
   BaccTableWindow& t = BaccTable;
-  prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4665, 75, 1440, 960});
-  t.picShoeBox.Picture = picShoe;
   prcAdd({&t.prgShoe, "prgShoe", -1, ProgressBar, 4050, 1125, 2655, 120});
   t.prgShoe.Spoken = "Cards that have left the shoe";
   t.prgShoe.Visible = false;
@@ -109,6 +107,19 @@ void prcLayShoe() {
   }
 }
 
+/// Three words lead to a first hand, where later a shoe tells that it ends.
+void prcLaySteps() {
+  static constexpr Table<const char*, 3> words({"1  Shuffle", "2  Bet", "3  Deal"});
+  static constexpr Table<double, 4> edges({3975, 5025, 5775, 6690});
+  for (int step = 0; step < words.size(); ++step) {
+    Control& word = BaccTable.lblStep[step];
+    prcAdd({&word, "lblStep", step, Label, edges[step], 1335, edges[step + 1] - edges[step], 255,
+            words[step]});
+    prcDress(word, tpeText, clrQuiet);
+    word.Spoken = "Step";
+  }
+}
+
 /// Columns of a seat: its box and value label, its chips, its money.
 struct SeatColumns {
   double Box, Value, Chips, Money;
@@ -117,7 +128,7 @@ constexpr std::array<SeatColumns, 2> colSeats{{{4020, 3930, 4440, 4110}, {5370, 
 
 struct BetRow {
   BetSide Side;
-  const char *Box, *Value, *Win, *Lose;
+  const char *Box, *Value, *Stack, *Win, *Lose;
   std::array<const char*, 4> Chips;
   const char* Clear;
   double Top;
@@ -128,6 +139,7 @@ constexpr std::array<BetRow, 3> rowBets{
     {{betTie,
       "txtTieBet",
       "txtTieBetValue",
+      "shpTStack",
       "lblTWin",
       "lblTLose",
       {"lblTBetInc0", "lblTBetInc1", "lblTBetInc2", "lblTBetInc5"},
@@ -138,6 +150,7 @@ constexpr std::array<BetRow, 3> rowBets{
      {betBanker,
       "txtBankerBet",
       "txtBankerBetValue",
+      "shpBStack",
       "lblBWin",
       "lblBLose",
       {"lblBBetInc0", "lblBBetInc1", "lblBBetInc2", "lblBBetInc5"},
@@ -148,6 +161,7 @@ constexpr std::array<BetRow, 3> rowBets{
      {betPlayer,
       "txtPlayerBet",
       "txtPlayerBetValue",
+      "shpPStack",
       "lblPWin",
       "lblPLose",
       {"lblPBetInc0", "lblPBetInc1", "lblPBetInc2", "lblPBetInc5"},
@@ -216,16 +230,18 @@ void prcLayBet(const BetRow& row, int seat) {
   bet.Box.AccessKey = row.AccessKey;
   prcLayChips(row, seat);
   prcAdd({&bet.Value, row.Value, seat, Label, at.Value, row.Top + 360, 765, 255, "0"});
-  prcDress(bet.Value, tpeText, clrIvory);
+  prcDress(bet.Value, tpeText, clrIvory, Alignment::Right);
   bet.Value.Spoken = fncSpokenBet(row.Side, seat) + ", money";
   bet.Value.Visible = false;
+  prcAdd({&bet.Stack, row.Stack, seat, Shape, at.Value + 795, row.Top + 360, 555, 255});
+  bet.Stack.Dress = Look::ChipStack;
   for (const bool blnWin : {true, false}) {
     Control& mark = blnWin ? bet.Win : bet.Lose;
     prcAdd({&mark, blnWin ? row.Win : row.Lose, seat, Label, at.Value + 780, row.Top + 360, 570,
             255, blnWin ? "WIN" : "LOSE"});
-    prcDress(mark, tpeStrong, clrWhite);
-    mark.BackColor = blnWin ? clrWon : clrLost;
-    mark.Dress = Look::Plate;
+    prcDress(mark, tpeStrong, blnWin ? clrWhite : clrLost);
+    mark.BackColor = blnWin ? clrWon : clrPlate;
+    mark.Dress = blnWin ? Look::Won : Look::Lost;
     mark.Visible = false;
     mark.Announce = true;
     mark.Spoken = fncSpokenBet(row.Side, seat);
@@ -283,6 +299,21 @@ constexpr std::array<CardPlace, intPositions> plcCards{{{960, 2700, 960, 4140, 2
                                                         {8700, 2700, 8700, 4140, 9765, 2670},
                                                         {8100, 1140, 8100, 2580, 9165, 1140}}};
 
+/// On the felt, below all cards.
+void prcLayCardPlaces() {
+  BaccTableWindow& t = BaccTable;
+  for (int n = 0; n < intPositions; ++n) {
+    const CardPlace& at = plcCards.at(static_cast<std::size_t>(n));
+    prcAdd(
+        {&t.shpCardPlace[n], "shpCardPlace", n, Shape, at.Left, at.Top, intCardWide, intCardHigh});
+    t.shpCardPlace[n].Dress = Look::CardPlace;
+    prcAdd(
+        {&t.shpCardWaits[n], "shpCardWaits", n, Shape, at.Left, at.Top, intCardWide, intCardHigh});
+    t.shpCardWaits[n].Dress = Look::Waiting;
+    t.shpCardWaits[n].Visible = false;
+  }
+}
+
 struct PatchPlace {
   Table<Control, 6> BaccTableWindow::*Family;
   const char* Name;
@@ -330,6 +361,7 @@ void prcLayCard(int n) {
   prcAdd({&t.lblCardRight[n], "lblCardRight", n, Label, at.RightLeft, at.RightTop, 135, 1440, "",
           "To reveal card - press left mouse button and move left"});
   t.lblCardRight[n].Spoken = fncSpokenPosition(n) + ", right edge";
+  t.lblCardBottom[n].Dress = t.lblCardRight[n].Dress = Look::PullEdge;
   for (Control* control : {&t.shpCardShadow[n], &t.pctCardFace[n], &t.pctCardBack[n],
                            &t.lblCardBottom[n], &t.lblCardRight[n]}) {
     control->Visible = false;
@@ -445,8 +477,8 @@ void prcLayButtons() {
   t.maisyk.Visible = false;
 }
 
-/// The back in flight lies above everything, and the box that only parks the focus lies out of
-/// sight.
+/// The back in flight lies above everything but the shoe that it comes out of, and the box that
+/// only parks the focus lies out of sight.
 void prcLayFlightAndTimer() {
   BaccTableWindow& t = BaccTable;
   prcAdd(
@@ -454,6 +486,8 @@ void prcLayFlightAndTimer() {
   t.pctCardBackMove.Picture = picCardBack;
   t.pctCardBackMove.Dress = Look::Card;
   t.pctCardBackMove.Visible = false;
+  prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4665, 75, 1440, 960});
+  t.picShoeBox.Picture = picShoe;
   prcAdd({&t.txtsetfocus, "txtsetfocus", -1, TextBox, -900, -900, 300, 300});
   t.txtsetfocus.TabStop = false;
   t.txtsetfocus.Spoken = "Hand in play";
@@ -467,7 +501,9 @@ void prcLayFlightAndTimer() {
 void prcLayOutBaccTable() {
   prcClearControls(BaccTable.Form);
   prcLayGround();
+  prcLayCardPlaces();
   prcLayShoe();
+  prcLaySteps();
   prcLaySeat(0);
   prcLaySeat(1);
   prcLayRowHeads();
@@ -482,5 +518,5 @@ void prcLayOutBaccTable() {
   prcLayButtons();
   prcLayFlightAndTimer();
   BaccTable.intFlashCount = BaccTable.intAddSub = 0;
-  BaccTable.blnCardsPlaced = BaccTable.blnCardNeedShown = false;
+  BaccTable.blnCardsPlaced = BaccTable.blnCardNeedShown = BaccTable.blnHandSeen = false;
 }

@@ -6,14 +6,16 @@ BetControls fncBet(BetSide side, Integer intSeat) {
   BaccTableWindow& table = BaccTable;
   switch (side) {
     case betTie:
-      return {table.txtTieBet[intSeat], table.txtTieBetValue[intSeat], table.lblTWin[intSeat],
-              table.lblTLose[intSeat], lngTieBet[intSeat]};
+      return {table.txtTieBet[intSeat], table.txtTieBetValue[intSeat], table.shpTStack[intSeat],
+              table.lblTWin[intSeat],   table.lblTLose[intSeat],       lngTieBet[intSeat]};
     case betBanker:
-      return {table.txtBankerBet[intSeat], table.txtBankerBetValue[intSeat], table.lblBWin[intSeat],
-              table.lblBLose[intSeat], lngBankerBet[intSeat]};
+      return {table.txtBankerBet[intSeat], table.txtBankerBetValue[intSeat],
+              table.shpBStack[intSeat],    table.lblBWin[intSeat],
+              table.lblBLose[intSeat],     lngBankerBet[intSeat]};
     default:
-      return {table.txtPlayerBet[intSeat], table.txtPlayerBetValue[intSeat], table.lblPWin[intSeat],
-              table.lblPLose[intSeat], lngPlayerBet[intSeat]};
+      return {table.txtPlayerBet[intSeat], table.txtPlayerBetValue[intSeat],
+              table.shpPStack[intSeat],    table.lblPWin[intSeat],
+              table.lblPLose[intSeat],     lngPlayerBet[intSeat]};
   }
 }
 

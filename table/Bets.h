@@ -12,11 +12,12 @@
 enum BetSide : int { betTie, betBanker, betPlayer };
 inline constexpr std::array<BetSide, 3> betSides{betTie, betBanker, betPlayer};
 
-/// The controls of one bet of seat 0..1: its box, its value label, its win and lose labels and its
-/// money field.
+/// The controls of one bet of seat 0..1: its box, its value label with the chips beside it, its win
+/// and lose labels and its money field.
 struct BetControls {
   Control& Box;
   Control& Value;
+  Control& Stack;
   Control& Win;
   Control& Lose;
   Long& Money;

@@ -180,6 +180,9 @@ void duokkortos_Click(Integer Index) {
   running.Step(13);
   if (blnEndOfShoe[intShoeNumber]) {
     prcEndOfShoe();
+    if (intHandsAtaTime > 1) {
+      prcFocusNextStep();  // A single hand is still being told: its last flash does.
+    }
   }
   running.Step(14);
   if (MDIForm1.mnuStatistics.Value == 1) {

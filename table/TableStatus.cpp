@@ -141,3 +141,10 @@ void prcOpenDealControls() {
   }
   BaccTable.mskHandsAtaTime.Visible = BaccTable.mskHandsAtaTime.Enabled = true;
 }
+
+void prcFocusNextStep() {
+  const Control* active = BaccTable.Form.ActiveControl;
+  if (active == nullptr || active == &BaccTable.txtsetfocus || !fncTakesFocus(*active)) {
+    fncSetFocus(blnEndOfShoe[intShoeNumber] ? BaccTable.maisyk : BaccTable.duokkortos[0]);
+  }
+}

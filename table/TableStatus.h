@@ -20,3 +20,7 @@ void prcSetCardBG(const Integer& shoe);
 
 /// Reopens the Shuffle button, the Deal buttons and the hands box at the close of a run.
 void prcOpenDealControls();
+
+/// Gives the focus to what a player most likely does next, Shuffle at the end of a shoe and else
+/// Deal, unless something that can be used has it.
+void prcFocusNextStep();

@@ -38,6 +38,7 @@ void prcCloseRound() {
   }
   BaccTable.Timer1.Enabled = false;
   blnBusy = false;
+  prcFocusNextStep();
 }
 
 }  // namespace

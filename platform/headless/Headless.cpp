@@ -333,6 +333,9 @@ void PlaceWindows() {
       window->Width = window->ScaleWidth;
       window->Height = window->ScaleHeight;
     }
+    if (window->On->Adorn != nullptr) {
+      window->On->Adorn(*window);
+    }
     if (window->Visible) {
       window->Kind == WindowKind::Child ? prcKeepInner(*window) : prcCentre(*window);
     }

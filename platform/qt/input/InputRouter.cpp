@@ -7,6 +7,7 @@
 
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/InFront.h"
 #include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
@@ -65,7 +66,9 @@ int fncButtons(Qt::MouseButtons buttons) {
 
 /// A place on the screen in twips from a widget's top left corner.
 Mouse fncMouse(const QWidget& widget, QPointF global, int button, int shift) {
-  const QPointF at = widget.mapFromGlobal(global);
+  const ControlView* view = fncControlViewOf(&widget);
+  const QPoint corner = view != nullptr ? fncCorner(view->Drawn) : QPoint();
+  const QPointF at = widget.mapFromGlobal(global) - corner;
   return {button, shift, static_cast<float>(fncTwips(at.x())),
           static_cast<float>(fncTwips(at.y()))};
 }
@@ -78,6 +81,8 @@ QWidget* fncWidgetOf(const Control& control) {
 void prcShowDown(QWidget* widget, bool blnDown) {
   if (auto* button = qobject_cast<QAbstractButton*>(widget); button != nullptr) {
     button->setDown(blnDown);
+  } else if (auto* painted = qobject_cast<PaintedView*>(widget); painted != nullptr) {
+    painted->prcSetDown(blnDown);
   }
 }
 
@@ -212,9 +217,7 @@ bool InputRouter::fncPressControl(Control& control, QWidget& widget, const QMous
   }
   held_.blnNative =
       fncNative(control.Kind) && !(blnSelects && &widget == own && control.SelLength > 0);
-  if (event.button() == Qt::LeftButton) {
-    prcShowDown(own, true);
-  }
+  prcShowDown(own, fncClicksWith(control, mouse.Button));
   const bool blnNative = held_.blnNative;
   prcEndLost(QGuiApplication::mouseButtons());
   return !blnNative;
@@ -242,7 +245,7 @@ bool InputRouter::fncDragged(const QMouseEvent& event) {
   if (Control* control = fncHeldControl(); control != nullptr) {
     QWidget& own = *held_.Widget;
     const bool blnInside = own.rect().contains(own.mapFromGlobal(event.globalPosition()).toPoint());
-    prcShowDown(&own, blnInside && held_.Button == Qt::LeftButton);
+    prcShowDown(&own, blnInside && fncClicksWith(*control, fncButton(held_.Button)));
     const Mouse mouse = fncMouse(own, event.globalPosition(), fncButtons(event.buttons()),
                                  fncShift(event.modifiers()));
     prcServe([&] { prcUserMove(*control, mouse); });

@@ -236,7 +236,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   }
   Control* focused = window.ActiveControl;
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
-    return fncAnswerKey(window, focused, key);
+    return event.isAutoRepeat() || fncAnswerKey(window, focused, key);  // One press, one hand.
   }
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
     return false;

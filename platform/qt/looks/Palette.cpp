@@ -26,6 +26,7 @@ QFont fncFont(const Type& face) {
       std::max(1, static_cast<int>(std::lround(double{face.Size} * 96 / 72 * fncScale()))));
   font.setBold(face.Bold);
   font.setUnderline(face.Underline);
+  font.setStrikeOut(face.Struck);
   return font;
 }
 

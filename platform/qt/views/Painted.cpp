@@ -9,6 +9,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
+#include "platform/qt/looks/TableArt.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Chart.h"
 #include "platform/qt/windows/Screen.h"
@@ -19,9 +20,18 @@ namespace {
 
 constexpr double dblLeastFit = 0.65;  // Type is made no smaller than this part of its size.
 
+/// How far a chip can be hit above and below its place, twips: up to its neighbours.
+constexpr double dblHitAbove = 30;
+constexpr double dblHitBelow = 45;
+
+/// Whether a label lies on a plate, with its text in the middle.
+bool fncPlated(const Control& control) {
+  return !control.BackColor.Clear || control.Dress == Look::Plate;
+}
+
 int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
   const bool blnWraps = QFontMetrics(font).height() * 2 <= size.height();
-  const bool blnMiddle = !control.BackColor.Clear || control.Dress == Look::Plate || !blnWraps;
+  const bool blnMiddle = fncPlated(control) || !blnWraps;
   int flags = blnWraps ? static_cast<int>(Qt::TextWordWrap) : 0;
   flags |= static_cast<int>(blnMiddle ? Qt::AlignVCenter : Qt::AlignTop);
   switch (control.Align) {
@@ -35,10 +45,13 @@ int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
   return flags;
 }
 
+/// The room of the tick before a text.
+int fncTick() { return fncScaled(8); }
+
 QRect fncTextRect(const Control& control, const QRect& rect) {
-  const bool blnBoxed = !control.BackColor.Clear || control.Dress == Look::Plate;
-  const int inset = blnBoxed ? fncScaled(3) : 0;
-  return rect.adjusted(inset, 0, -inset, 0);
+  const int inset = fncPlated(control) ? fncScaled(3) : 0;
+  const int tick = control.Dress == Look::Won ? fncTick() : 0;
+  return rect.adjusted(inset + tick, 0, -inset, 0);
 }
 
 QFont fncLabelFont(const Control& control) {
@@ -68,6 +81,21 @@ void prcFillPlate(QPainter& painter, const Control& control, const QRect& rect) 
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+/// A chip keeps its form within its own place; under the pointer its rim is lit, and pressed it
+/// sinks.
+void prcDrawChip(QPainter& painter, const Control& control, const QRect& rect,
+                 const PaintState& state) {
+  const QSize own = fncPixelRect(control.Left, control.Top, control.Width, control.Height).size();
+  const QSize size = fncPictureSize(control.Picture).scaled(own, Qt::KeepAspectRatio);
+  const QPoint at = rect.topLeft() + fncCorner(control) +
+                    QPoint((own.width() - size.width()) / 2,
+                           (own.height() - size.height()) / 2 + (state.blnDown ? fncScaled(1) : 0));
+  painter.drawPixmap(at, fncPicture(control.Picture, size, painter.device()->devicePixelRatioF()));
+  if (state.blnHover && control.Enabled) {
+    prcDrawChipLight(painter, QRectF(at, size));
+  }
+}
+
 void prcDrawPicture(QPainter& painter, const Control& control, const QRect& rect) {
   const double ratio = painter.device()->devicePixelRatioF();
   const int number = control.Picture;
@@ -78,23 +106,44 @@ void prcDrawPicture(QPainter& painter, const Control& control, const QRect& rect
     painter.drawPixmap(rect.topLeft(), fncPicture(number, fncCardSize(), ratio));
     return;
   }
-  // A chip keeps its form; other pictures fill their control.
-  const QSize size = control.Dress == Look::Chip
-                         ? fncPictureSize(number).scaled(rect.size(), Qt::KeepAspectRatio)
-                         : rect.size();
-  const QPoint at(rect.left() + (rect.width() - size.width()) / 2,
-                  rect.top() + (rect.height() - size.height()) / 2);
-  painter.drawPixmap(at, fncPicture(number, size, ratio));
+  painter.drawPixmap(rect.topLeft(), fncPicture(number, rect.size(), ratio));
 }
 
-void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect) {
-  if (control.Dress == Look::Plate) {
-    prcFillPlate(painter, control, rect);
-  } else if (!control.BackColor.Clear) {
-    painter.fillRect(rect, fncColour(control.BackColor));
+/// What lies below the text of a label.
+void prcDrawLabelGround(QPainter& painter, const Control& control, const QRect& rect) {
+  switch (control.Dress) {
+    case Look::Won: {
+      prcFillPlate(painter, control, rect);
+      const int side = fncTick();
+      prcDrawTick(painter,
+                  QRectF(rect.left() + side / 2.0, rect.center().y() + 1 - side / 2.0, side, side));
+      break;
+    }
+    case Look::Plate:
+      prcFillPlate(painter, control, rect);
+      break;
+    case Look::Lost:
+      prcDrawHollow(painter, rect, fncColour(control.BackColor), fncColour(control.ForeColor));
+      break;
+    case Look::PullEdge:
+      prcDrawPullEdge(painter, rect);
+      break;
+    default:
+      if (!control.BackColor.Clear) {
+        painter.fillRect(rect, fncColour(control.BackColor));
+      }
   }
+}
+
+void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect,
+                  const PaintState& state) {
+  if (control.Dress == Look::Chip) {
+    prcDrawChip(painter, control, rect, state);
+    return;
+  }
+  prcDrawLabelGround(painter, control, rect);
   prcDrawPicture(painter, control, rect);
-  if (control.Dress == Look::Chip || control.Text.empty()) {
+  if (control.Text.empty()) {
     return;
   }
   QColor ink = fncColour(control.ForeColor);
@@ -128,13 +177,7 @@ QPen fncOutline(const Control& control) {
              : QPen(fncColour(control.BorderColor), fncScaled(control.BorderWidth));
 }
 
-void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
-  if (control.Dress == Look::Shadow) {
-    const int margin = fncShadowMargin();
-    const QSize size = rect.size() - QSize(2 * margin, 2 * margin);
-    painter.drawPixmap(rect.topLeft(), fncShadow(size, painter.device()->devicePixelRatioF()));
-    return;
-  }
+void prcDrawForm(QPainter& painter, const Control& control, const QRect& rect) {
   const QPen outline = fncOutline(control);
   painter.setPen(outline);
   painter.setBrush(control.FillColor.Clear ? QBrush(Qt::NoBrush)
@@ -156,6 +199,27 @@ void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) 
     }
   }
   painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
+  const int margin = fncShadowMargin();
+  switch (control.Dress) {
+    case Look::Shadow:
+      painter.drawPixmap(rect.topLeft(), fncShadow(rect.size() - QSize(2 * margin, 2 * margin),
+                                                   painter.device()->devicePixelRatioF()));
+      break;
+    case Look::CardPlace:
+      prcDrawCardPlace(painter, rect);
+      break;
+    case Look::Waiting:
+      prcDrawWaiting(painter, rect, margin);
+      break;
+    case Look::ChipStack:
+      prcDrawChipStack(painter, rect, static_cast<int>(control.Value), !control.Enabled);
+      break;
+    default:
+      prcDrawForm(painter, control, rect);
+  }
 }
 
 void prcDrawLine(QPainter& painter, const Control& control, const QRect& rect) {
@@ -212,10 +276,19 @@ QRect fncPlace(const Control& control) {
     return {fncPixels(control.Left), fncPixels(control.Top), fncPixels(control.Width),
             fncPixels(control.Height)};
   }
+  if (control.Dress == Look::Chip) {
+    return fncPixelRect(control.Left, control.Top - dblHitAbove, control.Width,
+                        control.Height + dblHitAbove + dblHitBelow);
+  }
   const QRect place = fncPixelRect(control.Left, control.Top, control.Width, control.Height);
-  const int margin =
-      control.Kind == ControlKind::Shape && control.Dress == Look::Shadow ? fncShadowMargin() : 0;
+  const bool blnAround = control.Kind == ControlKind::Shape &&
+                         (control.Dress == Look::Shadow || control.Dress == Look::Waiting);
+  const int margin = blnAround ? fncShadowMargin() : 0;
   return place.adjusted(-margin, -margin, margin, margin);
+}
+
+QPoint fncCorner(const Control& control) {
+  return QPoint(fncPixels(control.Left), fncPixels(control.Top)) - fncPlace(control).topLeft();
 }
 
 bool fncCutsPicture(const Control& control) {
@@ -240,10 +313,11 @@ QFont fncFittedFont(const Control& control, QSize size) {
   return font;
 }
 
-void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect, bool blnFocus) {
+void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect,
+                     const PaintState& state) {
   switch (control.Kind) {
     case ControlKind::Label:
-      prcDrawLabel(painter, control, rect);
+      prcDrawLabel(painter, control, rect, state);
       break;
     case ControlKind::Picture:
       prcDrawPictureBox(painter, control, rect);
@@ -263,23 +337,31 @@ void prcPaintControl(QPainter& painter, const Control& control, const QRect& rec
     default:
       break;
   }
-  if (blnFocus) {
+  if (state.blnFocus) {
     prcDrawFocus(painter, rect);
   }
 }
 
 PaintedView::PaintedView(ControlView& view, QWidget* parent) : QWidget(parent), view_(&view) {
   setAttribute(Qt::WA_StaticContents, fncCutsPicture(view.Drawn));
+  setAttribute(Qt::WA_Hover, view.Drawn.Dress == Look::Chip);
 }
 
 void PaintedView::prcDetach() { view_ = nullptr; }
+
+void PaintedView::prcSetDown(bool blnDown) {
+  if (blnDown != blnDown_ && testAttribute(Qt::WA_Hover)) {
+    blnDown_ = blnDown;
+    update();
+  }
+}
 
 void PaintedView::paintEvent(QPaintEvent* /*event*/) {
   if (view_ == nullptr) {
     return;
   }
   QPainter painter(this);
-  prcPaintControl(painter, view_->Drawn, rect(), hasFocus());
+  prcPaintControl(painter, view_->Drawn, rect(), {hasFocus(), underMouse(), blnDown_});
 }
 
 }  // namespace qt

@@ -17,6 +17,9 @@ class PaintedView : public QWidget {
  public:
   PaintedView(ControlView& view, QWidget* parent);
 
+  /// Shows it pressed, or not, if it answers the mouse by its looks.
+  void prcSetDown(bool blnDown);
+
   /// Draws with no control any more: nothing.
   void prcDetach();
 
@@ -28,6 +31,7 @@ class PaintedView : public QWidget {
 
  private:
   ControlView* view_;
+  bool blnDown_ = false;
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as
@@ -40,7 +44,16 @@ bool fncCutsPicture(const Control& control);
 /// The control's face, made smaller where its text would not fit into size otherwise.
 QFont fncFittedFont(const Control& control, QSize size);
 
-/// Draws a control of one of these kinds into rect, and the mark of the focus where it has it.
-void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect, bool blnFocus);
+/// Where a control's own corner lies within its place: a chip and a shadow reach beyond it.
+QPoint fncCorner(const Control& control);
+
+/// What the user does to a control just now.
+struct PaintState {
+  bool blnFocus = false, blnHover = false, blnDown = false;
+};
+
+/// Draws a control of one of these kinds into rect.
+void prcPaintControl(QPainter& painter, const Control& control, const QRect& rect,
+                     const PaintState& state);
 
 }  // namespace qt

@@ -75,7 +75,7 @@ QString fncChosen(QFileDialog& dialog, std::span<const platform::FileKind> kinds
 /// Draws a control as it looks when nobody points at it.
 void prcPaint(QPainter& painter, Control control, QSize size) {
   control.ListIndex = -1;
-  qt::prcPaintControl(painter, control, QRect(QPoint(0, 0), size), false);
+  qt::prcPaintControl(painter, control, QRect(QPoint(0, 0), size), {});
 }
 
 void prcPaintOn(QPaintDevice& device, const Control& control, QSize size) {

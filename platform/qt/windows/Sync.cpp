@@ -111,6 +111,9 @@ void prcMatchStack(WindowView& home) {
 }
 
 void prcSyncControls(WindowView& home) {
+  if (home.Source->On->Adorn != nullptr) {
+    home.Source->On->Adorn(*home.Source);
+  }
   prcMatchStack(home);
   const bool blnFocusMoved =
       home.DrawnActive != home.Source->ActiveControl || home.DrawnFocus != home.Source->FocusGiven;
