@@ -72,7 +72,7 @@ void prcDrawWaiting(QPainter& painter, const QRect& rect, int margin) {
   for (int ring = 0; ring < 5; ++ring) {
     const double out = (ring + 0.5) * step;
     QColor light = QColor::fromRgb(rgbLight);
-    light.setAlpha(ring < 2 ? 235 : 170 - 45 * ring);
+    light.setAlpha(ring < 2 ? 235 : 170 - 40 * ring);
     painter.setPen(QPen(light, step));
     painter.drawRoundedRect(card.adjusted(-out, -out, out, out), dblCardCorner * fncScale() + out,
                             dblCardCorner * fncScale() + out);

@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+class QColor;
 class QPainter;
 
 // What lies on the felt beside pictures and plates: where cards will lie, what waits for the user,
