@@ -1,6 +1,7 @@
 #include "platform/qt/looks/TableArt.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <iterator>
 
@@ -13,39 +14,49 @@ namespace {
 constexpr double dblCardCorner = 4;
 constexpr QRgb rgbLight = 0xFFECCB78;  // The gold of headings on the felt.
 
-/// A chip as it is seen from the side: its rim, its edge in the shade and its stripes.
+/// A chip of a stack: its rim, and its stripes and middle.
 struct ChipColours {
   int Chips;
-  QRgb Rim, Edge, Stripe;
+  QRgb Rim, Stripe;
 };
-constexpr ChipColours clrChips[] = {{5, 0xFF1C8A4E, 0xFF05301A, 0xFFF7E2A4},
-                                    {2, 0xFFD8456B, 0xFF6E1530, 0xFFFFEFF2},
-                                    {1, 0xFF2F74D6, 0xFF0F2F63, 0xFFFFFFFF}};
+constexpr ChipColours clrChips[] = {
+    {5, 0xFF1C8A4E, 0xFFF7E2A4}, {2, 0xFFD8456B, 0xFFFFEFF2}, {1, 0xFF2F74D6, 0xFFFFFFFF}};
 
-// Of a chip in a stack, at scale 1.
+// Of a chip in a stack, seen from above at a slant, at scale 1.
 constexpr double dblChipWide = 11;
-constexpr double dblChipThick = 3;
+constexpr double dblChipFace = 5;
+constexpr double dblChipThick = 2.6;
 constexpr double dblChipPitch = 12.5;
 constexpr int intColumnHigh = 4;
 
-/// One chip of a stack, its lower edge at the bottom of a place dblChipThick high.
-void prcDrawStackedChip(QPainter& painter, const QRectF& body, const ChipColours& chip) {
-  const double corner = body.height() / 2.4;
-  painter.setPen(QPen(QColor::fromRgb(chip.Edge), fncScale() * 0.6));
-  painter.setBrush(QColor::fromRgb(chip.Rim));
-  painter.drawRoundedRect(body, corner, corner);
+/// One chip of a stack: its edge below its face.
+void prcDrawStackedChip(QPainter& painter, const QRectF& face, const ChipColours& chip) {
+  const double thick = dblChipThick * fncScale();
+  QPainterPath edge;
+  edge.setFillRule(Qt::WindingFill);
+  edge.addEllipse(face.translated(0, thick));
+  edge.addRect(QRectF(face.left(), face.center().y(), face.width(), thick));
   painter.setPen(Qt::NoPen);
+  painter.fillPath(edge, QColor::fromRgb(chip.Rim).darker(160));
   painter.setBrush(QColor::fromRgb(chip.Stripe));
-  for (const double at : {0.2, 0.62}) {
-    painter.drawRect(QRectF(body.left() + at * body.width(), body.top() + body.height() * 0.12,
-                            body.width() * 0.18, body.height() * 0.76));
+  for (const double at : {0.16, 0.62}) {
+    painter.drawRect(QRectF(face.left() + at * face.width(), face.bottom() - thick * 0.2,
+                            face.width() * 0.22, thick * 0.8));
   }
+  painter.setBrush(QColor::fromRgb(chip.Rim));
+  painter.drawEllipse(face);
+  const QPointF in(face.width() * 0.26, face.height() * 0.26);
+  painter.setBrush(QColor::fromRgb(chip.Stripe));
+  painter.drawEllipse(QRectF(face.topLeft() + in, face.bottomRight() - in));
 }
 
-void prcDrawHollowChip(QPainter& painter, const QRectF& body) {
-  painter.setPen(QPen(QColor(196, 205, 190, 120), fncScale() * 0.8));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(body, body.height() / 2.4, body.height() / 2.4);
+/// The outline of one, which hides what lies below it.
+void prcDrawHollowChip(QPainter& painter, const QRectF& face) {
+  const QRectF foot = face.translated(0, dblChipThick * fncScale());
+  painter.setPen(QPen(QColor(150, 166, 150), fncScale() * 0.8));
+  painter.setBrush(QColor(9, 34, 26));
+  painter.drawEllipse(foot);
+  painter.drawEllipse(face);
 }
 
 }  // namespace
@@ -104,10 +115,10 @@ void prcDrawChipStack(QPainter& painter, const QRect& rect, int intChips, bool b
     chip = std::find_if(chip, std::end(clrChips),
                         [&](const ChipColours& next) { return next.Chips <= intChips; });
     const double x = rect.left() + (drawn / intColumnHigh * dblChipPitch + 1) * scale;
-    const double y =
-        rect.bottom() + 1 - ((drawn % intColumnHigh + 1) * (dblChipThick + 0.6) + 0.8) * scale;
-    const QRectF body(x, y, dblChipWide * scale, dblChipThick * scale);
-    blnHollow ? prcDrawHollowChip(painter, body) : prcDrawStackedChip(painter, body, *chip);
+    const double y = rect.bottom() + 1 -
+                     ((drawn % intColumnHigh + 1) * dblChipThick + dblChipFace + 0.6) * scale;
+    const QRectF face(x, y, dblChipWide * scale, dblChipFace * scale);
+    blnHollow ? prcDrawHollowChip(painter, face) : prcDrawStackedChip(painter, face, *chip);
   }
   painter.restore();
 }
@@ -117,7 +128,7 @@ void prcDrawChipLight(QPainter& painter, const QRectF& rect) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(255, 243, 205), 1.3 * unit));
-  painter.setBrush(QColor(255, 255, 255, 40));
+  painter.setBrush(Qt::NoBrush);
   painter.drawEllipse(rect.topLeft() + QPointF(7.5, 7.45) * unit, 6.7 * unit, 6.7 * unit);
   painter.restore();
 }
