@@ -25,7 +25,7 @@ namespace {
 
 struct Felt {
   Window Form;
-  Control picGround, pctBack, pctFace, shpMat;
+  Control picGround, pctBack, pctFace, shpMat, lblChip;
 };
 Felt felt;
 
@@ -34,6 +34,7 @@ const Place plcFelt[] = {
     {&felt.pctFace, "pctCardFace", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
     {&felt.pctBack, "pctCardBack", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
     {&felt.shpMat, "shpCardDealBG", 0, ControlKind::Shape, 3000, 900, 2505, 3165},
+    {&felt.lblChip, "lblChip", -1, ControlKind::Label, 600, 600, 225, 285},
 };
 
 class Looks : public testing::Test {
@@ -50,6 +51,8 @@ class Looks : public testing::Test {
     felt.picGround.BackColor = {0, 80, 0};
     felt.pctFace.Picture = 22;
     felt.pctBack.Picture = picCardBack;
+    felt.lblChip.Picture = picChip5;
+    felt.lblChip.Dress = Look::Chip;
     prcShow(felt.Form);
     user::Settle();
   }
@@ -95,6 +98,24 @@ TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {
     plain.fill(QColor(colour.Red, colour.Green, colour.Blue));
     EXPECT_EQ(fncShot().copy(inside), plain);
   }
+}
+
+TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
+  const QWidget& shell = *stage::fncView(felt.Form).Shell;
+  const auto shot = [] {
+    user::Settle();
+    return fncShot().copy(qt::fncPixelRect(600, 600, 225, 285));
+  };
+  const QImage still = shot();
+  stage::prcPoint(shell, shell.mapToGlobal(QPoint(qt::fncPixels(700), qt::fncPixels(915))));
+  const QImage lit = shot();
+  EXPECT_NE(lit, still);
+  stage::prcPress(shell, Qt::RightButton);
+  EXPECT_NE(shot(), lit);
+  stage::prcLift(shell, Qt::RightButton);
+  EXPECT_EQ(shot(), lit);
+  stage::prcPoint(shell, shell.mapToGlobal(QPoint(1, 1)));
+  EXPECT_EQ(shot(), still);
 }
 
 TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
