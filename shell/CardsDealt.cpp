@@ -204,8 +204,10 @@ void prcInitCardsDealtCount() {
   }
 }
 
-void prcListCard(Integer card, Integer value, const std::string& mark) {
-  std::string row = fncCardValueName(value) + " " + CardSuite(card);
+void prcListCard(Integer position, const std::string& mark) {
+  const Integer slot = intShoeCards[0][position];
+  const Integer value = intCardValue[0][slot];
+  std::string row = fncCardValueName(value) + " " + CardSuite(slot);
   row.resize(intNameColumns, ' ');
   row.resize(intMarkColumn, ' ');
   row += mark;

@@ -26,9 +26,9 @@ void prcClearCardsDealt();
 /// Sets the names and zeroes the counts of varCardsDealtCount.
 void prcInitCardsDealtCount();
 
-/// Adds the slot's card to lstCardsDealt with a mark of up to 7 characters, selects the row, and
-/// counts the card. Loads the window on first use.
-void prcListCard(Integer card, Integer value, const std::string& mark);
+/// Adds the card at a position of shoe 0 to lstCardsDealt with a mark of up to 7 characters,
+/// selects the row, and counts the card. Loads the window on first use.
+void prcListCard(Integer position, const std::string& mark);
 
 /// Gives both windows their names, kinds and events.
 void prcPrepareCardsDealt();

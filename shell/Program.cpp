@@ -11,7 +11,6 @@
 #include "shell/frmKaNori.h"
 #include "shell/frmSelectaShoe.h"
 #include "table/BaccTableEvents.h"
-#include "table/Cards.h"
 #include "table/TableState.h"
 
 bool fncStartProgram() {

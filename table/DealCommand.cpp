@@ -15,9 +15,7 @@
 #include "table/HandDealing.h"
 #include "table/HandPresentation.h"
 #include "table/HandSettlement.h"
-#include "table/SeatResults.h"
 #include "table/TableStatus.h"
-#include "table/Waits.h"
 
 namespace {
 

@@ -11,8 +11,7 @@ namespace {
 /// The cards left behind the last hand go into the list, and the bar runs with them to the end.
 void prcListRest() {
   for (int p = intNextCard[0]; p <= intLastCard[0]; ++p) {
-    const Integer slot = intShoeCards[0][p];
-    prcListCard(slot, intCardValue[0][slot], "<-End");
+    prcListCard(p, "<-End");
     BaccTable.prgShoe.Value = p;
   }
   if (blnShowCardsDealtCount) {

@@ -27,8 +27,7 @@ Drawn fncCardAt(const Integer& intShoe, int position) {
 
 void prcListPosition(const Integer& intShoe, int position) {
   if (intShoe == 0) {
-    const Integer slot = intShoeCards[intShoe][position];
-    prcListCard(slot, intCardValue[intShoe][slot], "");
+    prcListCard(position, "");
   }
 }
 

@@ -10,7 +10,6 @@
 #include "shell/ShoeSize.h"
 #include "shell/ToolButtons.h"
 #include "table/BaccTable.h"
-#include "table/Cards.h"
 #include "table/FreeSlots.h"
 #include "table/Random.h"
 #include "table/SeatResults.h"
@@ -80,11 +79,10 @@ void prcPlaceCards(const Integer& intShoe, FreeSlots& free) {
   }
 }
 
-void prcListBurnt(const Integer& intShoe) {
+void prcListBurnt() {
   prcClearCardsDealt();
-  for (int p = 0; p <= intNextCard[intShoe]; ++p) {
-    const Integer slot = intShoeCards[intShoe][p];
-    prcListCard(slot, intCardValue[intShoe][slot], "<-Burnt");
+  for (int p = 0; p <= intNextCard[0]; ++p) {
+    prcListCard(p, "<-Burnt");
   }
   if (blnShowCardsDealtCount) {
     LoadlstCardsDealtCount();
@@ -208,7 +206,7 @@ void Shuffle(const Integer& intShoe) {
   intNextCard[intShoe] = burnt > 9 ? 10 : int{burnt};
   running.Step(11);
   if (intShoe == 0) {
-    prcListBurnt(intShoe);
+    prcListBurnt();
   }
   running.Step(12);
   ++intNextCard[intShoe];

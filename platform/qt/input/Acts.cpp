@@ -1,9 +1,8 @@
-#include "platform/qt/windows/Reports.h"
-
 #include <QApplication>
 
 #include "platform/qt/views/ControlViews.h"
 #include "platform/qt/windows/InFront.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
 
 namespace qt {
