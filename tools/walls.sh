@@ -57,6 +57,13 @@ if [ -n "$climbing" ]; then
   breaches=1
 fi
 
+while IFS=: read -r page path; do
+  if [ ! -e "$path" ] && [ ! -e "$(dirname "$page")/$path" ]; then
+    echo "$page names $path, which is not there" >&2
+    breaches=1
+  fi
+done < <(git grep -oE '`[a-z]+/[A-Za-z0-9_/.-]+\.[a-z]+`' -- '*.md' | tr -d '`' | sort -u)
+
 while read -r name; do
   if ! grep -qF "\`$name\`" docs/settings.md; then
     echo "docs/settings.md does not tell \`$name\` of shell/SettingsKeys.h" >&2
