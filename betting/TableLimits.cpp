@@ -10,6 +10,9 @@
 
 namespace {
 
+// Of the chip value, in money.
+constexpr int intLeastUnit = 10;
+constexpr int intMostUnit = 9990;
 constexpr int intUnitStep = 10;
 
 /// What is wrong with the chip value box, in the words of its message; nothing where it is good.

@@ -1,8 +1,7 @@
 #pragma once
 
-/// Chip value in money: 10 to 9990 in steps of 10. Hands at a time: 1 to 90.
-inline constexpr int intLeastUnit = 10;
-inline constexpr int intMostUnit = 9990;
+// The chip value, 10 to 9990 in steps of 10, and the hands at a time, 1 to 90: their boxes on the
+// table.
 
 void txtUnitValue_GotFocus();
 /// Saves a good chip value, and takes the focus back from a bad one after its message.

@@ -170,16 +170,16 @@ constexpr std::array<BetRow, 3> rowBets{
       "999",
       'P'}}};
 
+/// A chip label as it looks, in the order of intChipSizes.
 struct ChipRow {
-  int Chips;
   const char *Text, *ToolTip;
   int Picture;
 };
-constexpr std::array<ChipRow, 4> chpAll{
-    {{0, "0", "", picChip0},
-     {1, "1", "Left click add 1 chip / Right click subtract 1 chip", picChip1},
-     {2, "2", "Left click add 2 chips / Right click subtract 2 chips", picChip2},
-     {5, "5", "Left click add 5 chips / Right click subtract 5 chips", picChip5}}};
+constexpr std::array<ChipRow, intChipSizes.size()> chpAll{
+    {{"0", "", picChip0},
+     {"1", "Left click add 1 chip / Right click subtract 1 chip", picChip1},
+     {"2", "Left click add 2 chips / Right click subtract 2 chips", picChip2},
+     {"5", "Left click add 5 chips / Right click subtract 5 chips", picChip5}}};
 constexpr double dblChipPitch = 210;
 
 /// What is shown by its place only has to be told apart by name for the ear.
