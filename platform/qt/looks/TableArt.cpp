@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include "platform/qt/looks/Scale.h"
@@ -107,14 +108,16 @@ void prcDrawPullEdge(QPainter& painter, const QRect& rect) {
 
 void prcDrawChipStack(QPainter& painter, const QRect& rect, int intChips, bool blnHollow) {
   const double scale = fncScale();
-  const int most = intColumnHigh * static_cast<int>(rect.width() / (dblChipPitch * scale) + 0.5);
+  const auto columns = std::lround(rect.width() / (dblChipPitch * scale));
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const auto* chip = std::begin(clrChips);
-  for (int drawn = 0; intChips > 0 && drawn < most; ++drawn, intChips -= chip->Chips) {
+  for (int drawn = 0; intChips > 0 && drawn < columns * intColumnHigh;
+       ++drawn, intChips -= chip->Chips) {
     chip = std::find_if(chip, std::end(clrChips),
                         [&](const ChipColours& next) { return next.Chips <= intChips; });
-    const double x = rect.left() + (drawn / intColumnHigh * dblChipPitch + 1) * scale;
+    const int column = drawn / intColumnHigh;
+    const double x = rect.left() + (column * dblChipPitch + 1) * scale;
     const double y = rect.bottom() + 1 -
                      ((drawn % intColumnHigh + 1) * dblChipThick + dblChipFace + 0.6) * scale;
     const QRectF face(x, y, dblChipWide * scale, dblChipFace * scale);

@@ -46,7 +46,7 @@ int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
 }
 
 /// The room of the tick before a text.
-int fncTick() { return fncScaled(8); }
+int fncTick() { return fncScaled(7); }
 
 QRect fncTextRect(const Control& control, const QRect& rect) {
   const int inset = fncPlated(control) ? fncScaled(3) : 0;
@@ -116,7 +116,7 @@ void prcDrawLabelGround(QPainter& painter, const Control& control, const QRect& 
       prcFillPlate(painter, control, rect);
       const int side = fncTick();
       prcDrawTick(painter,
-                  QRectF(rect.left() + side / 2.0, rect.center().y() + 1 - side / 2.0, side, side));
+                  QRectF(rect.left() + side * 0.4, rect.center().y() + 1 - side / 2.0, side, side));
       break;
     }
     case Look::Plate:

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QWindow>
 
 #include "marking/MarkCard.h"
@@ -59,6 +60,10 @@ TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
   GoToList();
   prcShowModal(KasSitas.Form);
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "after About";
+  user::Settle();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+  QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
+  EXPECT_FALSE(blnShuffled[0]) << "by a key that is held";
   user::After(500, GoToList);
   user::Key(BaccTable.Form, "Enter");
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "after a shuffle";
