@@ -486,7 +486,7 @@ void prcLayFlightAndTimer() {
   t.pctCardBackMove.Picture = picCardBack;
   t.pctCardBackMove.Dress = Look::Card;
   t.pctCardBackMove.Visible = false;
-  prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4665, 75, 1440, 960});
+  prcAdd({&t.picShoeBox, "picShoeBox", -1, Picture, 4597.5, 0, 1575, 1050});
   t.picShoeBox.Picture = picShoe;
   prcAdd({&t.txtsetfocus, "txtsetfocus", -1, TextBox, -900, -900, 300, 300});
   t.txtsetfocus.TabStop = false;
