@@ -61,6 +61,12 @@ HAND = ("M9.5 17V7.3a2.05 2.05 0 0 1 4.1 0V5a2.05 2.05 0 0 1 4.1 0V6.3a2.05 2.05
         "C4.4 15.5 4.7 14.1 5.9 13.5C7 13 8.1 13.6 8.7 14.7Z")
 HAND_LINES = "M13.6 7.3V14.2M17.7 6.3V14.2M21.8 9.6V14.6"
 
+# Thumb and forefinger that hold an edge between them.
+PINCH = ("M11.6 25.6C10.8 23.4 7.8 21.4 7.4 17.8C7 13.8 10.4 7.4 13 4.1a1.75 1.75 0 0 1 3.1 1"
+         "a2 2 0 0 1 4-.2C20.4 8 19.9 11 19.5 13.4C20.7 12 23.2 12.4 23.4 14.5C25 14 26.6 15.4 26.3 17.2"
+         "C26.2 20.6 24.6 23 23.8 25.6Z")
+PINCH_LINES = "M16.1 5.4C15.6 9 14 11.6 13.4 15M19.5 13.4L19.1 16.6M23.4 14.5L23 17.3"
+
 
 # ---- small writers -----------------------------------------------------------------------------
 
@@ -668,14 +674,15 @@ def write_bullet():
 
 
 def write_hands():
-    """The same right hand twice, seen from its back: upright, and a quarter turn to the left."""
+    """The same hand twice. It comes from beyond the edge that it pulls at, so as to leave the face
+    free: from above for the lower edge, from the left for the right one."""
     hand = (path("M11 25.6H24.6V31H11Z", NAVY, stroke=INK, stroke_width=1.3,
                  stroke_linejoin="round")
             + circle(21.7, 28.3, 0.9, GOLD_LIGHT)
-            + path(HAND, "#FFFFFF", stroke="#10161D", stroke_width=1.4, stroke_linejoin="round")
-            + line(HAND_LINES, "#10161D", 1.1))
-    save("hand_up.svg", 32, 32, hand)
-    save("hand_right.svg", 32, 32, group("matrix(0 -1 1 0 0 32)", hand))
+            + path(PINCH, "#FFFFFF", stroke="#10161D", stroke_width=1.4, stroke_linejoin="round")
+            + line(PINCH_LINES, "#10161D", 1.1))
+    save("hand_up.svg", 32, 32, group("matrix(-1 0 0 -1 32 32)", hand))
+    save("hand_right.svg", 32, 32, group("matrix(0 1 -1 0 32 0)", hand))
 
 
 def write_shoe():

@@ -171,6 +171,8 @@ struct Control {
   Colour BackColor = clrClear;
   Integer Picture = 0;  ///< A number of assets/Pictures.h; 0 shows none.
   Look Dress = Look::Plain;
+  /// A card's back: as it goes from the face below, the card is seen to turn over.
+  bool Flips = false;
   Pointer MousePointer = Pointer::Arrow;
 
   // Shapes and lines.

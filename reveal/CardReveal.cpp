@@ -80,8 +80,9 @@ void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, boo
   patches.BottomLeft.Visible = blnShow;
 }
 
-void prcUncover(Integer Index) {
+void prcUncover(Integer Index, bool blnWaits) {
   Control& face = BaccTable.pctCardFace[Index];
+  BaccTable.pctCardBack[Index].Flips = blnWaits && blnDealAnimation;
   BaccTable.pctCardBack[Index].Visible = false;
   face.Spoken = fncSpokenPosition(Index) + ", " + fncCardName(face.Picture);
 }
@@ -102,7 +103,7 @@ void pctCardBack_Click(Integer Index) {
   prcShowInnerPatches(BaccTable, value, Index, true);
   prcShowOuterPatches(BaccTable, value, Index, false);
   running.Step(5);
-  prcUncover(Index);
+  prcUncover(Index, true);
   platform::RepaintNow(BaccTable.pctCardFace[Index]);
   running.Step(6);
   const HandSide side = fncHandSide(Index);

@@ -36,8 +36,9 @@ void BaccTable_MouseMove();
 void prcLoadHands();
 void prcLoadArrows();
 
-/// Takes the back off a card: from now on the ear may know what the face shows.
-void prcUncover(Integer Index);
+/// Takes the back off a card: from now on the ear may know what the face shows. Where a wait
+/// follows anyway and cards move, the card is seen to turn over.
+void prcUncover(Integer Index, bool blnWaits);
 
 /// Shows or hides the two patches over the top left and bottom right marks, or over the other two,
 /// of the family that goes with the face value. The other family is left alone.

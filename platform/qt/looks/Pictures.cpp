@@ -131,9 +131,9 @@ QCursor fncCursor(Pointer pointer) {
     case Pointer::SizeLeftRight:
       return Qt::SizeHorCursor;
     case Pointer::HandUp:
-      return fncHand(picHandUp, 16, 3);
+      return fncHand(picHandUp, 16, 29);
     case Pointer::HandRight:
-      return fncHand(picHandRight, 3, 16);
+      return fncHand(picHandRight, 29, 16);
     case Pointer::HandLink:
       return Qt::PointingHandCursor;
     case Pointer::Arrow:

@@ -15,6 +15,7 @@
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Buttons.h"
 #include "platform/qt/views/Captions.h"
+#include "platform/qt/views/Flip.h"
 #include "platform/qt/views/Grid.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/views/Painted.h"
@@ -55,8 +56,13 @@ bool fncLooksChanged(const Control& drawn, const Control& next) {
 }
 
 void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
-  if (!blnFirst && fncLooksChanged(view.Drawn, next)) {
+  if (blnFirst) {
+    return;
+  }
+  if (fncLooksChanged(view.Drawn, next)) {
     view.Widget->update();
+  } else if (fncIsBent(view.Drawn) || fncIsBent(next)) {
+    view.Widget->update(fncBentAnew(view.Drawn, next));
   }
 }
 
@@ -353,6 +359,7 @@ void prcUpdateControl(ControlView& view, const Control& control) {
                   (!view.Drawn.Visible || view.Drawn.Text != control.Text ||
                    view.Drawn.Spoken != control.Spoken);
   }
+  prcFollowFlip(view, control);
   view.Drawn = control;
   if (blnAnnounce) {
     prcNoteForEar(view);

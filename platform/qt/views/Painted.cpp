@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "assets/Pictures.h"
+#include "platform/qt/looks/Bend.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
@@ -158,7 +160,17 @@ void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect,
   painter.drawText(place, fncTextFlags(control, place.size(), font) | key, fncCaption(control));
 }
 
+/// The part of a cut card that is left.
+QSize fncRest(const Control& control) {
+  return {fncPixels(control.Width), fncPixels(control.Height)};
+}
+
 void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& rect) {
+  if (fncIsBent(control)) {
+    const QRect rest(QPoint(0, 0), fncRest(control));
+    prcDrawBend(painter, rest.translated(rect.topLeft() - fncBendRoom(rest).topLeft()));
+    return;
+  }
   if (control.Dress == Look::Patch && control.BackColor.Clear) {
     painter.fillRect(rect, Qt::white);
   } else if (!control.BackColor.Clear) {
@@ -273,8 +285,8 @@ QRect fncPlace(const Control& control) {
             std::max(bottom - top, width)};
   }
   if (fncCutsPicture(control)) {
-    return {fncPixels(control.Left), fncPixels(control.Top), fncPixels(control.Width),
-            fncPixels(control.Height)};
+    const QRect rest(QPoint(fncPixels(control.Left), fncPixels(control.Top)), fncRest(control));
+    return fncIsBent(control) ? fncBendRoom(rest) : rest;
   }
   if (control.Dress == Look::Chip) {
     return fncPixelRect(control.Left, control.Top - dblHitAbove, control.Width,
@@ -294,6 +306,22 @@ QPoint fncCorner(const Control& control) {
 bool fncCutsPicture(const Control& control) {
   return control.Kind == ControlKind::Picture &&
          (control.Dress == Look::Card || fncIsCard(control.Picture));
+}
+
+bool fncIsBent(const Control& control) {
+  const QSize rest = fncRest(control);
+  const QSize card = fncCardSize();
+  return fncCutsPicture(control) && control.Picture == picCardBack && !rest.isEmpty() &&
+         (rest.width() < card.width() || rest.height() < card.height());
+}
+
+QRect fncBentAnew(const Control& drawn, const Control& next) {
+  const QRect from(QPoint(0, 0), fncRest(drawn)), to(QPoint(0, 0), fncRest(next));
+  const QPoint corner = fncBendRoom(from).topLeft();
+  if (!fncIsBent(drawn) || !fncIsBent(next) || corner != fncBendRoom(to).topLeft()) {
+    return {QPoint(0, 0), 2 * fncCardSize()};
+  }
+  return (fncBendBand(from) | fncBendBand(to)).translated(-corner);
 }
 
 QFont fncFittedFont(const Control& control, QSize size) {
@@ -337,7 +365,7 @@ void prcPaintControl(QPainter& painter, const Control& control, const QRect& rec
     default:
       break;
   }
-  if (state.blnFocus) {
+  if (state.blnFocus && !fncIsBent(control)) {
     prcDrawFocus(painter, rect);
   }
 }

@@ -35,11 +35,17 @@ class PaintedView : public QWidget {
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as
-/// far as it is not cut, a soft shadow with its margin.
+/// far as it is not cut, a soft shadow with its margin, a bent back with its shade.
 QRect fncPlace(const Control& control);
 
 /// Whether a control's picture stays as it is when its size changes, being cut and not squeezed.
 bool fncCutsPicture(const Control& control);
+
+/// Whether a control is a card's back that is cut short, and so drawn as one that bends.
+bool fncIsBent(const Control& control);
+
+/// What of the widget of a back that is bent, before or after, has to be painted anew.
+QRect fncBentAnew(const Control& drawn, const Control& next);
 
 /// The control's face, made smaller where its text would not fit into size otherwise.
 QFont fncFittedFont(const Control& control, QSize size);

@@ -15,6 +15,7 @@
 #include "assets/Pictures.h"
 #include "judges/Adapter.h"
 #include "platform/Layout.h"
+#include "platform/platform.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "tests/qt/stage/Stage.h"
@@ -75,17 +76,73 @@ class Looks : public testing::Test {
   }
 };
 
-TEST_F(Looks, AShrunkBackIsCutNotSqueezed) {
+/// The light of an area as a whole, 0 to 255.
+int fncGrey(const QImage& area) {
+  return qGray(area.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+}
+
+TEST_F(Looks, ABackPulledOpenIsCutAndBendsThere) {
   const QRect card(QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize());
-  ASSERT_EQ(fncShot().copy(card).pixel(30, 30), fncCard(picCardBack).pixel(30, 30));
-  felt.pctBack.Height = 600;
-  user::Settle();
-  const int cut = qt::fncPixels(600);
-  const QImage shot = fncShot().copy(card);
-  const QRect above(0, 8, card.width(), cut - 8);  // Without the round corners.
-  const QRect below(0, cut, card.width(), card.height() - cut - 8);
-  EXPECT_EQ(shot.copy(above), fncCard(picCardBack).copy(above));
-  EXPECT_EQ(shot.copy(below), fncCard(22).copy(below));
+  const QImage back = fncCard(picCardBack), face = fncCard(22);
+  for (const bool blnRight : {false, true}) {
+    double& side = blnRight ? felt.pctBack.Width : felt.pctBack.Height;
+    const double whole = side;
+    // From one place along the pull to another, without the round corners.
+    const auto part = [&](double from, double to) {
+      const int first = qt::fncPixels(from), last = qt::fncPixels(to);
+      return blnRight ? QRect(first, 8, last - first, card.height() - 16)
+                      : QRect(8, first, card.width() - 16, last - first);
+    };
+    for (const double share : {0.9, 0.45, 0.6, 1.0}) {
+      const double rest = side = whole * share;
+      user::Settle();
+      const QImage shot = fncShot(), seen = shot.copy(card);
+      stage::fncView(felt.Form).Shell->repaint();
+      EXPECT_EQ(fncShot(), shot) << "no less is painted than what has changed";
+      if (share >= 0.6) {
+        EXPECT_EQ(seen.copy(part(120, rest / 4)), back.copy(part(120, rest / 4)));
+      }
+      if (share <= 0.6) {
+        const QRect fold = part(rest - 15, rest), light = part(rest - 90, rest - 60),
+                    shade = part(rest, rest + 45), open = part(rest + 210, whole - 120);
+        EXPECT_GT(fncGrey(seen.copy(light)), fncGrey(seen.copy(fold)) + 40);
+        EXPECT_LT(fncGrey(seen.copy(shade)), fncGrey(face.copy(shade)) - 30);
+        EXPECT_EQ(seen.copy(open), face.copy(open));
+      }
+    }
+  }
+}
+
+TEST_F(Looks, ACardTurnsOverUntilSomethingElseComes) {
+  const QRect card(QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize());
+  const auto turn = [](bool blnFlips) {
+    felt.pctBack.Visible = true;
+    felt.pctBack.Flips = blnFlips;
+    user::Settle();
+    felt.pctBack.Visible = false;
+    platform::RepaintNow(felt.pctBack);
+    return fncShot();
+  };
+  const QImage hidden = fncShot(), face = turn(false);
+  EXPECT_EQ(face.copy(card), fncCard(22));
+  const QRect inner = card.adjusted(4, 4, -4, -4);
+  EXPECT_EQ(turn(true).copy(inner), hidden.copy(inner)) << "begins as the back";
+  EXPECT_FALSE(user::Seen(felt.pctBack).Visible);
+  user::Wait(130);
+  EXPECT_EQ(fncShot().copy(card).pixel(3, 48), qRgb(0, 80, 0)) << "narrow on its way";
+  user::Wait(80);
+  EXPECT_EQ(fncShot(), face);
+  const std::function<void()> others[] = {[] { stage::prcKey(Qt::Key_F12); },
+                                          [] { felt.pctFace.Picture = 23; },
+                                          [] { felt.pctFace.Visible = false; }};
+  for (const auto& other : others) {
+    turn(true);
+    other();
+    user::Settle();
+    const QImage shot = fncShot();
+    user::Wait(20);
+    EXPECT_EQ(fncShot(), shot) << "cut off at once, and gone";
+  }
 }
 
 TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {

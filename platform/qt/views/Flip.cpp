@@ -1,0 +1,195 @@
+#include "platform/qt/views/Flip.h"
+
+#include <QApplication>
+#include <QBasicTimer>
+#include <QEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <span>
+#include <utility>
+
+#include "platform/platform.h"
+#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/views/Painted.h"
+#include "platform/qt/windows/Screen.h"
+
+namespace qt {
+
+namespace {
+
+constexpr std::uint32_t lngFlipMilliseconds = 180;
+constexpr int intFrameMilliseconds = 16;
+constexpr double dblDeepest = 0.4;  ///< The shade on a card that stands on its edge.
+
+/// A turning card: its place, the room that it takes with its shadow, and what is seen there.
+struct Turning {
+  QRect Card, Room;
+  QPixmap Ground, Back, Face;  ///< All of the room: what lies around it, and it with its shadow.
+};
+
+/// Lies over a card as long as it turns, and is hidden and at rest between two turns.
+class FlipView : public QWidget {
+ public:
+  explicit FlipView(QWidget* ground) : QWidget(ground) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+  }
+
+  void prcBegin(Turning card) {
+    card_ = std::move(card);
+    start_ = platform::TickCount();
+    setGeometry(card_.Room);
+    raise();
+    show();
+    timer_.start(intFrameMilliseconds, Qt::PreciseTimer, this);
+    qApp->installEventFilter(this);
+  }
+
+  void prcEnd() {
+    qApp->removeEventFilter(this);
+    timer_.stop();
+    hide();
+    card_ = {};
+  }
+
+  const QRect& fncCard() const { return card_.Card; }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::KeyPress:
+      case QEvent::Wheel:
+        prcEnd();
+        break;
+      case QEvent::Resize:
+        if (object == parentWidget()) {
+          prcEnd();
+        }
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
+
+  void timerEvent(QTimerEvent* /*event*/) override {
+    if (platform::TickCount() - start_ >= lngFlipMilliseconds) {
+      prcEnd();
+    } else {
+      update();
+    }
+  }
+
+  void paintEvent(QPaintEvent* /*event*/) override {
+    const double passed = platform::TickCount() - start_;
+    const double turn = std::numbers::pi * std::min(1.0, passed / lngFlipMilliseconds);
+    const QPixmap& side = passed * 2 < lngFlipMilliseconds ? card_.Back : card_.Face;
+    const double middle = QRectF(card_.Card).center().x() - card_.Room.left();
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, card_.Ground);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(middle, 0);
+    painter.scale(std::abs(std::cos(turn)), 1);
+    painter.translate(-middle, 0);
+    painter.drawPixmap(0, 0, fncShaded(side, dblDeepest * std::sin(turn)));
+  }
+
+ private:
+  static QPixmap fncShaded(QPixmap side, double depth) {
+    QPainter painter(&side);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+    painter.fillRect(side.rect(), QColor::fromRgbF(0, 0, 0, static_cast<float>(depth)));
+    return side;
+  }
+
+  Turning card_;
+  std::uint32_t start_ = 0;
+  QBasicTimer timer_;
+};
+
+QPointer<FlipView> flpView;  ///< Goes with the ground that it lies on.
+
+using Views = std::span<const std::unique_ptr<ControlView>>;
+
+/// Draws onto the room what these controls show there.
+void prcPaintThere(QPixmap& onto, const QRect& room, Views views) {
+  QPainter painter(&onto);
+  for (const std::unique_ptr<ControlView>& view : views) {
+    const auto* widget = qobject_cast<PaintedView*>(view->Widget);
+    if (widget != nullptr && view->Drawn.Visible && view->Drawn.Container == nullptr &&
+        widget->geometry().intersects(room)) {
+      prcPaintControl(painter, view->Drawn, widget->geometry().translated(-room.topLeft()), {});
+    }
+  }
+}
+
+/// The back with what lies below it of its card: the face, the patches over that, and the shadow
+/// below it. Empty where there is no face.
+Views fncCardOf(const ControlView& back) {
+  const Views all(back.Home.Controls);
+  const QRect place = back.Widget->geometry();
+  const auto top = std::ranges::find(all, &back, [](const auto& view) { return view.get(); });
+  auto first = std::find_if(all.begin(), top, [&](const std::unique_ptr<ControlView>& view) {
+    return view->Drawn.Visible && fncCutsPicture(view->Drawn) && view->Widget->geometry() == place;
+  });
+  if (first == top) {
+    return {};
+  }
+  if (first != all.begin() && (*std::prev(first))->Drawn.Dress == Look::Shadow) {
+    --first;
+  }
+  return {first, std::next(top)};
+}
+
+void prcShowFlip(const ControlView& back) {
+  const Views card = fncCardOf(back);
+  QWidget* ground = back.Home.Ground;
+  if (card.empty() || !ground->isVisible() ||
+      ground->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, ground) == 0) {
+    return;
+  }
+  Turning turning{back.Widget->geometry(), {}, {}, {}, {}};
+  const QRect& room = turning.Room = turning.Card | card.front()->Widget->geometry();
+  const double ratio = ground->devicePixelRatioF();
+  turning.Ground = QPixmap(room.size() * ratio);
+  turning.Ground.setDevicePixelRatio(ratio);
+  turning.Ground.fill(Qt::transparent);
+  turning.Back = turning.Face = turning.Ground;
+
+  const Views all(back.Home.Controls);
+  ground->render(&turning.Ground, QPoint(0, 0), QRegion(room), QWidget::DrawWindowBackground);
+  prcPaintThere(turning.Ground, room, {all.begin(), card.begin()});
+  prcPaintThere(turning.Ground, room, {card.end(), all.end()});
+  prcPaintThere(turning.Face, room, card.first(card.size() - 1));
+  prcPaintThere(turning.Back, room, card);
+  if (flpView == nullptr || flpView->parentWidget() != ground) {
+    delete flpView;
+    flpView = new FlipView(ground);
+  }
+  flpView->prcBegin(std::move(turning));
+}
+
+}  // namespace
+
+void prcFollowFlip(const ControlView& view, const Control& next) {
+  if (view.Widget == nullptr) {
+    return;
+  }
+  if (flpView != nullptr && view.Home.Ground == flpView->parentWidget() &&
+      view.Widget->geometry().intersects(flpView->fncCard())) {
+    flpView->prcEnd();
+  }
+  const bool blnGoes = view.Drawn.Visible && !next.Visible;
+  if (blnGoes && next.Flips && fncCutsPicture(next) && !fncIsBent(view.Drawn)) {
+    prcShowFlip(view);
+  }
+}
+
+}  // namespace qt
