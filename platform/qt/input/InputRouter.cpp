@@ -7,6 +7,7 @@
 
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Flip.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/InFront.h"
 #include "platform/qt/windows/Reports.h"
@@ -184,6 +185,7 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
 }
 
 bool InputRouter::fncPressed(QWidget& widget, const QMouseEvent& event) {
+  prcEndFlip();
   WindowView* home = fncWindowViewOf(&widget);
   if (fncLive(*home) == nullptr) {
     return false;

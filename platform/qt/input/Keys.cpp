@@ -8,6 +8,7 @@
 #include "platform/Picking.h"
 #include "platform/UserInput.h"
 #include "platform/qt/input/InputRouter.h"
+#include "platform/qt/views/Flip.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/windows/InFront.h"
 #include "platform/qt/windows/Loop.h"
@@ -274,6 +275,7 @@ bool fncKeyPressed(QWidget& widget, const QKeyEvent& event) {
   if (window == nullptr || fncModifierAlone(event.key())) {
     return false;
   }
+  prcEndFlip();
   if (window->Kind == WindowKind::Frame) {
     window = fncFrameInput();
   }

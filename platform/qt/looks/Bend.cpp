@@ -14,19 +14,17 @@ namespace qt {
 
 namespace {
 
-constexpr double dblFlapShare = 0.24;  ///< Of the card: so far the flap reaches back at most.
-constexpr double dblFlapOfRest =
-    0.6;  ///< Near the end it reaches over no more than this of the rest.
-constexpr double dblWider =
-    2.5;  ///< Pixels at scale 1 on each side, as the flap comes near the eye.
+constexpr double dblFlapMost = 0.24;  ///< How far back the flap reaches: of the card,
+constexpr double dblFlapRest = 0.6;   ///< and, near the end, of what still lies flat.
+// Pixels at scale 1.
+constexpr double dblWider = 2.5;    ///< On each side, as the flap comes near the eye.
 constexpr double dblShadeNear = 5;  ///< How far a flap just lifted throws its shade, and how much
-constexpr double dblShadeMore = 8;  ///< further a high one does: pixels at scale 1.
-constexpr double dblCorner = 4;     ///< The card's round corners, pixels at scale 1.
-
-constexpr double dblShining = 0.13;  ///< Of the pattern, through the paper.
+constexpr double dblShadeMore = 8;  ///< further a high one does.
+constexpr double dblCorner = 4;
+constexpr double dblShining = 0.13;  ///< How much of the pattern shines through the paper.
 
 /// Lays what lies along y along x, and back again.
-const QTransform trsAcross(0, 1, 1, 0, 0, 0);
+QTransform fncAcross() { return {0, 1, 1, 0, 0, 0}; }
 
 /// A bent card as it is seen along the pull, in pixels from its fixed edge.
 struct Bend {
@@ -42,12 +40,11 @@ Bend fncBend(const QSize& rest) {
   const bool blnFromRight = rest.height() >= card.height();
   const double whole = blnFromRight ? card.width() : card.height();
   const double fold = blnFromRight ? rest.width() : rest.height();
-  const double most = dblFlapShare * whole;
+  const double most = dblFlapMost * whole;
   const double height = 1 - std::exp(-(whole - fold) / most);
-  const double flap = std::min(most * height, dblFlapOfRest * fold);
-  return {
-      blnFromRight, whole,       static_cast<double>(blnFromRight ? rest.height() : rest.width()),
-      fold,         fold - flap, height};
+  const double flap = std::min(most * height, dblFlapRest * fold);
+  const double breadth = blnFromRight ? rest.height() : rest.width();
+  return {blnFromRight, whole, breadth, fold, fold - flap, height};
 }
 
 int fncWider() { return fncScaled(dblWider) + 1; }
@@ -66,13 +63,13 @@ QRect fncSlice(const Bend& bend, const QRect& rest, double from, double to) {
                                    rest.width() + 2 * fncWider(), last - first);
 }
 
-/// A soft shade across the card, deepest at near and gone at far.
-void prcDrawShade(QPainter& painter, const Bend& bend, double near, double far, int depth) {
-  QLinearGradient shade(0, near, 0, far);
+/// A soft shade across the card, deepest at one place and gone at another.
+void prcDrawShade(QPainter& painter, const Bend& bend, double from, double to, int depth) {
+  QLinearGradient shade(0, from, 0, to);
   shade.setColorAt(0, QColor(20, 14, 6, depth));
   shade.setColorAt(0.35, QColor(20, 14, 6, depth * 2 / 5));
   shade.setColorAt(1, QColor(20, 14, 6, 0));
-  const QRectF area(0, std::min(near, far), bend.Breadth, std::abs(far - near));
+  const QRectF area(0, std::min(from, to), bend.Breadth, std::abs(to - from));
   painter.fillRect(area & QRectF(0, 0, bend.Breadth, bend.Whole), shade);
 }
 
@@ -97,7 +94,7 @@ void prcShineThrough(QPainter& painter, const Bend& bend, const QPainterPath& fl
   painter.translate(0, bend.Edge + bend.Whole);
   painter.scale(1, -1);
   if (bend.blnFromRight) {
-    painter.setTransform(trsAcross, true);
+    painter.setTransform(fncAcross(), true);
   }
   painter.drawPixmap(0, 0, fncPicture(picCardBack, fncCardSize(), ratio));
   painter.restore();
@@ -142,7 +139,7 @@ void prcDrawBend(QPainter& painter, const QRect& rest) {
   painter.save();
   painter.translate(rest.topLeft());
   if (bend.blnFromRight) {
-    painter.setTransform(trsAcross, true);
+    painter.setTransform(fncAcross(), true);
   }
   painter.setRenderHint(QPainter::Antialiasing);
   const double shade = fncShade(bend);

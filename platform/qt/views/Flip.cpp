@@ -1,8 +1,6 @@
 #include "platform/qt/views/Flip.h"
 
-#include <QApplication>
 #include <QBasicTimer>
-#include <QEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QStyle>
@@ -47,11 +45,9 @@ class FlipView : public QWidget {
     raise();
     show();
     timer_.start(intFrameMilliseconds, Qt::PreciseTimer, this);
-    qApp->installEventFilter(this);
   }
 
   void prcEnd() {
-    qApp->removeEventFilter(this);
     timer_.stop();
     hide();
     card_ = {};
@@ -60,25 +56,6 @@ class FlipView : public QWidget {
   const QRect& fncCard() const { return card_.Card; }
 
  protected:
-  bool eventFilter(QObject* object, QEvent* event) override {
-    switch (event->type()) {
-      case QEvent::MouseButtonPress:
-      case QEvent::MouseButtonDblClick:
-      case QEvent::KeyPress:
-      case QEvent::Wheel:
-        prcEnd();
-        break;
-      case QEvent::Resize:
-        if (object == parentWidget()) {
-          prcEnd();
-        }
-        break;
-      default:
-        break;
-    }
-    return false;
-  }
-
   void timerEvent(QTimerEvent* /*event*/) override {
     if (platform::TickCount() - start_ >= lngFlipMilliseconds) {
       prcEnd();
@@ -178,13 +155,19 @@ void prcShowFlip(const ControlView& back) {
 
 }  // namespace
 
+void prcEndFlip() {
+  if (flpView != nullptr) {
+    flpView->prcEnd();
+  }
+}
+
 void prcFollowFlip(const ControlView& view, const Control& next) {
   if (view.Widget == nullptr) {
     return;
   }
   if (flpView != nullptr && view.Home.Ground == flpView->parentWidget() &&
       view.Widget->geometry().intersects(flpView->fncCard())) {
-    flpView->prcEnd();
+    prcEndFlip();
   }
   const bool blnGoes = view.Drawn.Visible && !next.Visible;
   if (blnGoes && next.Flips && fncCutsPicture(next) && !fncIsBent(view.Drawn)) {

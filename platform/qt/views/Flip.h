@@ -13,4 +13,7 @@ struct ControlView;
 /// goes from it, and ends the turn on show if it lies there.
 void prcFollowFlip(const ControlView& view, const Control& next);
 
+/// Ends the turn on show, if any: the user does something else.
+void prcEndFlip();
+
 }  // namespace qt

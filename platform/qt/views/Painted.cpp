@@ -167,8 +167,7 @@ QSize fncRest(const Control& control) {
 
 void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& rect) {
   if (fncIsBent(control)) {
-    const QRect rest(QPoint(0, 0), fncRest(control));
-    prcDrawBend(painter, rest.translated(rect.topLeft() - fncBendRoom(rest).topLeft()));
+    prcDrawBend(painter, QRect(rect.topLeft() + fncCorner(control), fncRest(control)));
     return;
   }
   if (control.Dress == Look::Patch && control.BackColor.Clear) {
