@@ -9,6 +9,7 @@
 #include "evening/Hands.h"
 #include "evening/Luck.h"
 #include "evening/LuckWords.h"
+#include "evening/Reckoning.h"
 #include "platform/Grid.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
@@ -21,6 +22,9 @@ CourseWindow frmCourse;
 namespace {
 
 constexpr int intOddsTopic = 2;  // The number of the page in the help's index.
+
+// Milliseconds until the window follows: the play, and the reckoning of a long evening.
+constexpr int intFollowPlay = 250, intFollowReckoning = 1;
 
 Luck lckShown;  // Of the scope that the window shows.
 
@@ -93,14 +97,18 @@ Scope fncScope() {
 void prcShowPointed() {
   const Control& chart = frmCourse.crtMoney;
   frmCourse.lblPointed.Text =
-      chart.ListIndex < 0 ? "Point at the curve, or use the arrow keys, to be told of a hand."
-                          : fncHandSentence(fncHandOfPoint(*chart.Chart, chart.ListIndex));
+      chart.Chart->Lines.empty() ? chart.Spoken
+      : chart.ListIndex < 0 ? "Point at the curve, or use the arrow keys, to be told of a hand."
+                            : fncHandSentence(fncHandOfPoint(*chart.Chart, chart.ListIndex));
 }
 
 void prcFill() {
   CourseWindow& w = frmCourse;
   prcShowShoeChoice(w.Shoe);
   const Scope scope = fncScope();
+  const bool blnReckoned = fncReckonOn(scope.Shoe);
+  w.tmrFollow.Interval = blnReckoned ? intFollowPlay : intFollowReckoning;
+  w.tmrFollow.Enabled = !blnReckoned;
   Control& chart = w.crtMoney;
   const int pointed = chart.ListIndex < 0 ? 0 : fncHandOfPoint(*chart.Chart, chart.ListIndex);
   chart.Chart = fncCourseChart(scope);
@@ -150,9 +158,18 @@ constexpr ControlEvents evtPrint{
 constexpr ControlEvents evtOdds{
     .Click = [](Control&) { platform::ShowHelp(strHelpFile, intOddsTopic); }};
 constexpr ControlEvents evtClose{.Click = [](Control&) { fncUnload(frmCourse.Form); }};
+/// Reckons on until all hands are in it, and shows them then.
+void prcFollow() {
+  if (fncReckonOn(fncScope().Shoe)) {
+    prcFill();
+  } else {
+    frmCourse.tmrFollow.Enabled = true;
+  }
+}
+
 constexpr ControlEvents evtFollow{.Timer = [](Control& timer) {
   timer.Enabled = false;
-  Guarded("frmCourse_Follow", prcFill);
+  Guarded("frmCourse_Follow", prcFollow);
 }};
 
 // --- Layout ---
@@ -219,8 +236,6 @@ void prcLayOutCourse(Window& form) {
   w.cmdClose.On = &evtClose;
   w.cmdClose.CancelButton = true;
   w.tmrFollow.On = &evtFollow;
-  w.tmrFollow.Interval = 250;
-  w.tmrFollow.Enabled = false;
 }
 
 constexpr WindowEvents evtCourse{.Load =

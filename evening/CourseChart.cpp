@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "evening/Curve.h"
 #include "evening/EveningWindow.h"
-#include "evening/Record.h"
+#include "evening/Reckoning.h"
 #include "platform/Texts.h"
 
 namespace {
@@ -13,10 +14,14 @@ namespace {
 constexpr std::array<Colour, intSeats> clrSeats{Colour{20, 92, 60}, Colour{38, 74, 140}};
 constexpr Colour clrStake{138, 106, 16};
 constexpr double dblCurveWidth = 1.75, dblRunWidth = 3.5;
+constexpr int intMostSpans = 500;  // About, of a band.
+
+/// No play leads beyond it, only a settings file written by hand; there cents are lost.
+constexpr double dblMostDrawn = 1e12;
 
 bool fncHasSeat(const Scope& scope, int seat) { return scope.Seat < 0 || scope.Seat == seat; }
 
-float fncFloat(double number) { return static_cast<float>(number); }
+ChartPoint fncAt(int hand, double money) { return {static_cast<double>(hand), money}; }
 
 /// A chart under construction, of one seat at a time.
 struct Sheet {
@@ -31,47 +36,43 @@ struct Sheet {
   }
   /// Whether what has happened since the last hand belongs here.
   bool fncGoesOn() const { return Hands.To == std::ssize(colEveningHands); }
-  ChartPoint fncMoney(int hand) const { return {fncFloat(hand), fncFloat(fncPoint(hand).Money)}; }
+  ChartPoint fncMoney(int hand) const { return fncAt(hand, fncPoint(hand).Money); }
 };
 
-template <class Value>
-std::vector<ChartPoint> fncPoints(const Sheet& sheet, Reach reach, Value value) {
+std::vector<ChartPoint> fncMoneyOver(const Sheet& sheet, int from, int to) {
   std::vector<ChartPoint> points;
-  points.reserve(static_cast<std::size_t>(reach.To - reach.From) + 1);
-  for (int hand = reach.From; hand <= reach.To; ++hand) {
-    points.push_back({fncFloat(hand), fncFloat(value(sheet.fncPoint(hand)))});
+  points.reserve(static_cast<std::size_t>(to - from) + 1);
+  for (int hand = from; hand <= to; ++hand) {
+    points.push_back(sheet.fncMoney(hand));
   }
   return points;
 }
-
-double fncMoneyOf(const CurvePoint& point) { return point.Money; }
 
 void prcAddCurve(Sheet& sheet) {
   sheet.Chart.Lines.push_back({.Name = fncSeatName(sheet.Seat),
                                .Ink = clrSeats.at(static_cast<std::size_t>(sheet.Seat)),
                                .Width = dblCurveWidth,
-                               .Points = fncPoints(sheet, sheet.Hands, fncMoneyOf)});
+                               .Points = fncMoneyOver(sheet, sheet.Hands.From, sheet.Hands.To)});
 }
 
 /// The base line, with a step behind the hand after which the stake changed.
 void prcAddStake(Sheet& sheet, bool blnNamed) {
   const Reach& hands = sheet.Hands;
-  std::vector<ChartPoint> points;
+  std::vector<ChartPoint> points{fncAt(hands.From, sheet.fncPoint(hands.From).Stake)};
   const auto stepTo = [&](int hand, double stake) {
-    if (points.back().Y != fncFloat(stake)) {
-      points.push_back({fncFloat(hand), points.back().Y});
-      points.push_back({fncFloat(hand), fncFloat(stake)});
+    if (points.back().Y != stake) {
+      points.push_back(fncAt(hand, points.back().Y));
+      points.push_back(fncAt(hand, stake));
     }
   };
-  points.push_back({fncFloat(hands.From), fncFloat(sheet.fncPoint(hands.From).Stake)});
   for (int hand = hands.From; hand < hands.To; ++hand) {
     stepTo(hand, sheet.fncPoint(hand + 1).Stake);
   }
   if (sheet.fncGoesOn()) {
     stepTo(hands.To, fncStakeNow(sheet.Seat));
   }
-  if (points.back().X != fncFloat(hands.To)) {
-    points.push_back({fncFloat(hands.To), points.back().Y});
+  if (const ChartPoint end = fncAt(hands.To, points.back().Y); points.back() != end) {
+    points.push_back(end);
   }
   sheet.Chart.Lines.push_back({.Name = blnNamed ? "Stake" : "",
                                .Ink = clrStake,
@@ -80,20 +81,26 @@ void prcAddStake(Sheet& sheet, bool blnNamed) {
                                .Points = std::move(points)});
 }
 
+/// The bands as far as they are reckoned. In a long evening not every hand has its edges: they
+/// change little from one to the next.
 void prcAddBands(Sheet& sheet, bool blnNamed) {
   struct Row {
     const char* Name;
     std::size_t Low, High;
   };
+  const int last = sheet.Hands.From + fncReckoning(sheet.Shoe).Hands;
+  const int step = std::max((last - sheet.Hands.From) / intMostSpans, 1);
   for (const Row& row : {Row{"90 of 100 players", 0, 3}, Row{"50 of 100 players", 1, 2}}) {
     ChartBand band{.Name = blnNamed ? row.Name : "",
                    .Tint = clrSeats.at(static_cast<std::size_t>(sheet.Seat))};
-    band.Spans.reserve(static_cast<std::size_t>(sheet.Hands.To - sheet.Hands.From) + 1);
-    for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
+    const auto add = [&](int hand) {
       const auto& edges = sheet.fncPoint(hand).Band;
-      band.Spans.push_back(
-          {fncFloat(hand), fncFloat(edges.at(row.Low)), fncFloat(edges.at(row.High))});
+      band.Spans.push_back({static_cast<double>(hand), edges.at(row.Low), edges.at(row.High)});
+    };
+    for (int hand = sheet.Hands.From; hand < last; hand += step) {
+      add(hand);
     }
+    add(last);
     sheet.Chart.Bands.push_back(std::move(band));
   }
 }
@@ -110,16 +117,14 @@ void prcAddMarks(Sheet& sheet) {
   }
   const Stretch run = fncLongestLosingRun(sheet.Seat, sheet.Shoe);
   if (run.Amount > 0) {
-    sheet.Chart.Lines.push_back({.Ink = clrLoss,
-                                 .Width = dblRunWidth,
-                                 .Points = fncPoints(sheet, {run.From, run.To}, fncMoneyOf)});
+    sheet.Chart.Lines.push_back(
+        {.Ink = clrLoss, .Width = dblRunWidth, .Points = fncMoneyOver(sheet, run.From, run.To)});
     sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
                                  std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
   }
   for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
-    const bool blnReset = hand < sheet.Hands.To
-                              ? colEveningHands[static_cast<std::size_t>(hand)].Reset
-                              : sheet.fncGoesOn() && fncResetSince();
+    const bool blnReset = hand < sheet.Hands.To ? fncEveningHand(hand + 1).Reset
+                                                : sheet.fncGoesOn() && fncResetSince();
     if (blnReset) {
       sheet.Chart.Marks.push_back({sheet.fncMoney(hand), clrStake, "Statistics reset"});
     }
@@ -129,11 +134,19 @@ void prcAddMarks(Sheet& sheet) {
 void prcAddShoes(ChartData& chart, Reach reach) {
   int shoe = 0;
   for (int hand = reach.From; hand < reach.To; ++hand) {
-    if (const int of = colEveningHands[static_cast<std::size_t>(hand)].Shoe; of != shoe) {
+    if (const int of = fncEveningHand(hand + 1).Shoe; of != shoe) {
       shoe = of;
-      chart.Ticks.push_back({fncFloat(hand), "Shoe " + std::to_string(shoe)});
+      chart.Ticks.push_back({static_cast<double>(hand), "Shoe " + std::to_string(shoe)});
     }
   }
+}
+
+/// Whether a seat has owned or staked more than can be drawn.
+bool fncTooMuch() {
+  const auto much = [](double money) { return std::abs(money) > dblMostDrawn; };
+  return std::ranges::any_of(colEveningHands, [&](const EveningHand& hand) {
+    return std::ranges::any_of(hand.Money, much) || std::ranges::any_of(hand.Stake, much);
+  });
 }
 
 std::string fncSeatSentence(const Scope& scope, int seat) {
@@ -163,7 +176,7 @@ std::string fncSeatSentence(const Scope& scope, int seat) {
 
 std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
   auto chart = std::make_shared<ChartData>();
-  if (colEveningHands.empty()) {
+  if (colEveningHands.empty() || fncTooMuch()) {
     return chart;
   }
   chart->AxisName = "Hand";
@@ -193,6 +206,9 @@ std::string fncCourseSentence(const Scope& scope) {
   if (reach.To == reach.From) {
     return "Course of the money: no hand has been settled yet.";
   }
+  if (fncTooMuch()) {
+    return "Course of the money: amounts beyond " + fncCurrency(dblMostDrawn) + " are not drawn.";
+  }
   std::string sentence =
       "Course of the money over " + fncCounted(reach.To - reach.From, "hand") + ".";
   for (int seat = 0; seat < intSeats; ++seat) {
@@ -211,7 +227,7 @@ std::string fncHandSentence(int number) {
   if (number == 0) {
     return "Before the first hand";
   }
-  const EveningHand& hand = colEveningHands.at(static_cast<std::size_t>(number) - 1);
+  const EveningHand& hand = fncEveningHand(number);
   const std::string totals = std::to_string(fncTotalOf(hand, Side::Player)) + " to " +
                              std::to_string(fncTotalOf(hand, Side::Banker));
   std::string sentence = "Hand " + std::to_string(number) + ", shoe " + std::to_string(hand.Shoe) +

@@ -1,11 +1,12 @@
 #include "evening/Csv.h"
 
+#include "evening/HandWords.h"
 #include "evening/Reasons.h"
+#include "evening/Record.h"
 #include "platform/Texts.h"
 
 namespace {
 
-/// The order in which cards and bets of a seat go into a row.
 constexpr const char* strHeadings =
     "Hand,Shoe,Decks,Player cards,Banker cards,Player total,Banker total,Result,Decisions,Chip "
     "value,"
@@ -30,10 +31,6 @@ std::string fncDecisions(const EveningHand& hand) {
   return decisions;
 }
 
-const char* fncResultName(char result) {
-  return result == 'B' ? "Banker" : result == 'P' ? "Player" : "Tie";
-}
-
 std::string fncSeatFields(const EveningHand& hand, int i) {
   const auto seat = static_cast<std::size_t>(i);
   std::string fields;
@@ -46,13 +43,14 @@ std::string fncSeatFields(const EveningHand& hand, int i) {
 }
 
 std::string fncRow(int number) {
-  const EveningHand& hand = colEveningHands.at(static_cast<std::size_t>(number) - 1);
+  const EveningHand& hand = fncEveningHand(number);
   std::string row;
   for (const std::string& field :
        {std::to_string(number), std::to_string(hand.Shoe), std::to_string(hand.Decks),
-        fncCardsBrief(hand, Side::Player), fncCardsBrief(hand, Side::Banker),
+        fncCardsBrief(hand, Side::Player, strSuitLetters),
+        fncCardsBrief(hand, Side::Banker, strSuitLetters),
         std::to_string(fncTotalOf(hand, Side::Player)),
-        std::to_string(fncTotalOf(hand, Side::Banker)), std::string(fncResultName(hand.Result)),
+        std::to_string(fncTotalOf(hand, Side::Banker)), fncResultName(hand.Result),
         fncQuoted(fncDecisions(hand)), fncPlainNumberText(hand.ChipValue)}) {
     row += field + ',';
   }
@@ -61,23 +59,6 @@ std::string fncRow(int number) {
 }
 
 }  // namespace
-
-std::string fncCardBrief(int intCard) {
-  static constexpr std::array<const char*, 13> strRanks{"A", "2", "3",  "4", "5", "6", "7",
-                                                        "8", "9", "10", "J", "Q", "K"};
-  if (intCard == 0) {
-    return {};
-  }
-  const auto slot = static_cast<std::size_t>(intCard - 1);
-  return strRanks.at(slot % strRanks.size()) + std::string(1, "SCDH"[slot / strRanks.size() % 4]);
-}
-
-std::string fncCardsBrief(const EveningHand& hand, Side side) {
-  const std::size_t first = side == Side::Player ? 0 : 3;
-  std::string cards =
-      fncCardBrief(hand.Cards.at(first)) + ' ' + fncCardBrief(hand.Cards.at(first + 1));
-  return fncCardsOf(hand, side) == 2 ? cards : cards + ' ' + fncCardBrief(hand.Cards.at(first + 2));
-}
 
 std::string fncHandsCsv(std::span<const int> intHands) {
   std::string rows = strHeadings;

@@ -2,62 +2,20 @@
 
 #include <algorithm>
 
-#include "evening/Law.h"
+#include "evening/Reckoning.h"
 
 namespace {
 
-/// What players who bet the same win up to a hand, in money.
-struct Band {
-  float Mean = 0;
-  std::array<float, 4> Edges{};
-};
-
-/// The bands of a seat behind each hand of a reach so far, and the law behind the last of them.
-struct Bands {
-  SumLaw Law;
-  std::deque<Band> ByHand;
-};
-std::array<Bands, intSeats> bands;  ///< Of the whole evening.
-
-const EveningHand& fncHand(int number) {
-  return colEveningHands[static_cast<std::size_t>(number) - 1];
-}
-
-/// Works out the bands of the hands that came since they were last asked for.
-void prcExtend(Bands& of, Integer intSeat, Reach reach) {
-  for (int n = reach.From + static_cast<int>(of.ByHand.size()) + 1; n <= reach.To; ++n) {
-    prcAddHand(of.Law, fncHandLaw(fncHand(n), intSeat));
-    Band band{.Mean = static_cast<float>(of.Law.Mean)};
-    std::ranges::transform(fncQuantiles(of.Law, dblBandShares), band.Edges.begin(),
-                           [](double edge) { return static_cast<float>(edge); });
-    of.ByHand.push_back(band);
-  }
-}
-
 /// A band lies around the money that the seat would own had its bets moved none.
-CurvePoint fncPoint(const EveningHand& hand, Integer intSeat, double won, const Band& band) {
+CurvePoint fncPoint(const EveningHand& hand, Integer intSeat, double won, const BandEdges& band) {
   const auto seat = static_cast<std::size_t>(intSeat);
-  const double unmoved = hand.Money.at(seat) - won;
-  CurvePoint point{.Money = hand.Money.at(seat),
-                   .Stake = hand.Stake.at(seat),
-                   .Expected = unmoved + double{band.Mean}};
-  std::ranges::transform(band.Edges, point.Band.begin(),
-                         [&](float edge) { return unmoved + double{edge}; });
+  CurvePoint point{.Money = hand.Money.at(seat), .Stake = hand.Stake.at(seat)};
+  std::ranges::transform(band, point.Band.begin(),
+                         [&](float edge) { return point.Money - won + double{edge}; });
   return point;
 }
 
 }  // namespace
-
-Reach fncReach(int shoe) {
-  if (shoe == 0) {
-    return {0, static_cast<int>(colEveningHands.size())};
-  }
-  const auto shoeOf = [](const EveningHand& hand) { return int{hand.Shoe}; };
-  const auto from = std::ranges::lower_bound(colEveningHands, shoe, {}, shoeOf);
-  const auto to = std::ranges::upper_bound(colEveningHands, shoe, {}, shoeOf);
-  return {static_cast<int>(from - colEveningHands.begin()),
-          static_cast<int>(to - colEveningHands.begin())};
-}
 
 std::vector<CurvePoint> fncCurve(Integer intSeat, int shoe) {
   std::vector<CurvePoint> curve;
@@ -65,18 +23,18 @@ std::vector<CurvePoint> fncCurve(Integer intSeat, int shoe) {
   if (reach.From == reach.To) {
     return curve;
   }
-  Bands ofShoe;
-  Bands& of = shoe == 0 ? bands.at(static_cast<std::size_t>(intSeat)) : ofShoe;
-  prcExtend(of, intSeat, reach);
-  curve.reserve(of.ByHand.size() + 1);
-  EveningHand start = fncHand(reach.From + 1);
+  const std::deque<BandEdges>& bands =
+      fncReckoning(shoe).Band.at(static_cast<std::size_t>(intSeat));
+  curve.reserve(static_cast<std::size_t>(reach.To - reach.From) + 1);
+  EveningHand start = fncEveningHand(reach.From + 1);
   start.Money.at(static_cast<std::size_t>(intSeat)) = fncMoneyBefore(start, intSeat);
   curve.push_back(fncPoint(start, intSeat, 0, {}));
   double won = 0;
-  for (const Band& band : of.ByHand) {
-    const EveningHand& hand = fncHand(reach.From + static_cast<int>(curve.size()));
+  for (int number = reach.From + 1; number <= reach.To; ++number) {
+    const EveningHand& hand = fncEveningHand(number);
     won += fncNet(hand, intSeat);
-    curve.push_back(fncPoint(hand, intSeat, won, band));
+    const std::size_t at = curve.size() - 1;
+    curve.push_back(fncPoint(hand, intSeat, won, at < bands.size() ? bands[at] : BandEdges{}));
   }
   return curve;
 }
@@ -87,7 +45,7 @@ Stretch fncDeepestFall(Integer intSeat, int shoe) {
   double won = 0, height = 0;
   int top = reach.From;
   for (int number = reach.From + 1; number <= reach.To; ++number) {
-    won += fncNet(fncHand(number), intSeat);
+    won += fncNet(fncEveningHand(number), intSeat);
     if (won >= height) {
       height = won;
       top = number;
@@ -102,7 +60,7 @@ Stretch fncLongestLosingRun(Integer intSeat, int shoe) {
   const Reach reach = fncReach(shoe);
   Stretch longest, run;
   for (int number = reach.From + 1; number <= reach.To; ++number) {
-    const double net = fncNet(fncHand(number), intSeat);
+    const double net = fncNet(fncEveningHand(number), intSeat);
     if (net > 0) {
       run = {};
     } else if (net < 0) {
@@ -112,5 +70,3 @@ Stretch fncLongestLosingRun(Integer intSeat, int shoe) {
   }
   return longest;
 }
-
-void prcForgetCurve() { bands = {}; }

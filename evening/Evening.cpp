@@ -2,10 +2,9 @@
 
 #include "evening/Bets.h"
 #include "evening/Course.h"
-#include "evening/Curve.h"
 #include "evening/EveningMenu.h"
 #include "evening/Hands.h"
-#include "evening/Record.h"
+#include "evening/Reckoning.h"
 #include "table/Hooks.h"
 
 namespace {
@@ -28,7 +27,7 @@ void prcStatisticsReset() {
 void prcStartEvening() {
   prcForgetHands();
   prcForgetBets();
-  prcForgetCurve();
+  prcForgetReckoning();
   prcPrepareHands();
   prcPrepareCourse();
   hooks = {.HandSettled = prcHandSettled,

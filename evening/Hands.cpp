@@ -5,8 +5,9 @@
 #include <string>
 
 #include "evening/Csv.h"
+#include "evening/HandRows.h"
+#include "evening/HandWords.h"
 #include "evening/Reasons.h"
-#include "evening/Record.h"
 #include "platform/Grid.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
@@ -22,125 +23,11 @@ constexpr Colour clrIvory{255, 253, 245};
 constexpr Colour clrGold{230, 196, 90};
 constexpr Colour clrFelt{34, 120, 84};
 
-// --- The rows: a hand is named by its number from 1 ---
-
-enum Columns : int {
-  colNumber,
-  colShoe,
-  colPlayerCards,
-  colPlayerTotal,
-  colBankerCards,
-  colBankerTotal,
-  colResult,
-  colFirstSeat  ///< Bets and money of seat 0, then of seat 1.
-};
-
-constexpr GridColumn gridColumns[] = {
-    {"Hand", 690, Alignment::Right},
-    {"Shoe", 660, Alignment::Right},
-    {"  Player", 1275},
-    {"", 300, Alignment::Right},
-    {"  Banker", 1275},
-    {"", 300, Alignment::Right},
-    {"  Result", 930},
-    {"  Bets of Player 1", 1800},
-    {"Money", 1155, Alignment::Right},
-    {"  Bets of Player 2", 1800},
-    {"Money", 1155, Alignment::Right},
-};
-
-constexpr std::array<const char*, 4> strSuitSigns{"\u2660", "\u2663", "\u2666", "\u2665"};
-
-const EveningHand& fncHand(int number) {
-  return colEveningHands.at(static_cast<std::size_t>(number) - 1);
-}
-
-/// A card as the list shows it, such as "10\u2665".
-std::string fncCardSign(int card) {
-  constexpr std::array<const char*, 4> named{"A", "J", "Q", "K"};
-  const int value = (card - 1) % 13 + 1;
-  const std::string name = value == 1   ? named[0]
-                           : value > 10 ? named.at(static_cast<std::size_t>(value) - 10)
-                                        : std::to_string(value);
-  return name + strSuitSigns.at(static_cast<std::size_t>((card - 1) / 13));
-}
-
-std::string fncCardSigns(const EveningHand& hand, Side side) {
-  std::string signs = " ";
-  const int first = side == Side::Banker ? 3 : 0;
-  for (int at = first; at < first + fncCardsOf(hand, side); ++at) {
-    signs += " " + fncCardSign(hand.Cards.at(static_cast<std::size_t>(at)));
-  }
-  return signs;
-}
-
-std::string fncResultName(char result) {
-  return result == 'B' ? "Banker" : result == 'P' ? "Player" : "Tie";
-}
-
-std::string fncBets(const EveningHand& hand, int seat) {
-  std::string bets;
-  for (const auto& [side, letter] :
-       {std::pair{betBanker, "B "}, std::pair{betPlayer, "P "}, std::pair{betTie, "T "}}) {
-    if (const double money = fncBetMoney(hand, seat, side); money != 0) {
-      bets += std::string("  ") + letter + fncCurrency(money);
-    }
-  }
-  return bets;
-}
-
-std::string fncCell(std::int32_t number, int column) {
-  const EveningHand& hand = fncHand(number);
-  switch (column) {
-    case colNumber:
-      return std::to_string(number);
-    case colShoe:
-      return std::to_string(hand.Shoe);
-    case colPlayerCards:
-      return fncCardSigns(hand, Side::Player);
-    case colPlayerTotal:
-      return std::to_string(fncTotalOf(hand, Side::Player));
-    case colBankerCards:
-      return fncCardSigns(hand, Side::Banker);
-    case colBankerTotal:
-      return std::to_string(fncTotalOf(hand, Side::Banker));
-    case colResult:
-      return "  " + fncResultName(hand.Result);
-    default:
-      break;
-  }
-  const int seat = (column - colFirstSeat) / 2;
-  return (column - colFirstSeat) % 2 == 0
-             ? fncBets(hand, seat)
-             : fncCurrency(hand.Money.at(static_cast<std::size_t>(seat)));
-}
-
-Colour fncInk(std::int32_t number, int column) {
-  return fncMoneyInk(column < colFirstSeat ? 0
-                                           : fncNet(fncHand(number), (column - colFirstSeat) / 2));
-}
-
-bool fncWanted(const EveningHand& hand) {
+HandFilter fncFilter() {
   constexpr std::array<char, 4> letters{0, 'B', 'P', 'T'};
-  const int shoe = fncChosenShoe(frmHands.Shoe);
-  if (shoe != 0 && hand.Shoe != shoe) {
-    return false;
-  }
   const auto chosen = std::ranges::find(frmHands.optResult, 1, &Control::Value);
-  const char letter = letters.at(static_cast<std::size_t>(chosen - frmHands.optResult.begin()));
-  return letter == 0 || hand.Result == letter;
-}
-
-std::vector<std::int32_t> fncWantedHands() {
-  std::vector<std::int32_t> numbers;
-  std::int32_t number = 0;
-  for (const EveningHand& hand : colEveningHands) {
-    ++number;
-    if (fncWanted(hand)) {
-      numbers.push_back(number);
-    }
-  }
-  return numbers;
+  return {fncChosenShoe(frmHands.Shoe),
+          letters.at(static_cast<std::size_t>(chosen - frmHands.optResult.begin()))};
 }
 
 // --- The chosen hand ---
@@ -180,7 +67,7 @@ void prcShowChosen() {
     w.lblReasons.Text.clear();
     return;
   }
-  const EveningHand& hand = fncHand(number);
+  const EveningHand& hand = fncEveningHand(number);
   prcShowSide(hand, Side::Player);
   prcShowSide(hand, Side::Banker);
   w.lblHand.Text = "Hand " + std::to_string(number) + ", shoe " + std::to_string(hand.Shoe) +
@@ -197,11 +84,7 @@ void prcFill(bool blnLast) {
   HandsWindow& w = frmHands;
   const int before = fncChosenHand();
   prcShowShoeChoice(w.Shoe);
-  auto grid = std::make_shared<GridData>();
-  grid->Columns = gridColumns;
-  grid->Rows = fncWantedHands();
-  grid->Cell = fncCell;
-  grid->Ink = fncInk;
+  std::shared_ptr<const GridData> grid = fncHandRows(fncFilter());
   const auto at = std::ranges::lower_bound(grid->Rows, before);
   const bool blnKept = !blnLast && at != grid->Rows.end() && *at == before;
   w.grdHands.ListIndex =
@@ -341,7 +224,7 @@ void prcShowHands() {
 void prcShowHand(int number) {
   HandsWindow& w = frmHands;
   prcLoad(w.Form);
-  if (!fncWanted(fncHand(number))) {
+  if (!fncFilter().fncWants(fncEveningHand(number))) {
     w.Shoe.sldShoe.Value = 0;
     for (Control& option : w.optResult) {
       option.Value = &option == &w.optResult[0] ? 1 : 0;

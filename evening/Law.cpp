@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <numeric>
 
@@ -24,7 +25,7 @@ std::array<double, 3> fncChances(int decks) {
 std::int64_t fncLeast(const HandLaw& hand) { return *std::ranges::min_element(hand.Net); }
 
 /// How far the hand can reach on the grid from its least result, in twentieths.
-std::int64_t fncReach(const HandLaw& hand) {
+std::int64_t fncSpan(const HandLaw& hand) {
   return *std::ranges::max_element(hand.Net) - fncLeast(hand);
 }
 
@@ -107,32 +108,31 @@ void prcCoarsen(SumLaw& law) {
   law.Low -= law.Step;
 }
 
-/// Adds the law, moved on by whole points, in a proportion.
-void prcShift(const std::vector<double>& from, std::vector<double>& to, std::size_t points,
-              double part) {
-  for (std::size_t i = 0; i < from.size(); ++i) {
-    to[i + points] += from[i] * part;
+/// A point of what is split reaches one point back and two on.
+constexpr std::size_t lngSplit = 3;
+
+/// Adds shares with lngSplit empty points at either end, each split in these parts.
+void prcAddSplit(const std::vector<double>& from, const std::array<double, 4>& parts, double* to) {
+  const auto [first, second, third, fourth] = parts;
+  for (std::size_t i = 0; i + lngSplit < from.size(); ++i) {
+    to[i] += from[i] * fourth + from[i + 1] * third + from[i + 2] * second + from[i + 3] * first;
   }
 }
 
 void prcConvolve(SumLaw& law, const HandLaw& hand) {
-  // One point before the first and two behind the last take what is split.
-  std::vector<double> share(law.Share.size() + static_cast<std::size_t>(fncReach(hand) / law.Step) +
-                            3);
+  std::vector<double> before(law.Share.size() + 2 * lngSplit);
+  std::ranges::copy(law.Share, before.begin() + lngSplit);
+  const auto reach = static_cast<std::size_t>(fncSpan(hand) / law.Step);
+  law.Share.assign(law.Share.size() + lngSplit + reach, 0);
   for (std::size_t n = 0; n < hand.Net.size(); ++n) {
     const std::int64_t moved = hand.Net.at(n) - fncLeast(hand);
-    const auto points = static_cast<std::size_t>(moved / law.Step);
-    const std::int64_t rest = moved % law.Step;
-    if (rest == 0) {
-      prcShift(law.Share, share, points + 1, hand.Chance.at(n));
-      continue;
+    std::array<double, 4> parts =
+        fncSplit(static_cast<double>(moved % law.Step) / static_cast<double>(law.Step));
+    for (double& part : parts) {
+      part *= hand.Chance.at(n);
     }
-    const auto split = fncSplit(static_cast<double>(rest) / static_cast<double>(law.Step));
-    for (std::size_t i = 0; i < split.size(); ++i) {
-      prcShift(law.Share, share, points + i, hand.Chance.at(n) * split.at(i));
-    }
+    prcAddSplit(before, parts, law.Share.data() + moved / law.Step);
   }
-  law.Share = std::move(share);
   law.Low -= law.Step;
 }
 
@@ -167,17 +167,13 @@ HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat) {
   return law;
 }
 
-HandLaw fncHandLaw(const EveningHand& hand) {
-  HandLaw law = fncHandLaw(hand, 0);
-  const HandLaw other = fncHandLaw(hand, 1);
-  for (std::size_t n = 0; n < law.Net.size(); ++n) {
-    law.Net.at(n) += other.Net.at(n);
-  }
-  return law;
+HandLaw fncTogether(HandLaw seat, const HandLaw& other) {
+  std::ranges::transform(seat.Net, other.Net, seat.Net.begin(), std::plus());
+  return seat;
 }
 
 void prcAddHand(SumLaw& law, const HandLaw& hand) {
-  if (fncReach(hand) == 0 && fncLeast(hand) == 0) {
+  if (hand.fncEmpty()) {
     return;
   }
   prcAddMoments(law, hand);
@@ -188,7 +184,7 @@ void prcAddHand(SumLaw& law, const HandLaw& hand) {
     }
     return;
   }
-  while (!fncFits(law, fncReach(hand))) {
+  while (!fncFits(law, fncSpan(hand))) {
     prcCoarsen(law);
   }
   prcConvolve(law, hand);

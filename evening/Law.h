@@ -15,13 +15,14 @@ inline constexpr int intTwentieths = 20;
 struct HandLaw {
   std::array<std::int64_t, 3> Net{};  ///< Banker, Player, Tie.
   std::array<double, 3> Chance{};
+  bool fncEmpty() const { return Net == decltype(Net){}; }  ///< No bet, or none that can move.
 };
 
 /// What the bets of one seat 0..1 win, or lose, by the odds of a full shoe of the hand's size.
 HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat);
 
-/// The bets of both seats, which win and lose on the same cards.
-HandLaw fncHandLaw(const EveningHand& hand);
+/// Bets of two seats, which win and lose on the same cards.
+HandLaw fncTogether(HandLaw seat, const HandLaw& other);
 
 /// One result of a sum, in twentieths, and its chance.
 struct Atom {

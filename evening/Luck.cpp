@@ -3,62 +3,46 @@
 #include <algorithm>
 #include <cmath>
 
-#include "evening/Law.h"
+#include "evening/Reckoning.h"
 #include "table/Odds.h"
 
 namespace {
 
-/// Points of a law times hands that are reckoned without being felt, and the least and most points
-/// that a law gets of them.
-constexpr std::size_t lngPointsAndHands = 8'000'000;
-constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 20U;
-
-/// The bets of a scope, hand by hand.
-std::vector<HandLaw> fncLaws(const Scope& scope, Luck& luck) {
-  std::vector<HandLaw> laws;
-  for (const EveningHand& hand : colEveningHands) {
-    if (scope.Shoe != 0 && hand.Shoe != scope.Shoe) {
-      continue;
-    }
-    double staked = 0;
-    for (int i = 0; i < intSeats; ++i) {
-      if (scope.Seat >= 0 && scope.Seat != i) {
-        continue;
-      }
-      luck.Won += fncNet(hand, i);
-      staked += fncStaked(hand, i);
-      for (const BetSide side : betSides) {
-        const double bet = fncBetMoney(hand, i, side);
-        const auto at = static_cast<std::size_t>(side);
-        luck.Staked.at(at) += bet;
-        luck.Cost.at(at) += bet * fncEdge(fncOdds(hand.Decks), side);
-      }
-    }
-    if (staked > 0) {
-      laws.push_back(scope.Seat < 0 ? fncHandLaw(hand) : fncHandLaw(hand, scope.Seat));
-    }
+void prcCountSeat(Luck& luck, const EveningHand& hand, int seat) {
+  luck.Won += fncNet(hand, seat);
+  for (const BetSide side : betSides) {
+    const double bet = fncBetMoney(hand, seat, side);
+    luck.Staked.at(static_cast<std::size_t>(side)) += bet;
+    luck.Cost.at(static_cast<std::size_t>(side)) += bet * fncEdge(fncOdds(hand.Decks), side);
   }
-  return laws;
 }
 
-SumLaw fncSum(const std::vector<HandLaw>& laws, std::size_t most) {
-  SumLaw sum{.Most = most};
-  for (const HandLaw& law : laws) {
-    prcAddHand(sum, law);
+/// What was staked and won, which needs no law.
+void prcCount(Luck& luck, const Scope& scope) {
+  const Reach reach = fncReach(scope.Shoe);
+  for (int n = reach.From; n < reach.To; ++n) {
+    const EveningHand& hand = fncEveningHand(n + 1);
+    double staked = 0;
+    for (int seat = 0; seat < intSeats; ++seat) {
+      if (scope.Seat < 0 || scope.Seat == seat) {
+        prcCountSeat(luck, hand, seat);
+        staked += fncStaked(hand, seat);
+      }
+    }
+    luck.Hands += staked > 0 ? 1 : 0;
   }
-  return sum;
 }
 
 /// The places among those who bet the same. A grid is off by what it differs from one at least
 /// twice as coarse, and cannot tell who came out just the same from who came near.
-void prcCompare(Luck& luck, const std::vector<HandLaw>& laws, const SumLaw& sum) {
+void prcCompare(Luck& luck, const BetLaw& law) {
   const std::int64_t won = std::llround(luck.Won * intTwentieths);
-  luck.Worse = std::clamp(fncShareBelow(sum, won), 0.0, 1.0);
-  luck.Better = std::max(1 - luck.Worse - fncShareAt(sum, won), 0.0);
-  luck.Exact = sum.fncExact();
+  luck.Worse = std::clamp(fncShareBelow(law.Sum, won), 0.0, 1.0);
+  luck.Better = std::max(1 - luck.Worse - fncShareAt(law.Sum, won), 0.0);
+  luck.Exact = law.Sum.fncExact();
   if (!luck.Exact) {
-    luck.Error = std::abs(luck.Worse - fncShareBelow(fncSum(laws, sum.Most / 4), won)) +
-                 fncShareNear(sum, won) / 2;
+    luck.Error =
+        std::abs(luck.Worse - fncShareBelow(law.Coarse, won)) + fncShareNear(law.Sum, won) / 2;
   }
 }
 
@@ -66,17 +50,18 @@ void prcCompare(Luck& luck, const std::vector<HandLaw>& laws, const SumLaw& sum)
 
 Luck fncLuck(const Scope& scope) {
   Luck luck;
-  const std::vector<HandLaw> laws = fncLaws(scope, luck);
-  if (laws.empty()) {
+  prcCount(luck, scope);
+  const Reckoning& reckoning = fncReckoning(scope.Shoe);
+  const Reach reach = fncReach(scope.Shoe);
+  luck.Reckoned = reckoning.Hands == reach.To - reach.From;
+  if (!luck.Reckoned || luck.Hands == 0) {
     return luck;
   }
-  luck.Hands = static_cast<int>(laws.size());
-  const SumLaw sum =
-      fncSum(laws, std::clamp(lngPointsAndHands / laws.size(), lngLeastPoints, lngMostPoints));
-  luck.Expected = sum.Mean;
+  const BetLaw& law = reckoning.fncLaw(scope.Seat);
+  luck.Expected = law.Sum.Mean;
   luck.Fortune = luck.Won - luck.Expected;
-  luck.Deviation = std::sqrt(sum.Variance);
+  luck.Deviation = std::sqrt(law.Sum.Variance);
   luck.Deviations = luck.Deviation > 0 ? luck.Fortune / luck.Deviation : 0;
-  prcCompare(luck, laws, sum);
+  prcCompare(luck, law);
   return luck;
 }

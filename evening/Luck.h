@@ -17,6 +17,7 @@ struct Luck {
   std::array<double, 3> Staked{};  ///< A bet counts on every hand it stands.
   std::array<double, 3> Cost{};    ///< What the house edge takes of that on average.
   double Won = 0;                  ///< Wins less losses.
+  bool Reckoned = false;           ///< What follows is known: all hands are in the reckoning.
   double Expected = 0;             ///< All three costs, as the loss they are.
   double Fortune = 0;              ///< Won less expected.
   double Deviation = 0;            ///< The standard deviation of what could have been won.
@@ -27,5 +28,6 @@ struct Luck {
   double Error = 0;                ///< How far they may be off where they are not.
 };
 
-/// The luck of a scope. A fresh shoe of the hand's size gives the odds of every hand.
+/// The luck of a scope, as far as it has been reckoned. A fresh shoe of the hand's size gives the
+/// odds of every hand.
 Luck fncLuck(const Scope& scope);

@@ -58,8 +58,11 @@ std::string fncLuckWords(const Scope& scope, const Luck& luck) {
     return fncWho(scope) + ": no bets.";
   }
   const double staked = std::accumulate(luck.Staked.begin(), luck.Staked.end(), 0.0);
-  return fncWho(scope) + ": " + fncCounted(luck.Hands, "hand") + " with a bet." + strLineBreak +
-         "Staked " + fncCurrency(staked) + "; on average the house keeps " +
+  const std::string hands = fncWho(scope) + ": " + fncCounted(luck.Hands, "hand") + " with a bet.";
+  if (!luck.Reckoned) {
+    return hands + strLineBreak + "The luck of that is being reckoned...";
+  }
+  return hands + strLineBreak + "Staked " + fncCurrency(staked) + "; on average the house keeps " +
          fncCurrency(-luck.Expected) + " of that." + strLineBreak + fncFortune(luck) +
          strLineBreak + "Of 100 players with the same bets " + fncOfHundred(luck.Worse) +
          " would have done worse, " + fncOfHundred(luck.Better) + " better." + strLineBreak +

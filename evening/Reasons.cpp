@@ -20,8 +20,8 @@ std::vector<std::string> fncNaturalReasons(int player, int banker) {
 }  // namespace
 
 std::vector<std::string> fncReasons(const EveningHand& hand) {
-  const int player = fncTotalOf(hand, Side::Player, 2);
-  const int banker = fncTotalOf(hand, Side::Banker, 2);
+  const int player = fncTotalOf(fncCardsOf(hand, Side::Player).first(2));
+  const int banker = fncTotalOf(fncCardsOf(hand, Side::Banker).first(2));
   if (fncNatural(player) || fncNatural(banker)) {
     return fncNaturalReasons(player, banker);
   }

@@ -12,7 +12,7 @@ std::deque<EveningHand> colEveningHands;
 
 namespace {
 
-constexpr int intCardsOfSide = 3;
+constexpr std::size_t lngCardsOfSide = 3;
 
 bool blnResetSince = false;  ///< The statistics were reset since the last hand.
 
@@ -47,15 +47,16 @@ void prcNoteSeat(EveningHand& hand, Integer i) {
 
 }  // namespace
 
-int fncCardsOf(const EveningHand& hand, Side side) {
-  return hand.Cards.at(side == Side::Player ? 2 : 5) == 0 ? 2 : 3;
+std::span<const std::uint8_t> fncCardsOf(const EveningHand& hand, Side side) {
+  const std::size_t first = side == Side::Player ? 0 : lngCardsOfSide;
+  const std::size_t last = first + lngCardsOfSide - 1;
+  return std::span(hand.Cards).subspan(first, lngCardsOfSide - (hand.Cards.at(last) == 0 ? 1 : 0));
 }
 
-int fncTotalOf(const EveningHand& hand, Side side, int intCards) {
-  const auto first = side == Side::Player ? 0U : intCardsOfSide;
+int fncTotalOf(std::span<const std::uint8_t> cards) {
   Integer total = 0;
-  for (unsigned n = first; n < first + static_cast<unsigned>(intCards); ++n) {
-    total = fncTotal(total, fncCardPoint(fncFaceValue(hand.Cards.at(n))));
+  for (const std::uint8_t card : cards) {
+    total = fncTotal(total, fncCardPoint(fncFaceValue(card)));
   }
   return total;
 }
@@ -76,8 +77,12 @@ double fncNet(const EveningHand& hand, Integer intSeat, char result) {
   const std::string letter(1, result);
   double net = 0;
   for (const BetSide side : betSides) {
+    const std::int16_t chips = hand.Chips.at(fncAt(intSeat)).at(fncAt(side));
+    if (chips == 0) {
+      continue;
+    }
     if (fncWins(side, letter)) {
-      net += hand.Chips.at(fncAt(intSeat)).at(fncAt(side)) * hand.ChipValue * fncPays(side);
+      net += chips * hand.ChipValue * fncPays(side);
     } else if (fncLoses(side, letter)) {
       net -= fncBetMoney(hand, intSeat, side);
     }
@@ -86,6 +91,17 @@ double fncNet(const EveningHand& hand, Integer intSeat, char result) {
 }
 
 int fncEveningShoes() { return colEveningHands.empty() ? 0 : colEveningHands.back().Shoe; }
+
+Reach fncReach(int shoe) {
+  if (shoe == 0) {
+    return {0, static_cast<int>(colEveningHands.size())};
+  }
+  const auto shoeOf = [](const EveningHand& hand) { return int{hand.Shoe}; };
+  const auto from = std::ranges::lower_bound(colEveningHands, shoe, {}, shoeOf);
+  const auto to = std::ranges::upper_bound(colEveningHands, shoe, {}, shoeOf);
+  return {static_cast<int>(from - colEveningHands.begin()),
+          static_cast<int>(to - colEveningHands.begin())};
+}
 
 void prcNoteHand() {
   EveningHand hand;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <span>
 
 #include "table/Bets.h"
 
@@ -26,17 +27,20 @@ struct EveningHand {
 
 /// The hands, oldest first: hand number n stands at n - 1.
 extern std::deque<EveningHand> colEveningHands;
+inline const EveningHand& fncEveningHand(int number) {
+  return colEveningHands.at(static_cast<std::size_t>(number) - 1);
+}
 
 /// The side cards are the Player's at positions 0..2 and the Banker's at 3..5.
 enum class Side : std::uint8_t { Player, Banker };
 
-/// How many of a side's three cards lay: 2 or 3.
-int fncCardsOf(const EveningHand& hand, Side side);
+/// A side's two or three cards.
+std::span<const std::uint8_t> fncCardsOf(const EveningHand& hand, Side side);
 
-/// The total 0..9 of a side's first intCards cards, 2 or 3.
-int fncTotalOf(const EveningHand& hand, Side side, int intCards);
+/// The total 0..9 of cards 1..52.
+int fncTotalOf(std::span<const std::uint8_t> cards);
 inline int fncTotalOf(const EveningHand& hand, Side side) {
-  return fncTotalOf(hand, side, fncCardsOf(hand, side));
+  return fncTotalOf(fncCardsOf(hand, side));
 }
 
 /// What a bet of a seat was paid with, in money; what its three bets were paid with.
@@ -58,6 +62,12 @@ inline double fncMoneyBefore(const EveningHand& hand, Integer intSeat) {
 
 /// Number of shoes that have dealt a hand.
 int fncEveningShoes();
+
+/// The hands of a shoe from 1, or of all for 0: from the one behind which it begins to its last.
+struct Reach {
+  int From = 0, To = 0;
+};
+Reach fncReach(int shoe);
 
 /// Adds the hand just settled on the table to the record. Reads tables, boxes and the stakes in the
 /// settings file.

@@ -7,6 +7,7 @@
 #include "evening/Curve.h"
 #include "evening/Evening.h"
 #include "evening/Luck.h"
+#include "evening/Reckoning.h"
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
@@ -58,6 +59,8 @@ void prcCountBands(EveningProof& proof, int seat) {
 }
 
 void prcCount(EveningProof& proof) {
+  while (!fncReckonOn(0)) {
+  }
   for (int seat = 0; seat < 2; ++seat) {
     prcCountBands(proof, seat);
     proof.Deviation.at(static_cast<std::size_t>(seat)) += fncLuck({.Seat = seat}).Deviations;
@@ -98,7 +101,7 @@ EveningProof fncProveEvenings(int evenings, std::uint64_t seed, const std::strin
   EveningProof proof;
   for (int evening = 0; evening < evenings; ++evening) {
     prcForgetHands();
-    prcForgetCurve();
+    prcForgetReckoning();
     for (int block = 0; block < intBlocks; ++block) {
       prcPlayBlock(block);
     }

@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/Texts.h"
+
 namespace {
 
 // Room around the lines, in twips: heights at the left, the legend above, the axis below.
-constexpr double dblLeft = 1050, dblRight = 225, dblTop = 435, dblBottom = 525;
+constexpr double dblLeast = 1050, dblRight = 225, dblTop = 435, dblBottom = 525;
+constexpr double dblLetter = 100, dblAroundText = 200;
 constexpr int intMostSteps = 7;
 
 struct Range {
@@ -19,6 +22,13 @@ struct Range {
     blnEmpty = false;
   }
 };
+
+/// Room for what a height is written as.
+double fncTextRoom(const ChartData& chart, double y) {
+  const std::string text = chart.YText != nullptr ? chart.YText(y) : fncPlainNumberText(y);
+  const auto letters = std::ranges::count_if(text, [](char part) { return (part & 0xC0) != 0x80; });
+  return static_cast<double>(letters) * dblLetter + dblAroundText;
+}
 
 }  // namespace
 
@@ -38,29 +48,34 @@ ChartPlot fncChartPlot(const Control& chart) {
   if (chart.Chart != nullptr) {
     for (const ChartLine& line : chart.Chart->Lines) {
       for (const ChartPoint& point : line.Points) {
-        x.prcTake(double{point.X});
-        y.prcTake(double{point.Y});
+        x.prcTake(point.X);
+        y.prcTake(point.Y);
       }
     }
     for (const ChartBand& band : chart.Chart->Bands) {
       for (const ChartSpan& span : band.Spans) {
-        x.prcTake(double{span.X});
-        y.prcTake(double{span.Low});
-        y.prcTake(double{span.High});
+        x.prcTake(span.X);
+        y.prcTake(span.Low);
+        y.prcTake(span.High);
       }
     }
   }
   const double span = std::max(y.High - y.Low, 1.0);
   const double step = fncChartStep(span, intMostSteps);
   const double low = std::floor(y.Low / step) * step;
-  return {dblLeft,
+  const double high = std::max(std::ceil(y.High / step) * step, low + step);
+  const double left =
+      chart.Chart == nullptr
+          ? dblLeast
+          : std::max({dblLeast, fncTextRoom(*chart.Chart, low), fncTextRoom(*chart.Chart, high)});
+  return {left,
           dblTop,
-          std::max(chart.Width - dblLeft - dblRight, 15.0),
+          std::max(chart.Width - left - dblRight, 15.0),
           std::max(chart.Height - dblTop - dblBottom, 15.0),
           x.Low,
           std::max(x.High, x.Low + 1),
           low,
-          std::max(std::ceil(y.High / step) * step, low + step)};
+          high};
 }
 
 int fncChartPointAt(const Control& chart, double x) {
@@ -71,12 +86,12 @@ int fncChartPointAt(const Control& chart, double x) {
   const std::vector<ChartPoint>& points = chart.Chart->Lines.front().Points;
   const ChartPlot plot = fncChartPlot(chart);
   const auto right = std::ranges::partition_point(
-      points, [&](const ChartPoint& point) { return plot.fncX(double{point.X}) < x; });
+      points, [&](const ChartPoint& point) { return plot.fncX(point.X) < x; });
   const auto place = static_cast<int>(right - points.begin());
   if (right == points.begin()) {
     return 0;
   }
-  const bool blnLeft = right == points.end() ||
-                       x - plot.fncX(double{(right - 1)->X}) < plot.fncX(double{right->X}) - x;
+  const bool blnLeft =
+      right == points.end() || x - plot.fncX((right - 1)->X) < plot.fncX(right->X) - x;
   return blnLeft ? place - 1 : place;
 }

@@ -10,7 +10,7 @@
 // as money.
 
 struct ChartPoint {
-  float X, Y;
+  double X, Y;
   bool operator==(const ChartPoint&) const = default;
 };
 
@@ -26,7 +26,7 @@ struct ChartLine {
 
 /// From Low to High at X.
 struct ChartSpan {
-  float X, Low, High;
+  double X, Low, High;
 };
 
 /// A tint behind the lines. Bands that lie over one another grow darker there.
@@ -38,7 +38,7 @@ struct ChartBand {
 
 /// A step of the axis below the lines, such as a new shoe.
 struct ChartTick {
-  float X;
+  double X;
   std::string Text;
 };
 

@@ -1,9 +1,12 @@
 #include <algorithm>
 
 #include "betting/frmStatistics.h"
+#include "evening/Course.h"
 #include "evening/Csv.h"
 #include "evening/Curve.h"
+#include "evening/HandWords.h"
 #include "evening/Reasons.h"
+#include "evening/Reckoning.h"
 #include "shell/SettingsStore.h"
 #include "tests/Game.h"
 
@@ -57,7 +60,9 @@ TEST_F(EveningRecord, HoldsEachSettledHandWithTheMoneyBeforeAndBehindIt) {
             ",1,6,Banker,\"Player 5 draws, Banker 4 draws against 6\",10,50,0,10,1000,1037.5,1000,"
             "0,20,0,1000,980,1000,no");
   EXPECT_EQ(std::ranges::count(csv, '\n'), 3);
-  EXPECT_EQ(fncCardBrief(13) + fncCardBrief(14) + fncCardBrief(27) + fncCardBrief(49), "KSACAD10H");
+  const EveningHand suits{.Cards = {13, 14, 27, 49, 1, 0}};
+  EXPECT_EQ(fncCardsBrief(suits, Side::Player, strSuitLetters), "KS AC AD");
+  EXPECT_EQ(fncCardsBrief(suits, Side::Banker, strSuitLetters), "10H AS");
   EXPECT_EQ(Money(0), "1000/1000 1037.5/1000 1037.5/1000 ");
 }
 
@@ -92,9 +97,11 @@ TEST_F(EveningRecord, StepsWithTheStakeAndMarksAReset) {
   EXPECT_EQ(Money(0), "1000/1000 950/1000 1450/1500 1509.5/1500 ");
   EXPECT_FALSE(colEveningHands[1].Reset);
   EXPECT_TRUE(colEveningHands[2].Reset);
+  fncReckonOn(0);
   const std::vector<CurvePoint> curve = fncCurve(0);
-  EXPECT_NEAR(curve[2].Expected, 1500 - 50 * 0.010579, 1e-3) << "the band moves with the stake";
-  EXPECT_NEAR(curve[3].Expected, 1550 - 60 * 0.010579, 1e-3) << "and with the reset";
+  EXPECT_EQ(curve[2].Band, (std::array{1450.0, 1450.0, 1547.5, 1547.5}))
+      << "it goes with the stake";
+  EXPECT_EQ(curve[3].Band, (std::array{1490.0, 1509.5, 1597.5, 1607.0})) << "and with the reset";
 }
 
 TEST_F(EveningRecord, LosesTheBetsOfAHandInWhichTheStatisticsAreReset) {
@@ -132,6 +139,11 @@ TEST_F(EveningRecord, OfOddSettingsDoesNotEndTheGame) {
   EXPECT_EQ(LastBox(), "");
   EXPECT_FALSE(user::Ended());
   EXPECT_EQ(Money(0), "3000000000/3000000000 3000000000/3000000000 ");
+  Setting("Player2Stats", "Stake", '1' + std::string(39, '0'));
+  Deal();
+  prcShowCourse();
+  EXPECT_EQ(frmCourse.lblPointed.Text,
+            "Course of the money: amounts beyond $1,000,000,000,000 are not drawn.");
 }
 
 TEST(EveningReasons, FollowTheDrawRules) {

@@ -200,6 +200,25 @@ TEST_F(EveningWindows, LuckIsTheResultLessWhatTheEdgeCosts) {
   EXPECT_EQ(headless::Printed(), Lines{"Course of the Money"});
 }
 
+TEST_F(EveningWindows, ALongEveningIsReckonedInPortionsWhileItsWindowIsOpen) {
+  PlayThree();
+  for (int n = 0; n < 4000; ++n) {
+    EveningHand hand = fncEveningHand(n % 3 + 1);
+    hand.Paid[1] = {10, 0, n % 17 * 10};
+    hand.Chips[1] = {1, 0, static_cast<std::int16_t>(n % 17)};
+    colEveningHands.push_back(hand);
+  }
+  prcShowCourse();
+  const auto reckoned = [] { return frmCourse.crtMoney.Chart->Bands.front().Spans.back().X; };
+  EXPECT_LT(reckoned(), 4003);
+  EXPECT_TRUE(frmCourse.lblLuck.Text.ends_with("is being reckoned..."));
+  EXPECT_EQ(Line("Player 1").Points.back().X, 4003);
+  headless::Wait(1000);
+  EXPECT_EQ(reckoned(), 4003);
+  EXPECT_TRUE(frmCourse.lblLuck.Text.ends_with(" percent."));
+  EXPECT_FALSE(frmCourse.tmrFollow.Enabled);
+}
+
 TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
   using Points = std::vector<ChartPoint>;
   PlayThree();
@@ -251,7 +270,7 @@ TEST_F(EveningWindows, AShoeIsTakenAsAnEveningOfItsOwn) {
             "from hand 2 to 3. Most losses in a row: 1.");
   const auto& band = frmCourse.crtMoney.Chart->Bands.front().Spans;
   EXPECT_EQ(band.front().Low, band.front().High) << "nothing has been bet yet";
-  EXPECT_EQ((std::array{band.back().Low, band.back().High}), (std::array{300.F, 700.F}));
+  EXPECT_EQ((std::array{band.back().Low, band.back().High}), (std::array{300.0, 700.0}));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "evening/Law.h"
 #include "evening/Luck.h"
+#include "evening/Reckoning.h"
 #include "table/Odds.h"
 
 namespace {
@@ -30,12 +31,17 @@ EveningHand fncHand(char result, std::array<std::int16_t, 3> chips, std::int32_t
   return hand;
 }
 
+/// The bets of both seats.
+HandLaw fncBoth(const EveningHand& hand) {
+  return fncTogether(fncHandLaw(hand, 0), fncHandLaw(hand, 1));
+}
+
 /// Every outcome of every hand, one by one: the chance of each sum of the seats in twentieths.
 std::map<std::int64_t, double> fncEnumerated(const std::vector<EveningHand>& hands) {
   std::map<std::int64_t, double> sums{{0, 1.0}};
   for (const EveningHand& hand : hands) {
     std::map<std::int64_t, double> next;
-    const HandLaw law = fncHandLaw(hand);
+    const HandLaw law = fncBoth(hand);
     for (const auto& [sum, chance] : sums) {
       for (std::size_t n = 0; n < 3; ++n) {
         next[sum + law.Net.at(n)] += chance * law.Chance.at(n);
@@ -60,10 +66,22 @@ std::vector<EveningHand> fncMixed(int count) {
   return hands;
 }
 
+/// The luck of an evening of these hands.
+Luck fncLuckOf(const std::vector<EveningHand>& hands, const Scope& scope) {
+  prcForgetReckoning();
+  colEveningHands = {hands.begin(), hands.end()};
+  while (!fncReckonOn(scope.Shoe)) {
+  }
+  const Luck luck = fncLuck(scope);
+  colEveningHands.clear();
+  prcForgetReckoning();
+  return luck;
+}
+
 SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
   SumLaw sum{.Most = most};
   for (const EveningHand& hand : hands) {
-    prcAddHand(sum, fncHandLaw(hand));
+    prcAddHand(sum, fncBoth(hand));
   }
   return sum;
 }
@@ -130,9 +148,9 @@ TEST(Law, OfTenThousandEvenBetsIsTheBinomialOne) {
 
 TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
   // Seat 0 bets $100 on the Banker of three hands, seat 1 a chip on the first tie.
-  colEveningHands = {fncHand('B', {0, 10, 0}, 10, 8, {1, 0, 0}), fncHand('P', {0, 10, 0}),
-                     fncHand('B', {0, 10, 0})};
-  const Luck luck = fncLuck({.Seat = 0});
+  const std::vector<EveningHand> hands{fncHand('B', {0, 10, 0}, 10, 8, {1, 0, 0}),
+                                       fncHand('P', {0, 10, 0}), fncHand('B', {0, 10, 0})};
+  const Luck luck = fncLuckOf(hands, {.Seat = 0});
   EXPECT_EQ(luck.Hands, 3);
   EXPECT_EQ(luck.Staked[betBanker], 300);
   EXPECT_NEAR(luck.Cost[betBanker], 3.17, 0.005);
@@ -146,11 +164,10 @@ TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
               0.458597 * 0.458597 * (0.458597 + 3 * 0.095156) + 3 * 0.458597 * 0.095156 * 0.095156,
               2e-6);
   EXPECT_TRUE(luck.Exact);
-  EXPECT_EQ(fncLuck({.Seat = 1}).Hands, 1);
-  EXPECT_EQ(fncLuck({.Seat = 1}).Won, -10);
-  EXPECT_EQ(fncLuck({}).Won, 80);
-  EXPECT_EQ(fncLuck({.Seat = -1, .Shoe = 2}).Hands, 0);
-  colEveningHands.clear();
+  EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Hands, 1);
+  EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Won, -10);
+  EXPECT_EQ(fncLuckOf(hands, {}).Won, 80);
+  EXPECT_EQ(fncLuckOf(hands, {.Seat = -1, .Shoe = 2}).Hands, 0);
 }
 
 /// Big bets on the Player, every second one won, and small ones on the Banker behind them, all
@@ -182,8 +199,7 @@ TEST(Luck, OfSmallBetsBehindBigOnesIsExactOrSaysHowFarItIsOff) {
                                         std::pair{fncBigThenSmall(60, 10, 1, 10, 1), true},
                                         std::pair{fncBigThenSmall(70, 10, 70, 10, 1), false},
                                         std::pair{fncBigThenSmall(70, 100, 70, 50, 1), false}}) {
-    colEveningHands = {hands.begin(), hands.end()};
-    const Luck luck = fncLuck({.Seat = 0});
+    const Luck luck = fncLuckOf(hands, {.Seat = 0});
     const SumLaw truth = fncSum(hands, 1U << 22U);
     ASSERT_TRUE(truth.fncExact());
     const auto won = std::llround(luck.Won * intTwentieths);
@@ -193,16 +209,15 @@ TEST(Luck, OfSmallBetsBehindBigOnesIsExactOrSaysHowFarItIsOff) {
     EXPECT_NEAR(luck.Better, 1 - worse - tied, luck.Error + 1e-9);
     EXPECT_LT(luck.Error, 0.005);
   }
-  colEveningHands.clear();
 }
 
 TEST(Luck, TellsHowFarACoarseGridMayBeOff) {
-  colEveningHands.clear();
+  std::vector<EveningHand> hands;
   for (int n = 0; n < 3000; ++n) {
-    colEveningHands.push_back(fncMixed(n % 40 + 1).back());
-    prcPay(colEveningHands.back(), n % 2 == 0 ? 10 : 9990);
+    hands.push_back(fncMixed(n % 40 + 1).back());
+    prcPay(hands.back(), n % 2 == 0 ? 10 : 9990);
   }
-  const Luck luck = fncLuck({});
+  const Luck luck = fncLuckOf(hands, {});
   EXPECT_GT(luck.Error, 0);
   EXPECT_LT(luck.Error, 0.005);
   double cost = 0;
@@ -210,7 +225,6 @@ TEST(Luck, TellsHowFarACoarseGridMayBeOff) {
     cost += one;
   }
   EXPECT_NEAR(luck.Expected, -cost, 1e-3);
-  colEveningHands.clear();
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "platform/Chart.h"
 #include "platform/Picking.h"
@@ -27,9 +28,7 @@ struct Sheet {
   double Pixel;  ///< One pixel of the design.
   QFontMetricsF Metrics;
 
-  QPointF fncAt(const ChartPoint& point) const {
-    return {Plot.fncX(double{point.X}), Plot.fncY(double{point.Y})};
-  }
+  QPointF fncAt(const ChartPoint& point) const { return {Plot.fncX(point.X), Plot.fncY(point.Y)}; }
   double fncRight() const { return Plot.Left + Plot.Width; }
   double fncBottom() const { return Plot.Top + Plot.Height; }
   QRectF fncField() const { return {Plot.Left, Plot.Top, Plot.Width, Plot.Height}; }
@@ -44,52 +43,52 @@ ChartPlot fncInPixels(ChartPlot plot) {
   return plot;
 }
 
-/// A row of places, thinned: of those that fall on one column, a pixel of the design broad, the
-/// lowest and highest are all that can be seen. They stay in their order, so that a step is
-/// upright.
-class Thinned {
- public:
-  explicit Thinned(double column) : column_(column) {}
+/// What of a row of places falls on one column, a pixel broad: the first and the last of them, and
+/// the lowest and the highest, which are all that can be seen.
+struct Column {
+  QPointF First, Last, Low, High;
+  bool blnLowFirst = false;
 
+  explicit Column(QPointF at) : First(at), Last(at), Low(at), High(at) {}
   void prcAdd(QPointF at) {
-    if (blnOpen_ && std::floor(at.x() / column_) == std::floor(low_.x() / column_)) {
-      if (at.y() > low_.y()) {
-        low_ = at;
-        blnLowFirst_ = false;
-      } else if (at.y() < high_.y()) {
-        high_ = at;
-        blnLowFirst_ = true;
-      }
-      return;
+    Last = at;
+    if (at.y() > Low.y()) {
+      Low = at;
+      blnLowFirst = false;
+    } else if (at.y() < High.y()) {
+      High = at;
+      blnLowFirst = true;
     }
-    prcClose();
-    low_ = high_ = at;
-    blnOpen_ = true;
   }
-
-  QPolygonF fncTake() {
-    prcClose();
-    return std::move(kept_);
-  }
-
- private:
-  void prcClose() {
-    if (!blnOpen_) {
-      return;
-    }
-    kept_.append(blnLowFirst_ ? low_ : high_);
-    if (low_ != high_) {
-      kept_.append(blnLowFirst_ ? high_ : low_);
-    }
-    blnOpen_ = false;
-  }
-
-  double column_;
-  QPolygonF kept_;
-  QPointF low_, high_;
-  bool blnOpen_ = false;
-  bool blnLowFirst_ = false;
 };
+
+/// The columns of a row of places that are made of values.
+template <class Values, class Place>
+std::vector<Column> fncColumns(const Sheet& sheet, const Values& values, Place place) {
+  std::vector<Column> columns;
+  for (const auto& value : values) {
+    const QPointF at = sheet.fncAt(place(value));
+    if (!columns.empty() &&
+        std::floor(at.x() / sheet.Pixel) == std::floor(columns.back().First.x() / sheet.Pixel)) {
+      columns.back().prcAdd(at);
+    } else {
+      columns.emplace_back(at);
+    }
+  }
+  return columns;
+}
+
+/// Lowest and highest places in their order, so that a step is upright.
+QPolygonF fncThinned(const std::vector<Column>& columns) {
+  QPolygonF row;
+  for (const Column& column : columns) {
+    row.append(column.blnLowFirst ? column.Low : column.High);
+    if (column.Low != column.High) {
+      row.append(column.blnLowFirst ? column.High : column.Low);
+    }
+  }
+  return row;
+}
 
 QPen fncPen(const Sheet& sheet, const QColor& ink, double width, bool blnDashed) {
   QPen pen(ink, width * sheet.Pixel);
@@ -152,7 +151,7 @@ void prcDrawSteps(const Sheet& sheet) {
 void prcDrawTicks(const Sheet& sheet) {
   double free = 0;
   for (const ChartTick& tick : sheet.Data.Ticks) {
-    const double x = std::floor(sheet.Plot.fncX(double{tick.X})) + 0.5;
+    const double x = std::floor(sheet.Plot.fncX(tick.X)) + 0.5;
     sheet.Painter.setPen(QColor::fromRgb(rgbInk));
     const bool blnNamed = fncDrawBelow(sheet, x, fncText(tick.Text), 1, free);
     sheet.Painter.setPen(fncPen(sheet, QColor::fromRgb(rgbOutline), 1, blnNamed));
@@ -162,13 +161,12 @@ void prcDrawTicks(const Sheet& sheet) {
 }
 
 void prcDrawBand(const Sheet& sheet, const ChartBand& band) {
-  Thinned upper(sheet.Pixel), lower(sheet.Pixel);
-  for (const ChartSpan& span : band.Spans) {
-    upper.prcAdd(sheet.fncAt({span.X, span.High}));
-    lower.prcAdd(sheet.fncAt({span.X, span.Low}));
-  }
-  QPolygonF field = upper.fncTake();
-  const QPolygonF back = lower.fncTake();
+  QPolygonF field = fncThinned(fncColumns(sheet, band.Spans, [](const ChartSpan& span) {
+    return ChartPoint{span.X, span.High};
+  }));
+  const QPolygonF back = fncThinned(fncColumns(sheet, band.Spans, [](const ChartSpan& span) {
+    return ChartPoint{span.X, span.Low};
+  }));
   std::copy(back.rbegin(), back.rend(), std::back_inserter(field));
   QColor tint = fncColour(band.Tint);
   tint.setAlpha(intBandAlpha);
@@ -186,14 +184,33 @@ void prcStroke(QPainter& painter, const QPolygonF& row) {
   }
 }
 
+/// A line that goes up and down within most columns, as one field from its highest places to its
+/// lowest: it looks as if it had been stroked, in a small part of the time.
+void prcFillLine(const Sheet& sheet, const std::vector<Column>& columns, const ChartLine& line) {
+  const double half = line.Width * sheet.Pixel / 2;
+  QPolygonF field, below;
+  double before = columns.front().First.y();
+  for (const Column& column : columns) {
+    field.append({column.First.x(), std::min(column.High.y(), before) - half});
+    below.append({column.First.x(), std::max(column.Low.y(), before) + half});
+    before = column.Last.y();
+  }
+  std::copy(below.rbegin(), below.rend(), std::back_inserter(field));
+  sheet.Painter.setPen(Qt::NoPen);
+  sheet.Painter.setBrush(fncColour(line.Ink));
+  sheet.Painter.drawPolygon(field, Qt::WindingFill);
+}
+
 void prcDrawLine(const Sheet& sheet, const ChartLine& line) {
-  Thinned row(sheet.Pixel);
-  for (const ChartPoint& point : line.Points) {
-    row.prcAdd(sheet.fncAt(point));
+  const std::vector<Column> columns =
+      fncColumns(sheet, line.Points, [](const ChartPoint& point) { return point; });
+  if (line.Points.size() > 2 * columns.size() && columns.size() > 1) {
+    prcFillLine(sheet, columns, line);
+    return;
   }
   sheet.Painter.setPen(fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed));
   sheet.Painter.setBrush(Qt::NoBrush);
-  prcStroke(sheet.Painter, row.fncTake());
+  prcStroke(sheet.Painter, fncThinned(columns));
 }
 
 void prcDrawDot(const Sheet& sheet, QPointF at, const QColor& ink) {
@@ -263,8 +280,8 @@ void prcDrawPicked(const Sheet& sheet, int picked) {
       static_cast<std::size_t>(picked) >= sheet.Data.Lines.front().Points.size()) {
     return;
   }
-  const float x = sheet.Data.Lines.front().Points[static_cast<std::size_t>(picked)].X;
-  const double at = std::floor(sheet.Plot.fncX(double{x})) + 0.5;
+  const double x = sheet.Data.Lines.front().Points[static_cast<std::size_t>(picked)].X;
+  const double at = std::floor(sheet.Plot.fncX(x)) + 0.5;
   sheet.Painter.setPen(QPen(QColor::fromRgb(rgbDarkGold), sheet.Pixel));
   sheet.Painter.drawLine(QPointF(at, sheet.Plot.Top), QPointF(at, sheet.fncBottom()));
   for (const ChartLine& line : sheet.Data.Lines) {

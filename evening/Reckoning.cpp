@@ -1,0 +1,77 @@
+#include "evening/Reckoning.h"
+
+#include <algorithm>
+
+namespace {
+
+Reckoning rckEvening, rckShoe;
+
+/// Points of a law times hands of a reckoning, and the least and most points that a law gets of
+/// them: the more hands there are, the less a coarser grid is off.
+constexpr std::size_t lngPointsAndHands = 1U << 23U;
+constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 16U;
+
+/// Points that are reckoned at a go.
+constexpr std::size_t lngPortion = 1U << 20U;
+
+void prcAdd(BetLaw& law, const HandLaw& hand) {
+  if (hand.fncEmpty()) {
+    return;
+  }
+  ++law.Hands;
+  const auto hands = static_cast<std::size_t>(law.Hands);
+  law.Sum.Most = std::clamp(lngPointsAndHands / hands, lngLeastPoints, lngMostPoints);
+  law.Coarse.Most = law.Sum.Most / 4;
+  prcAddHand(law.Sum, hand);
+  prcAddHand(law.Coarse, hand);
+}
+
+BandEdges fncBand(const SumLaw& law) {
+  BandEdges edges{};
+  std::ranges::transform(fncQuantiles(law, dblBandShares), edges.begin(),
+                         [](double edge) { return static_cast<float>(edge); });
+  return edges;
+}
+
+void prcReckonHand(Reckoning& to, const EveningHand& hand) {
+  ++to.Hands;
+  std::array<HandLaw, 3> laws{fncHandLaw(hand, 0), fncHandLaw(hand, 1)};
+  laws[2] = fncTogether(laws[0], laws[1]);
+  for (std::size_t n = 0; n < laws.size(); ++n) {
+    prcAdd(to.Laws.at(n), laws.at(n));
+  }
+  for (std::size_t seat = 0; seat < to.Band.size(); ++seat) {
+    to.Band.at(seat).push_back(fncBand(to.Laws.at(seat).Sum));
+  }
+}
+
+std::size_t fncPoints(const Reckoning& of) {
+  std::size_t points = 0;
+  for (const BetLaw& law : of.Laws) {
+    points += law.Sum.Atoms.size() + law.Sum.Share.size();
+  }
+  return points;
+}
+
+Reckoning& fncKept(int shoe) {
+  if (shoe != 0 && shoe != rckShoe.Shoe) {
+    rckShoe = {.Shoe = shoe};
+  }
+  return shoe == 0 ? rckEvening : rckShoe;
+}
+
+}  // namespace
+
+const Reckoning& fncReckoning(int shoe) { return fncKept(shoe); }
+
+bool fncReckonOn(int shoe) {
+  Reckoning& kept = fncKept(shoe);
+  const Reach reach = fncReach(shoe);
+  for (std::size_t points = 0; reach.From + kept.Hands < reach.To && points < lngPortion;) {
+    prcReckonHand(kept, fncEveningHand(reach.From + kept.Hands + 1));
+    points += fncPoints(kept);
+  }
+  return reach.From + kept.Hands == reach.To;
+}
+
+void prcForgetReckoning() { rckEvening = rckShoe = {}; }
