@@ -3,6 +3,7 @@
 
 #include "bench/qt/Figures.h"
 #include "bench/qt/Launch.h"
+#include "bench/qt/LongEvening.h"
 #include "bench/qt/Play.h"
 #include "platform/UserInput.h"
 #include "platform/platform.h"
@@ -47,6 +48,7 @@ const Measurement measurements[] = {
     {"squeeze", BaccTable.maisyk, bench::prcSqueeze, 1000},
     {"shoes", BaccTable.maisyk, bench::prcShoes, 1000},
     {"memory", BaccTable.maisyk, bench::prcMemory, 0},
+    {"evening", BaccTable.maisyk, bench::prcLongEvening, 1000},
 };
 
 const Measurement* msrChosen = nullptr;
