@@ -18,7 +18,7 @@ namespace {
 
 constexpr QRgb rgbGrid = 0xFFE9E1CB;
 constexpr int intBandAlpha = 44;
-constexpr double dblDot = 3.5;  // Pixels at scale 1.
+constexpr double dblDot = 3.5, dblBelow = 6;  // Pixels at scale 1: of a dot, above the texts below.
 
 /// A chart being drawn: its plot in pixels from the painter's origin.
 struct Sheet {
@@ -129,7 +129,7 @@ bool fncDrawBelow(const Sheet& sheet, double x, const QString& text, int row, do
     return false;
   }
   free = left + width + 8 * sheet.Pixel;
-  const double base = sheet.fncBottom() + 3 * sheet.Pixel + sheet.Metrics.ascent();
+  const double base = sheet.fncBottom() + dblBelow * sheet.Pixel + sheet.Metrics.ascent();
   sheet.Painter.drawText(QPointF(left, base + row * sheet.Metrics.height()), text);
   return true;
 }
@@ -141,7 +141,8 @@ void prcDrawSteps(const Sheet& sheet) {
   const QString name = fncText(sheet.Data.AxisName);
   double free = sheet.Metrics.horizontalAdvance(name) + 14 * sheet.Pixel;
   sheet.Painter.drawText(
-      QPointF(6 * sheet.Pixel, sheet.fncBottom() + 3 * sheet.Pixel + sheet.Metrics.ascent()), name);
+      QPointF(6 * sheet.Pixel, sheet.fncBottom() + dblBelow * sheet.Pixel + sheet.Metrics.ascent()),
+      name);
   for (double x = std::ceil(plot.XLow / step) * step; x <= plot.XHigh + step / 1000; x += step) {
     fncDrawBelow(sheet, plot.fncX(x), fncText(fncPlainNumberText(std::round(x))), 0, free);
   }
