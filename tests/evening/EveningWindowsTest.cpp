@@ -65,11 +65,9 @@ TEST_F(EveningWindows, TheListShowsEachSettledHandAndFollowsThePlay) {
   headless::Wait(300);
   const Lines rows = Rows(frmHands.grdHands);
   ASSERT_EQ(rows.size(), 3U);
-  EXPECT_EQ(rows[0].substr(0, 4), "1|1|");
+  EXPECT_TRUE(rows[0].starts_with("1|1|")) << rows[0];
   EXPECT_TRUE(rows[0].ends_with("|9|Banker|B $100|$1,095||$1,000|")) << rows[0];
-  EXPECT_TRUE(rows[1].ends_with("|9||7|Player|B $100|$995|P $50|$1,050|") ||
-              rows[1].ends_with("|7|Player|B $100|$995|P $50|$1,050|"))
-      << rows[1];
+  EXPECT_TRUE(rows[1].ends_with("|7|Player|B $100|$995|P $50|$1,050|")) << rows[1];
   EXPECT_TRUE(rows[2].ends_with("|7|Tie||$995|P $50|$1,050|")) << rows[2];
   EXPECT_EQ(frmHands.grdHands.ListIndex, 2) << "who looks at the last hand goes on to the new one";
   headless::Pick(frmHands.grdHands, 1);

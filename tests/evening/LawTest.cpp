@@ -7,27 +7,20 @@
 #include "evening/Law.h"
 #include "evening/Luck.h"
 #include "evening/Reckoning.h"
-#include "table/Odds.h"
 
 namespace {
 
-/// Makes the chips of a hand worth so much each.
-void prcPay(EveningHand& hand, std::int32_t unit) {
-  hand.ChipValue = unit;
+EveningHand fncHand(char result, std::array<std::int16_t, 3> chips, std::int32_t unit = 10,
+                    std::uint8_t decks = 8, std::array<std::int16_t, 3> other = {}) {
+  EveningHand hand{.ChipValue = double(unit),
+                   .Chips = {chips, other},
+                   .Shoe = 1,
+                   .Decks = decks,
+                   .Result = result};
   for (std::size_t i = 0; i < hand.Chips.size(); ++i) {
     std::ranges::transform(hand.Chips.at(i), hand.Paid.at(i).begin(),
                            [&](int count) { return count * unit; });
   }
-}
-
-EveningHand fncHand(char result, std::array<std::int16_t, 3> chips, std::int32_t unit = 10,
-                    std::uint8_t decks = 8, std::array<std::int16_t, 3> other = {}) {
-  EveningHand hand;
-  hand.Chips = {chips, other};
-  prcPay(hand, unit);
-  hand.Decks = decks;
-  hand.Result = result;
-  hand.Shoe = 1;
   return hand;
 }
 
@@ -86,15 +79,9 @@ SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
   return sum;
 }
 
-TEST(Law, OfTheCasinosOddsByHand) {
-  // Eight decks, as published: Banker 45.86 %, Player 44.62 %, Tie 9.52 %.
-  const HandLaw banker = fncHandLaw(fncHand('B', {1, 2, 0}, 100), 0);
-  EXPECT_EQ(banker.Net, (std::array<std::int64_t, 3>{1800, -6000, 16000}));
-  EXPECT_NEAR(banker.Chance[0], 0.458597, 5e-7);
-  EXPECT_NEAR(banker.Chance[1], 0.446247, 5e-7);
-  EXPECT_NEAR(banker.Chance[2], 0.095156, 5e-7);
-  const HandLaw player = fncHandLaw(fncHand('B', {0, 0, 3}), 0);
-  EXPECT_EQ(player.Net, (std::array<std::int64_t, 3>{-600, 600, 0}));
+TEST(Law, OfAHandIsWhatEachResultPays) {
+  const HandLaw law = fncHandLaw(fncHand('B', {1, 2, 0}, 100), 0);
+  EXPECT_EQ(law.Net, (std::array<std::int64_t, 3>{1800, -6000, 16000}));
 }
 
 TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
@@ -115,34 +102,14 @@ TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
 }
 
 TEST(Law, OnACoarseGridStaysNearTheExactOne) {
-  for (const int count : {60, 400}) {
-    const std::vector<EveningHand> hands = fncMixed(count);
-    const SumLaw exact = fncSum(hands, 1U << 22U), coarse = fncSum(hands, 1U << 11U);
-    ASSERT_TRUE(exact.fncExact());
-    ASSERT_FALSE(coarse.fncExact());
-    ASSERT_LE(coarse.Share.size(), coarse.Most);
-    double worst = 0;
-    for (int n = -40; n <= 40; ++n) {
-      const auto at = std::llround((exact.Mean + n * 0.1 * std::sqrt(exact.Variance)) * 20);
-      const double want = fncShareBelow(exact, at) + fncShareAt(exact, at) / 2;
-      worst = std::max(worst, std::abs(want - fncShareBelow(coarse, at)));
-    }
-    EXPECT_LT(worst, 2e-4) << count << " hands";
-  }
-}
-
-TEST(Law, OfTenThousandEvenBetsIsTheBinomialOne) {
-  // Player bets of one size: a lattice of wins less losses, and near the middle the normal law.
-  const EveningHand hand = fncHand('P', {0, 0, 1});
-  const SumLaw sum = fncSum(std::vector<EveningHand>(10'000, hand), 1U << 11U);
-  EXPECT_TRUE(sum.fncExact());
-  const double edge = fncEdge(fncOdds(8), betPlayer);
-  EXPECT_NEAR(sum.Mean, -10'000 * 10 * edge, 1e-6);
-  const auto quantiles = fncQuantiles(sum, {0.05, 0.25, 0.75, 0.95});
-  const double deviation = std::sqrt(sum.Variance);
-  const std::array<double, 4> z{-1.644854, -0.674490, 0.674490, 1.644854};
-  for (std::size_t n = 0; n < z.size(); ++n) {
-    EXPECT_NEAR(quantiles.at(n), sum.Mean + z.at(n) * deviation, 10) << "one chip is a step";
+  const std::vector<EveningHand> hands = fncMixed(400);
+  const SumLaw exact = fncSum(hands, 1U << 22U), coarse = fncSum(hands, 1U << 11U);
+  ASSERT_TRUE(exact.fncExact() && !coarse.fncExact());
+  ASSERT_LE(coarse.Share.size(), coarse.Most);
+  for (int n = -40; n <= 40; ++n) {
+    const auto at = std::llround((exact.Mean + n * 0.1 * std::sqrt(exact.Variance)) * 20);
+    EXPECT_NEAR(fncShareBelow(coarse, at), fncShareBelow(exact, at) + fncShareAt(exact, at) / 2,
+                2e-4);
   }
 }
 
@@ -195,9 +162,7 @@ TEST(Law, KeepsTheBandWhereItIsWhenSmallBetsFollowBigOnes) {
 }
 
 TEST(Luck, OfSmallBetsBehindBigOnesIsExactOrSaysHowFarItIsOff) {
-  for (const auto& [hands, blnExact] : {std::pair{fncBigThenSmall(50, 10, 1, 10, 1), true},
-                                        std::pair{fncBigThenSmall(60, 10, 1, 10, 1), true},
-                                        std::pair{fncBigThenSmall(70, 10, 70, 10, 1), false},
+  for (const auto& [hands, blnExact] : {std::pair{fncBigThenSmall(60, 10, 1, 10, 1), true},
                                         std::pair{fncBigThenSmall(70, 100, 70, 50, 1), false}}) {
     const Luck luck = fncLuckOf(hands, {.Seat = 0});
     const SumLaw truth = fncSum(hands, 1U << 22U);
@@ -209,22 +174,6 @@ TEST(Luck, OfSmallBetsBehindBigOnesIsExactOrSaysHowFarItIsOff) {
     EXPECT_NEAR(luck.Better, 1 - worse - tied, luck.Error + 1e-9);
     EXPECT_LT(luck.Error, 0.005);
   }
-}
-
-TEST(Luck, TellsHowFarACoarseGridMayBeOff) {
-  std::vector<EveningHand> hands;
-  for (int n = 0; n < 3000; ++n) {
-    hands.push_back(fncMixed(n % 40 + 1).back());
-    prcPay(hands.back(), n % 2 == 0 ? 10 : 9990);
-  }
-  const Luck luck = fncLuckOf(hands, {});
-  EXPECT_GT(luck.Error, 0);
-  EXPECT_LT(luck.Error, 0.005);
-  double cost = 0;
-  for (const double one : luck.Cost) {
-    cost += one;
-  }
-  EXPECT_NEAR(luck.Expected, -cost, 1e-3);
 }
 
 }  // namespace
