@@ -261,6 +261,7 @@ TEST_F(EveningWindows, AShoeIsTakenAsAnEveningOfItsOwn) {
   DealResult("B");
   Open(prcShowCourse);
   headless::Click(frmCourse.optSeat[0]);
+  prcSetValue(frmCourse.Shoe.sldShoe, 1);
   prcSetValue(frmCourse.Shoe.sldShoe, 2);
   EXPECT_EQ(frmCourse.crtMoney.Spoken,
             "Course of the money over 2 hands. Player 1 came with $500 and has $500, had most, "
