@@ -112,13 +112,12 @@ measure_table() {
   table_top=$(awk -v y="$y" -v t="$chip_value_top" -v s="$table_scale" 'BEGIN { print y - t * s }')
 }
 
-# expect_scale: fails when the table is not drawn at the largest quarter step at which 1024x700 fit the screen.
+# expect_scale: fails when the table is not drawn at the largest hundredth at which 960x700 fit the screen.
 expect_scale() {
   awk -v size="$size" -v w="$chip_value_width" -v s="$table_scale" 'BEGIN {
     split(size, most, "x")
-    fits = most[1] / 1024 < most[2] / 700 ? most[1] / 1024 : most[2] / 700
-    step = int(fits * 4) / 4; if (step < 1) step = 1
-    drawn = s * w; wanted = w / 15 * step
+    fits = most[1] / 960 < most[2] / 700 ? most[1] / 960 : most[2] / 700
+    drawn = s * w; wanted = w / 15 * int(fits * 100) / 100
     printf "Drawn at scale %.2f\n", s * 15
     exit (drawn > wanted ? drawn - wanted : wanted - drawn) > 1.5 }' ||
     fail "the table is not drawn at the scale that fits $size"

@@ -258,7 +258,7 @@ bool InputRouter::fncDragged(const QMouseEvent& event) {
 bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   WindowView* home = fncWindowViewOf(&widget);
   Window* window = fncLive(*home);
-  if (window == nullptr || (home->Shell == &widget && home->Ground != &widget)) {
+  if (window == nullptr) {
     return false;
   }
   const int shift = fncShift(event.modifiers());
@@ -271,6 +271,9 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
     }
     // A widget that is closed is no ground.
     return !fncNative(control->Kind) || !fncUsable(*control);
+  }
+  if (home->Ground != &widget) {
+    return false;  // A border, or what the toolkit has put around the field.
   }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);

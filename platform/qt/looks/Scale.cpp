@@ -6,17 +6,26 @@
 namespace qt {
 
 namespace {
-double dblScale = 1;
-}
 
-double fncFittingScale(QSizeF physical, double ratio) {
-  const double fits = std::min(physical.width() / 1024, physical.height() / 700);
-  return std::max(1.0, std::floor(fits * 4) / 4) / ratio;
+double dblScale = 1;
+
+// A frame with all that it is designed for, in pixels at scale 1: as wide as the large buttons, and
+// so that lists of cards beside the table cover no card; as high as table and marking card.
+constexpr double dblWidth = 960;
+constexpr double dblHeight = 700;
+constexpr double dblTitle = 23;  ///< What a window manager's title bar takes of that height.
+
+}  // namespace
+
+double fncFittingScale(QSizeF frame, double title) {
+  const double fits = std::min({frame.width() / dblWidth, frame.height() / dblHeight,
+                                (frame.height() - title) / (dblHeight - dblTitle)});
+  return std::floor(fits * 100 + 1e-6) / 100;
 }
 
 double fncScale() { return dblScale; }
 
-void prcSetScale(double scale) { dblScale = scale; }
+void prcSetScale(double scale) { dblScale = std::max(scale, dblLeastScale); }
 
 int fncPixels(double twips) {
   // Far places, such as a drawing area of many thousand twips, stay within what the toolkit takes.

@@ -7,9 +7,12 @@
 
 namespace qt {
 
-/// The largest quarter step, at least 1, at which the design of 1024 by 700 fits into that many
-/// physical pixels, less what the desktop's own factor (ratio) enlarges already.
-double fncFittingScale(QSizeF physical, double ratio);
+/// No frame is so small that the program is drawn smaller: it is scrolled instead.
+inline constexpr double dblLeastScale = 0.75;
+
+/// The largest scale, in hundredths, at which the design fits into a frame of that size in pixels,
+/// of which its title bar takes so many. It may be less than dblLeastScale.
+double fncFittingScale(QSizeF frame, double title);
 
 /// The scale in use: pixels to each 15 twips. 1 until it is set.
 double fncScale();

@@ -208,9 +208,13 @@ QFont fncPlainFont() { return fncFont({sngPlainSize}); }
 void prcDressApplication() {
   QApplication::setStyle(new Dress);
   QApplication::setPalette(fncPalette());
+  QToolTip::setPalette(fncPalette());
+  prcSizeFaces();
+}
+
+void prcSizeFaces() {
   QApplication::setFont(fncPlainFont());
   QToolTip::setFont(fncPlainFont());
-  QToolTip::setPalette(fncPalette());
 }
 
 void prcDrawButton(QPainter& painter, const QRect& rect, const ButtonState& state) {

@@ -16,6 +16,9 @@ QFont fncPlainFont();
 /// Gives the application its style, palette and faces. Called once, when the scale is known.
 void prcDressApplication();
 
+/// Gives the application its faces at the scale in use.
+void prcSizeFaces();
+
 /// Draws the face of a push button into rect. Used by the style and by buttons of their own look.
 struct ButtonState {
   bool blnEnabled = true, blnDown = false, blnHover = false, blnFocus = false, blnDefault = false;

@@ -198,7 +198,6 @@ RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), vi
   setUniformItemSizes(true);
   setTextElideMode(Qt::ElideNone);
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(fncScaled(1));
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -214,6 +213,7 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   if (blnFirst || view_->Drawn.Face != control.Face ||
       view_->Drawn.BackColor != control.BackColor) {
     setFont(fncRowFont(control.Face));
+    setLineWidth(fncScaled(1));
     prcColour(*this, control);
   }
   prcFill(control, blnFirst);

@@ -349,18 +349,23 @@ void prcMakeControl(ControlView& view, QWidget* parent) {
 }
 
 void prcUpdateControl(ControlView& view, const Control& control) {
+  const bool blnAnew = view.Widget != nullptr && view.Scale != fncScale();
   if (view.Widget != nullptr || view.Helper != nullptr) {
-    fncRow(control.Kind).Update(view, control, false);
+    fncRow(control.Kind).Update(view, control, blnAnew);
   }
   bool blnAnnounce = false;
   if (view.Widget != nullptr) {
-    prcUpdateCommon(view, control, false);
+    prcUpdateCommon(view, control, blnAnew);
+    if (blnAnew) {
+      view.Widget->update();
+    }
     blnAnnounce = control.Announce && view.Widget->isVisible() &&
                   (!view.Drawn.Visible || view.Drawn.Text != control.Text ||
                    view.Drawn.Spoken != control.Spoken);
   }
   prcFollowFlip(view, control);
   view.Drawn = control;
+  view.Scale = fncScale();
   if (blnAnnounce) {
     prcNoteForEar(view);
   }

@@ -9,7 +9,7 @@ namespace qt {
 /// Makes the widget, timer or action of a view below parent and dresses it as its control says.
 void prcMakeControl(ControlView& view, QWidget* parent);
 
-/// Brings a view to what its control says now.
+/// Brings a view to what its control says now, in all its sizes anew where the scale is another.
 void prcUpdateControl(ControlView& view, const Control& control);
 
 /// Puts a control's widget above its neighbours.

@@ -99,15 +99,12 @@ GridView::GridView(ControlView& view, QWidget* parent) : QTableView(parent), vie
   setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(fncScaled(1));
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(fncScaled(intRowHeight));
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setFixedHeight(fncScaled(intRowHeight + 3));
 }
 
 void GridView::prcUpdate(const Control& control, bool blnFirst) {
@@ -134,6 +131,9 @@ void GridView::prcUpdate(const Control& control, bool blnFirst) {
 
 void GridView::prcDress(const Control& control) {
   setFont(fncFont(control.Face));
+  setLineWidth(fncScaled(1));
+  verticalHeader()->setDefaultSectionSize(fncScaled(intRowHeight));
+  horizontalHeader()->setFixedHeight(fncScaled(intRowHeight + 3));
   QFont bold = font();
   bold.setBold(true);
   horizontalHeader()->setFont(bold);

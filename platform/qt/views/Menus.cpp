@@ -1,6 +1,8 @@
 #include "platform/qt/views/Menus.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -148,6 +150,8 @@ void prcUpdateToolbar(ControlView& view, const Control& control) {
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setFixedHeight(fncPixels(control.Height));
   bar->setFont(fncFont(control.Face));
+  QEvent spaces(QEvent::StyleChange);
+  QCoreApplication::sendEvent(bar, &spaces);
 }
 
 void prcMakeTool(ControlView& view, QWidget* bar) {
@@ -188,7 +192,7 @@ void prcUpdateTool(ControlView& view, const Control& control, bool blnFirst) {
                           bar->toolButtonStyle() == Qt::ToolButtonTextBesideIcon &&
                           !control.Text.empty();
   button->setIconSize(QSize(side, side));
-  if (button->icon().isNull()) {
+  if (blnFirst) {
     button->setIcon(fncIcon(control.Picture, side));
   }
   button->setFont(fncFont(control.Face));

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/qt/looks/Scale.h"
+
 namespace qt {
 
 namespace {
@@ -16,7 +18,7 @@ bool fncLoaded(const Window* window, std::int32_t handle) {
 ScreenState scrNow;
 
 ControlView::ControlView(WindowView& home, Control& source)
-    : Home(home), Source(&source), Drawn(source) {}
+    : Home(home), Source(&source), Drawn(source), Scale(fncScale()) {}
 
 ControlView::~ControlView() {
   const auto known = Home.ByControl.find(Source);

@@ -28,6 +28,7 @@ struct ControlView {
   WindowView& Home;
   Control* Source;
   Control Drawn;
+  double Scale;              ///< At which it was drawn.
   QPointer<QWidget> Widget;  ///< None for timers and menu entries.
   QPointer<QObject> Helper;  ///< The timer, menu, or action that stands for the control.
   void (*Drop)(ControlView&) = nullptr;  ///< Takes off the screen what its maker has put there.
@@ -41,6 +42,8 @@ struct DrawnWindow {
   Colour BackColor = clrWhite;
   int Picture = 0;
   std::uint32_t Raised = 0;
+  double Scale = 0;
+  QPoint Origin;  ///< Of the field that a child lies in.
   bool operator==(const DrawnWindow&) const = default;
 };
 
@@ -58,6 +61,9 @@ struct WindowView {
   QPointer<QWidget> Ground;
   void (*Drop)(WindowView&) = nullptr;  ///< Takes off the screen what its maker has put there.
   DrawnWindow Drawn;
+  /// Where the field begins on the ground of a frame that is too small for what lies in it: what
+  /// stands further left is reached by scrolling.
+  QPoint Origin;
   bool blnFirst = true;
   bool blnResized = false;         ///< The inner size has changed; its handler is due.
   bool blnShown = false;           ///< It has come up and is to get the input.

@@ -11,8 +11,10 @@
 
 #include "platform/UserInput.h"
 #include "platform/platform.h"
+#include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Accessible.h"
 #include "platform/qt/views/ControlViews.h"
+#include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Screen.h"
@@ -120,7 +122,7 @@ void prcSyncControls(WindowView& home) {
   home.DrawnActive = home.Source->ActiveControl;
   home.DrawnFocus = home.Source->FocusGiven;
   for (const std::unique_ptr<ControlView>& view : home.Controls) {
-    if (!(view->Drawn == *view->Source)) {
+    if (view->Scale != fncScale() || !(view->Drawn == *view->Source)) {
       prcUpdateControl(*view, *view->Source);
     }
   }
@@ -191,6 +193,7 @@ void prcSyncOnce() {
   scrNow.blnSyncing = true;
   prcDropUnloaded();
   prcAddLoaded();
+  prcFitField();
   // The frame comes up with everything in it, and the windows that stand before it come after it.
   for (const WindowKind kind : {WindowKind::Child, WindowKind::Frame, WindowKind::Float,
                                 WindowKind::Dialog, WindowKind::Start}) {
@@ -206,6 +209,18 @@ void prcSyncOnce() {
   prcTellEar();
   scrNow.blnSyncing = false;
   tckSynced = platform::TickCount();
+}
+
+/// Draws everything anew where the frame fits another scale. Returns whether it did.
+bool fncFollowFrame() {
+  WindowView* frame = fncFrameView();
+  const double before = fncScale();
+  if (frame == nullptr || !fncFitToFrame(*frame->Shell, prcSyncAll)) {
+    return false;
+  }
+  prcKeepPlaces(before);
+  prcSyncOnce();
+  return true;
 }
 
 /// The window to be resized or activated next; none if nothing is due. Of several that have come
@@ -249,7 +264,7 @@ void prcSyncAll() {
     return;
   }
   prcSyncOnce();
-  while (!fncEnded() && fncRunDue()) {
+  while (!fncEnded() && (fncFollowFrame() || fncRunDue())) {
   }
 }
 

@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -14,6 +16,7 @@
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Topmost.h"
 
 namespace qt {
@@ -22,8 +25,17 @@ namespace {
 
 ChildShell* fncChild(const WindowView& view) { return qobject_cast<ChildShell*>(view.Shell); }
 
+/// What scrolls the field of a frame.
+QScrollArea& fncScrolled(const WindowView& frame) {
+  return *static_cast<QScrollArea*>(static_cast<QMainWindow*>(frame.Shell.data())->centralWidget());
+}
+
+/// What may be used of the screen that the frame is on.
 QRect fncDesk() {
-  const QScreen* screen = QGuiApplication::primaryScreen();
+  const WindowView* frame = fncFrameView();
+  const QScreen* screen = frame != nullptr && frame->Shell->isVisible()
+                              ? frame->Shell->screen()
+                              : QGuiApplication::primaryScreen();
   return screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 700);
 }
 
@@ -56,7 +68,12 @@ void prcMakeFrame(WindowView& view) {
   auto* frame = new QMainWindow;
   auto* field = new GroundView(*view.Source, nullptr);
   field->setAttribute(Qt::WA_OpaquePaintEvent);
-  frame->setCentralWidget(field);
+  auto* scrolled = new QScrollArea;
+  scrolled->setFrameShape(QFrame::NoFrame);
+  scrolled->setFocusPolicy(Qt::NoFocus);
+  scrolled->setWidgetResizable(true);
+  scrolled->setWidget(field);
+  frame->setCentralWidget(scrolled);
   frame->setContextMenuPolicy(Qt::NoContextMenu);
   frame->menuBar()->setNativeMenuBar(false);
   view.Shell = frame;
@@ -110,8 +127,9 @@ void prcKeepInner(WindowView& view) {
   double width = std::max(0.0, window.Width - fncTwips(frame.left() + frame.right()));
   double height = std::max(0.0, window.Height - fncTwips(frame.top() + frame.bottom()));
   if (window.Kind == WindowKind::Frame) {
-    width = fncTwips(view.Ground->width());
-    height = fncTwips(view.Ground->height());
+    const QSize room = fncScrolled(view).viewport()->size();
+    width = fncTwips(room.width());
+    height = fncTwips(room.height());
   }
   if (window.FixedInner) {
     width = window.ScaleWidth;
@@ -126,13 +144,29 @@ void prcKeepInner(WindowView& view) {
   }
 }
 
+/// Where on its parent's ground the field of a child begins.
+QPoint fncOrigin(const WindowView& view) {
+  const WindowView* frame = fncChild(view) != nullptr ? fncFrameView() : nullptr;
+  return frame != nullptr ? frame->Origin : QPoint();
+}
+
 void prcPlaceChild(WindowView& view) {
   const Window& window = *view.Source;
   const QMargins frame = fncFrameOf(view);
   QRect place = fncPixelRect(window.Left, window.Top, window.Width, window.Height);
   place.setWidth(std::max(place.width(), frame.left() + frame.right()));
   place.setHeight(std::max(place.height(), frame.top() + frame.bottom()));
-  view.Shell->setGeometry(place);
+  view.Shell->setGeometry(place.translated(fncOrigin(view)));
+}
+
+/// The top left corner at which a window on whatever screen is seen from its beginning.
+QPoint fncInSight(const QRect& place) {
+  const QRect desk = QGuiApplication::primaryScreen()->availableVirtualGeometry();
+  const auto within = [](int at, int length, int from, int room) {
+    return std::clamp(at, from, std::max(from, from + room - length));
+  };
+  return {within(place.left(), place.width(), desk.left(), desk.width()),
+          within(place.top(), place.height(), desk.top(), desk.height())};
 }
 
 void prcPlaceTop(WindowView& view) {
@@ -154,7 +188,7 @@ void prcPlaceTop(WindowView& view) {
     window.Left = fncTwips(at.x());
     window.Top = fncTwips(at.y());
   }
-  view.Shell->move(at);
+  view.Shell->move(fncInSight({at, inner}));
 }
 
 /// The largest place for the frame; where a window manager maximises it this is only the place it
@@ -170,7 +204,8 @@ void prcPlaceWindow(WindowView& view) {
   const DrawnWindow& drawn = view.Drawn;
   prcFollowInner(view);
   const bool blnMoved = view.blnFirst || drawn.Left != window.Left || drawn.Top != window.Top ||
-                        drawn.Width != window.Width || drawn.Height != window.Height;
+                        drawn.Width != window.Width || drawn.Height != window.Height ||
+                        drawn.Scale != fncScale() || drawn.Origin != fncOrigin(view);
   if (fncChild(view) != nullptr) {
     if (blnMoved) {
       prcPlaceChild(view);
@@ -258,7 +293,8 @@ DrawnWindow fncDrawn(const WindowView& view) {
   const Window& window = *view.Source;
   return {window.Caption, window.Left,       window.Top,         window.Width,
           window.Height,  window.ScaleWidth, window.ScaleHeight, !view.Shell->isHidden(),
-          window.Topmost, window.BackColor,  window.Picture,     window.Raised};
+          window.Topmost, window.BackColor,  window.Picture,     window.Raised,
+          fncScale(),     fncOrigin(view)};
 }
 
 /// Whether the system tells where a window is. Where it does not, the places that are known stay.
@@ -271,7 +307,7 @@ bool fncPlacesAreTold() {
 void prcTakePlace(WindowView& view) {
   Window& window = *view.Source;
   const bool blnChild = fncChild(view) != nullptr;
-  const QRect outer = blnChild ? view.Shell->geometry() : view.Shell->frameGeometry();
+  const QRect outer = fncOuterPlace(view);
   const bool blnMoved =
       fncPixels(window.Left) != outer.left() || fncPixels(window.Top) != outer.top();
   if (blnMoved && (blnChild || fncPlacesAreTold())) {
@@ -314,6 +350,53 @@ void prcMakeWindow(WindowView& view) {
   view.Ground->setAccessibleName(fncText(view.Source->Caption));
 }
 
+QRect fncOuterPlace(const WindowView& view) {
+  return fncChild(view) != nullptr ? view.Shell->geometry().translated(-fncOrigin(view))
+                                   : view.Shell->frameGeometry();
+}
+
+void prcFitField() {
+  WindowView* frame = fncFrameView();
+  if (frame == nullptr) {
+    return;
+  }
+  QRect needed(0, 0, 1, 1);
+  int left = 0;
+  for (const Window* window : fncWindows()) {
+    if (window->Kind == WindowKind::Child && window->Visible && fncTooSmall(*frame->Shell)) {
+      needed |= fncPixelRect(window->Left, window->Top, window->Width, window->Height);
+      // What has a title bar can be dragged into sight.
+      left = window->TitleBar ? left : std::min(left, fncPixels(window->Left));
+    }
+  }
+  const QSize least(needed.right() + 1 - left, needed.bottom() + 1);
+  QScrollArea& scrolled = fncScrolled(*frame);
+  if (frame->Ground->minimumSize() != least) {
+    frame->Ground->setMinimumSize(least);
+    QCoreApplication::sendPostedEvents(scrolled.viewport(), QEvent::LayoutRequest);
+  }
+  if (frame->Origin.x() != -left) {
+    frame->Origin.setX(-left);
+    scrolled.horizontalScrollBar()->setValue(-left);
+  }
+}
+
+void prcKeepPlaces(double before) {
+  WindowView& frame = *fncFrameView();
+  prcTakePlace(frame);
+  frame.Drawn = fncDrawn(frame);
+  const QPoint corner = frame.Shell->frameGeometry().topLeft();
+  const auto moved = [&](double place, int from) {
+    return place + fncTwips(from) * (1 - fncScale() / before);
+  };
+  for (Window* window : fncWindows()) {
+    if (window->Kind != WindowKind::Child && window != frame.Source) {
+      window->Left = moved(window->Left, corner.x());
+      window->Top = moved(window->Top, corner.y());
+    }
+  }
+}
+
 void prcSyncWindow(WindowView& view) {
   Window& window = *view.Source;
   if (view.blnFirst || view.Drawn.Caption != window.Caption) {
@@ -347,7 +430,7 @@ bool fncWindowMoved(WindowView& view) {
   }
   prcTakePlace(view);
   view.Drawn = fncDrawn(view);
-  return view.blnResized;
+  return view.blnResized || window->Kind == WindowKind::Frame;
 }
 
 void prcHandOn(const QWidget& shell) {
@@ -373,6 +456,10 @@ void prcFollowActive() {
   }
   if (target->window()->focusWidget() != target) {
     target->setFocus(Qt::OtherFocusReason);
+    if (const WindowView* frame = fncFrameView();
+        frame != nullptr && target != view->Ground && frame->Shell == target->window()) {
+      fncScrolled(*frame).ensureWidgetVisible(target);
+    }
     if (auto* edit = qobject_cast<EditView*>(target); edit != nullptr) {
       edit->prcSelect();
     }

@@ -13,8 +13,18 @@ void prcMakeWindow(WindowView& view);
 /// the model.
 void prcSyncWindow(WindowView& view);
 
+/// The place of a window's outer edges on the screen; a child's in the field of its frame. Pixels.
+QRect fncOuterPlace(const WindowView& view);
+
+/// Makes the ground of a frame that is too small for what it holds large enough to be scrolled.
+void prcFitField();
+
+/// After a change of the scale: the frame is as large as before in pixels, and the windows that
+/// stand beside it keep their distance from its corner in twips.
+void prcKeepPlaces(double before);
+
 /// The user or the window manager has moved or sized a window: its place goes into the model.
-/// Returns whether its resize handler is due.
+/// Returns whether the screen is to follow: its resize handler is due, or it is the frame.
 bool fncWindowMoved(WindowView& view);
 
 /// Lets the keyboard focus follow the model: the active control of the active window.

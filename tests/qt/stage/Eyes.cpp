@@ -11,6 +11,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Painted.h"
+#include "platform/qt/windows/WindowViews.h"
 #include "tests/qt/stage/Stage.h"
 
 // The eyes: what a control or window shows, read from its widget.
@@ -171,7 +172,7 @@ Window Seen(const Window& window) {
     return seen;
   }
   const QWidget& shell = *view->Shell;
-  const QRect place = shell.isWindow() ? shell.frameGeometry() : shell.geometry();
+  const QRect place = qt::fncOuterPlace(*view);
   seen.Visible = !shell.isHidden();
   seen.Maximised = shell.isMaximized();
   seen.Topmost = view->Drawn.Topmost;  // What the window manager was asked for last.

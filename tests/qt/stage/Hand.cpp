@@ -488,11 +488,16 @@ void Activate(Window& window) {
 void Resize(Window& window, double width) {
   Settle();
   QWindow& native = fncNative(*fncView(window).Shell);
-  const int height = native.height();
+  const double height = window.Height;
   native.setWindowStates(Qt::WindowNoState);
   TheClock().Flush();
-  native.setGeometry(0, 0, qt::fncPixels(width), height);
-  TheClock().Flush();
+  double drawn = 0;
+  for (double scale = 1; scale != drawn; scale = qt::fncScale()) {
+    drawn = scale;  // At that size the program may be drawn at another one.
+    native.setGeometry(0, 0, static_cast<int>(width / 15 * scale),
+                       static_cast<int>(height / 15 * scale));
+    TheClock().Flush();
+  }
 }
 
 void WhileModal(std::function<void()> act) { hand.Modal.push_back(std::move(act)); }

@@ -188,19 +188,22 @@ TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
   EXPECT_EQ(fncShot().copy(card).pixel(35, 48), fncCard(22).pixel(35, 48));
 }
 
-TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
+TEST(Scale, FillsTheFrameWithTableCardAndLists) {
   const struct {
-    double Width, Height, Ratio, Expected;
-  } screens[] = {{1366, 768, 1, 1},      {1920, 1080, 1, 1.5}, {2560, 1440, 1, 2},
-                 {3840, 2160, 1, 3},     {3840, 2160, 2, 1.5}, {800, 600, 1, 1},
-                 {1920, 1080, 1.25, 1.2}};
-  for (const auto& screen : screens) {
-    EXPECT_DOUBLE_EQ(qt::fncFittingScale(QSizeF(screen.Width, screen.Height), screen.Ratio),
-                     screen.Expected)
-        << screen.Width << " at " << screen.Ratio;
+    double Width, Height, Title, Expected;
+  } frames[] = {{1024, 700, 0, 1},      {1024, 768, 25, 1.06},  {1366, 768, 25, 1.09},
+                {1366, 768, 40, 1.07},  {1920, 1080, 25, 1.54}, {3840, 2160, 0, 3.08},
+                {3440, 1440, 25, 2.05}, {1080, 1920, 25, 1.12}, {500, 400, 0, 0.52}};
+  for (const auto& frame : frames) {
+    EXPECT_DOUBLE_EQ(qt::fncFittingScale(QSizeF(frame.Width, frame.Height), frame.Title),
+                     frame.Expected)
+        << frame.Width << " by " << frame.Height;
   }
+}
+
+TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
   const double before = qt::fncScale();
-  for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.5}) {
+  for (const double scale : {0.75, 1.0, 1.09, 1.54, 2.5}) {
     qt::prcSetScale(scale);
     EXPECT_EQ(qt::fncPixels(qt::fncTwips(97)), 97) << scale;
     for (int twips = 0; twips < 400; twips += 7) {
@@ -247,7 +250,7 @@ Lists lists;
 
 TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
   const double before = qt::fncScale();
-  for (double scale = 1; scale <= 4; scale += 0.25) {
+  for (double scale = 0.75; scale <= 4; scale += 0.17) {
     user::Reset();
     qt::prcSetScale(scale);
     lists.Form = Window{};

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWindow>
+#include <cmath>
 
 #include "marking/MarkCard.h"
 #include "platform/Modal.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Screen.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
@@ -105,6 +107,46 @@ TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
     EXPECT_TRUE(List().isVisible());
     EXPECT_EQ(List().geometry(), place);
   }
+}
+
+TEST_F(Windows, TheTableIsDrawnAsLargeAsTheFrameLets) {
+  QWindow& frame = *Shell(MDIForm1.Form).windowHandle();
+  const auto size = [&](int width, int height) {
+    frame.setGeometry(0, 0, width, height);
+    user::Settle();
+  };
+  const QWidget& shuffle = *stage::fncWidget(BaccTable.maisyk);
+  frame.setWindowStates(Qt::WindowNoState);
+  size(1536, 1050);
+  EXPECT_EQ(qt::fncScale(), 1.5);
+  EXPECT_EQ(shuffle.geometry(), qt::fncPlace(BaccTable.maisyk));
+  EXPECT_EQ(shuffle.font().pixelSize(), std::lround(BaccTable.maisyk.Face.Size * 2));
+  EXPECT_EQ(List().width(), qt::fncPixels(frmCardsDealtCount.Form.ScaleWidth));
+  EXPECT_EQ(Shell(BaccTable.Form).x(), qt::fncPixels((1536 * 10 - 10770) / 2.0));
+  size(1536, 1080);
+  EXPECT_EQ(qt::fncScale(), 1.5) << "its edge is still dragged";
+  user::Wait(200);
+  EXPECT_EQ(qt::fncScale(), 1.54);
+  size(400, 300);
+  EXPECT_EQ(qt::fncScale(), 0.75);
+  EXPECT_EQ(Shell(BaccTable.Form).x(), 0) << "what is cut is reached by scrolling";
+  stage::prcKey(Qt::Key_Tab);
+  stage::prcKey(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget()->visibleRegion().boundingRect(),
+            QApplication::focusWidget()->rect());
+}
+
+TEST_F(Windows, KeysOfTheProgramAsAWhole) {
+  const QWidget& frame = Shell(MDIForm1.Form);
+  stage::prcKey(Qt::Key_F11);
+  EXPECT_TRUE(frame.isFullScreen());
+  stage::prcKey(Qt::Key_F11);
+  EXPECT_TRUE(frame.isMaximized() && !frame.isFullScreen());
+  stage::prcKey(Qt::Key_F1);
+  EXPECT_EQ(headless::HelpShown().size(), 1U);
+  GoToList();
+  stage::prcKey(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_TRUE(user::Ended());
 }
 
 TEST_F(Windows, TheListsGoWithTheFrameAndComeBackWithIt) {
