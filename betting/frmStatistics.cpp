@@ -156,6 +156,7 @@ void prcLayOutStatistics(Window& form) {
   prcPlace(form, {&w.Command1, "Command1", -1, ControlKind::Button, 4740, 3600, 1260, 405, "OK"});
   w.cmdResetStats.On = &evtReset;
   w.Command1.On = &evtOk;
+  w.Command1.CancelButton = true;
 }
 
 void Form_Load(Window& form) {
@@ -174,7 +175,15 @@ void Form_Unload(Window& form, bool&) {
   prcSetButton("Statistics", 0);
 }
 
-constexpr WindowEvents evtStatistics{.Load = Form_Load, .Unload = Form_Unload};
+/// Enter leaves a stake, whose check may keep it.
+void Form_KeyDown(Window& form, const std::string& strKey, int /*intShift*/) {
+  if (strKey == "Enter" && form.ActiveControl != nullptr && form.ActiveControl->On == &evtStake) {
+    fncSetFocus(frmStatistics.Command1);
+  }
+}
+
+constexpr WindowEvents evtStatistics{
+    .Load = Form_Load, .Unload = Form_Unload, .KeyDown = Form_KeyDown};
 
 }  // namespace
 

@@ -109,6 +109,8 @@ void prcClicked(Control& control) {
 
 }  // namespace
 
+void (*prcUserHelp)(const Window& window) = [](const Window&) {};
+
 void prcDispatch(const std::function<void()>& handlers) {
   try {
     if (const std::optional<Fault> fault = fncFaultOf(handlers)) {

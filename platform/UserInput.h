@@ -55,6 +55,9 @@ bool fncSeen(const Control& control);
 /// Whether a control and all that holds it is enabled.
 bool fncUsable(const Control& control);
 
+/// Shows help on what has the focus in a window; the program's start sets it.
+extern void (*prcUserHelp)(const Window& window);
+
 /// The Tab key: the focus goes to the next control in the order of the stack behind the focused
 /// one, or before it. Returns whether it got there.
 bool fncUserTab(Window& window, bool blnBackwards);

@@ -139,6 +139,7 @@ void prcLayOutMenus() {
     row.Entry.On = row.Click != nullptr ? &evtEntry : &evtNone;
     row.Entry.Max = row.Stands == Rank::Switch ? 1 : 0;
   }
+  MDIForm1.mnuExit.Shortcut = "Ctrl+Q";
   for (int i = 0; i < MDIForm1.mnuShoeSizeDecks.size(); ++i) {
     MDIForm1.mnuShoeSizeDecks[i].Index = i;
   }

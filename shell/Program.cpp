@@ -3,10 +3,12 @@
 #include "betting/frmStatistics.h"
 #include "evening/Evening.h"
 #include "marking/MarkState.h"
+#include "platform/UserInput.h"
 #include "platform/platform.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/FrameEvents.h"
+#include "shell/SettingsStore.h"
 #include "shell/StartScreen.h"
 #include "shell/frmKaNori.h"
 #include "shell/frmSelectaShoe.h"
@@ -30,6 +32,7 @@ bool fncStartProgram() {
   prcPrepareAbout();
   prcPrepareStartScreen();
   prcStartEvening();
+  prcUserHelp = [](const Window&) { platform::ShowHelp(strHelpFile, 0); };
   prcLoad(Plauk.Form);
   return true;
 }

@@ -207,7 +207,19 @@ void Form_CloseAsked(Window&) {
   MDIForm1_Unload();
 }
 
-void Form_KeyDown(Window&, const std::string& strKey, int /*intShift*/) { prcRevealKey(strKey); }
+/// Enter leaves a box, whose check may keep it, for what comes next.
+void prcLeaveBox(const Window& form) {
+  if (form.ActiveControl != nullptr && form.ActiveControl->Kind == ControlKind::MaskedEdit) {
+    fncSetFocus(BaccTable.duokkortos[0].Visible ? BaccTable.duokkortos[0] : BaccTable.maisyk);
+  }
+}
+
+void Form_KeyDown(Window& form, const std::string& strKey, int /*intShift*/) {
+  prcRevealKey(strKey);
+  if (strKey == "Enter") {
+    prcLeaveBox(form);
+  }
+}
 
 void Form_MouseMove(Window&, const Mouse&) { BaccTable_MouseMove(); }
 

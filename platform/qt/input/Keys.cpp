@@ -211,6 +211,27 @@ bool fncEntryKey(const Window& window, const QKeyEvent& event) {
   return entry != nullptr;
 }
 
+/// The frame over the whole screen, and back to how it was.
+void prcTurnFullScreen() {
+  if (const WindowView* frame = fncFrameView(); frame != nullptr && frame->Source->Visible) {
+    frame->Shell->setWindowState(frame->Shell->windowState() ^ Qt::WindowFullScreen);
+  }
+}
+
+/// The keys for the program as a whole; help cannot be used beside a dialog.
+bool fncProgramKey(const Window& window, const QKeyEvent& event) {
+  const bool blnOurs = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
+                       window.Kind != WindowKind::Dialog;
+  if (blnOurs && event.key() == Qt::Key_F1) {
+    prcServe([&] { prcUserHelp(window); });
+  } else if (blnOurs && event.key() == Qt::Key_F11) {
+    prcTurnFullScreen();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 /// The keys that mean the same in every window. Returns whether the key was one.
 bool fncCommonKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
@@ -232,7 +253,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
     prcServe([&] { fncUserTab(window, key == Qt::Key_Backtab); });
     return true;
   }
-  if (fncAccessKey(window, event) || fncEntryKey(window, event)) {
+  if (fncAccessKey(window, event) || fncEntryKey(window, event) || fncProgramKey(window, event)) {
     return true;
   }
   Control* focused = window.ActiveControl;
