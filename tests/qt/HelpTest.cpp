@@ -3,7 +3,11 @@
 #include <QApplication>
 #include <QFile>
 #include <QImage>
+#include <QPrinter>
+#include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
 #include <set>
 
 #include "judges/Adapter.h"
@@ -38,6 +42,74 @@ TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
   EXPECT_TRUE(help->fncPages().toPlainText().startsWith(QStringLiteral("Exact odds")));
   EXPECT_TRUE(user::Boxes().empty());
   delete help;
+}
+
+QString fncTold(const qt::HelpWindow& help) {
+  const auto* list = help.findChild<QListWidget*>();
+  return help.findChild<QLabel*>()->text().section(QLatin1Char('\n'), 0, 0) + QLatin1Char('|') +
+         (list->currentRow() < 0 || list->selectedItems().isEmpty() ? QString()
+                                                                    : list->currentItem()->text());
+}
+
+TEST(Help, WordsAreFoundOnAllPagesMarkedAndGoneThroughByKeys) {
+  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
+  qt::HelpWindow& help = *fncShown();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+  QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
+  auto& find = *qobject_cast<QLineEdit*>(help.focusWidget());
+  const struct {
+    const char* Typed;
+    int Steps;  ///< Enter, so many times; below 0, Shift+F3.
+    const char* Told;
+    int Marks;
+  } rows[] = {{"x", 0, "Type what you look for into the box above the page.|", 0},
+              {"xyzzy", 1, "Nothing found for \u201cxyzzy\u201d.|", 0},
+              {"Third  CARD", 1, "Pages with \u201cThird CARD\u201d: 8|The draw rules  (4)", 4},
+              {"Third  CARD", 4,
+               "Pages with \u201cThird CARD\u201d: 8|Dealing, one hand or many at a time  (3)", 3},
+              {"third card", -4, "Pages with \u201cthird card\u201d: 8|The draw rules  (4)", 4},
+              {"turnover stake", 1,
+               "Pages with \u201cturnover stake\u201d: 2|Statistics, stake and reset  (14)", 14}};
+  for (const auto& row : rows) {
+    find.setText(QString::fromUtf8(row.Typed));
+    for (int step = 0; step < std::abs(row.Steps); ++step) {
+      QTest::keyClick(&find, row.Steps < 0 ? Qt::Key_F3 : Qt::Key_Return,
+                      row.Steps < 0 ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+    EXPECT_EQ(fncTold(help).toStdString(), row.Told) << row.Typed;
+    EXPECT_EQ(help.fncPages().extraSelections().size(), row.Marks) << row.Typed;
+  }
+  QTest::keyClick(&find, Qt::Key_Escape);
+  EXPECT_TRUE(help.isVisible() && help.fncPages().extraSelections().isEmpty());
+  QTest::keyClick(&find, Qt::Key_Escape);
+  EXPECT_FALSE(help.isVisible());
+  delete &help;
+}
+
+TEST(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
+  QTemporaryDir folder;
+  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
+  qt::HelpWindow& help = *fncShown();
+  qt::HelpPages& pages = help.fncPages();
+  pages.setSource(pages.source().resolved(QUrl(QStringLiteral("rules.html"))));
+  pages.verticalScrollBar()->setValue(pages.verticalScrollBar()->maximum() / 2);
+  const int inSight = pages.cursorForPosition({}).position();
+  const int plain = pages.font().pixelSize();
+  for (const int steps : {0, 2, -4}) {
+    QWheelEvent turn({}, {}, {}, {0, steps * 120}, Qt::NoButton, Qt::ControlModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(pages.viewport(), &turn);
+    EXPECT_EQ(pages.font().pixelSize() > plain, steps > 0) << steps;
+    EXPECT_EQ(pages.cursorForPosition({}).position(), inSight) << steps;
+    EXPECT_EQ(pages.horizontalScrollBar()->maximum(), 0) << steps;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(folder.filePath(QStringLiteral("page.pdf")));
+    EXPECT_TRUE(pages.fncPrint(printer));
+    QFile file(printer.outputFileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("/Count 2")) << steps;
+  }
+  delete &help;
 }
 
 TEST(Help, PicturesAreSmoothAtEveryScale) {

@@ -6,64 +6,59 @@
 #include <QHelpContentWidget>
 #include <QHelpIndexWidget>
 #include <QHelpLink>
-#include <QImage>
 #include <QPointer>
-#include <QResizeEvent>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QScreen>
-#include <QScrollBar>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWindow>
 #include <algorithm>
-#include <cmath>
+#include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
+#include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/WindowViews.h"
 
 namespace qt {
 
 namespace {
 
-constexpr int intWidth = 900;
-constexpr int intHeight = 640;
-constexpr int intSideWidth = 260;
-constexpr double dblPageMargin = 14;
-constexpr double dblPictureScale = 2;  // At which the pictures of the pages were taken.
+constexpr int intWidth = 980;
+constexpr int intHeight = 660;
+constexpr int intSideWidth = 270;
+constexpr int intFindWidth = 190;
 
 QPointer<HelpWindow> wndHelp;
-
-/// The spaces between paragraphs, lines of a list and headings, which the pages leave to the scale.
-QString fncSpaces() {
-  return QStringLiteral(
-             "p, ul, ol, table { margin-top: %1px; margin-bottom: %1px; }"
-             "h1, h2, h3 { margin-top: %2px; margin-bottom: %1px; }"
-             "li { margin-bottom: %3px; }"
-             "th, td { padding: %3px; }")
-      .arg(fncScaled(9))
-      .arg(fncScaled(14))
-      .arg(fncScaled(3));
-}
-
-/// A picture of a page, at the program's scale but no wider than the room it has. It comes with a
-/// palette, which would leave nothing to a smooth scaling but to dither.
-QImage fncFittedPicture(const QImage& picture, int room, double ratio) {
-  const double width = picture.width() / dblPictureScale * fncScale();
-  const double wanted = std::clamp(width, 1.0, std::max(1.0, double(room)));
-  QImage fitted =
-      picture.convertToFormat(QImage::Format_ARGB32_Premultiplied)
-          .scaledToWidth(static_cast<int>(std::lround(wanted * ratio)), Qt::SmoothTransformation);
-  fitted.setDevicePixelRatio(ratio);
-  return fitted;
-}
 
 /// The first page that the contents lead to.
 QUrl fncFirstPage(const QHelpContentModel& contents) {
   const QHelpContentItem* first =
       contents.rowCount() > 0 ? contents.contentItemAt(contents.index(0, 0)) : nullptr;
   return first != nullptr ? first->url() : QUrl();
+}
+
+bool fncSamePage(const QUrl& one, const QUrl& other) {
+  return one.matches(other, QUrl::RemoveFragment);
+}
+
+/// The entry of a page below one of the contents. A section is called by its first page: the page's
+/// own entry is the last one that leads to it.
+QModelIndex fncEntry(const QHelpContentModel& contents, const QUrl& page,
+                     const QModelIndex& above = {}) {
+  for (int row = contents.rowCount(above) - 1; row >= 0; --row) {
+    const QModelIndex at = contents.index(row, 0, above);
+    const QModelIndex below = fncEntry(contents, page, at);
+    if (below.isValid()) {
+      return below;
+    }
+    if (fncSamePage(contents.contentItemAt(at)->url(), page)) {
+      return at;
+    }
+  }
+  return {};
 }
 
 void prcTellNoHelp(const std::string& file) {
@@ -73,43 +68,14 @@ void prcTellNoHelp(const std::string& file) {
 
 }  // namespace
 
-QVariant HelpPages::loadResource(int type, const QUrl& name) {
-  const QUrl whole = name.isRelative() ? source().resolved(name) : name;
-  const QByteArray bytes =
-      whole.scheme() == QLatin1String("qthelp") ? engine_.fileData(whole) : QByteArray();
-  if (type != QTextDocument::ImageResource || bytes.isEmpty()) {
-    return bytes.isEmpty() ? QVariant() : bytes;
-  }
-  pictures_ = true;
-  const int room = viewport()->width() - fncPixels(2 * dblPageMargin * 15);
-  return fncFittedPicture(QImage::fromData(bytes), room, devicePixelRatioF());
-}
-
-void HelpPages::resizeEvent(QResizeEvent* event) {
-  QTextBrowser::resizeEvent(event);
-  if (pictures_ && event->oldSize().width() != event->size().width()) {
-    const int at = verticalScrollBar()->value();
-    reload();
-    verticalScrollBar()->setValue(at);
-  }
-}
-
 HelpWindow::HelpWindow()
     : engine_(folder_.filePath(QStringLiteral("help.qhc"))), pages_(new HelpPages(engine_, this)) {
   setObjectName(QStringLiteral("Help"));
   setWindowTitle(QStringLiteral("Velmora Help"));
   setContextMenuPolicy(Qt::NoContextMenu);
-  resize(fncScaled(intWidth), fncScaled(intHeight));
-  QFont face = fncPlainFont();
-  face.setPixelSize(fncScaled(14));
-  pages_->setFont(face);
+  resize(
+      QSize(fncScaled(intWidth), fncScaled(intHeight)).boundedTo(screen()->availableSize() * 0.95));
   pages_->setAccessibleName(tr("Help page"));
-  pages_->document()->setDocumentMargin(dblPageMargin * fncScale());
-  pages_->document()->setIndentWidth(26 * fncScale());
-  pages_->document()->setDefaultStyleSheet(fncSpaces());
-  // A bar that came and went would change the room that pictures are fitted to.
-  pages_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  pages_->setOpenLinks(false);
   connect(pages_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
     if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https")) {
       QDesktopServices::openUrl(link);
@@ -135,7 +101,9 @@ bool HelpWindow::fncOpen(const QString& file) {
   file_ = file;
   prcMakeBars();
   prcMakeSides();
+  connect(pages_, &QTextBrowser::sourceChanged, this, &HelpWindow::prcFollow);
   pages_->setSource(first);
+  pages_->setFocus();
   return true;
 }
 
@@ -148,41 +116,68 @@ void HelpWindow::prcShowTopic(int context) {
   }
 }
 
+QAction& HelpWindow::fncAdd(QToolBar* bar, const QString& text, const QString& tip,
+                            const QList<QKeySequence>& keys, const std::function<void()>& act) {
+  auto* action = new QAction(text, this);
+  action->setShortcuts(keys);
+  action->setToolTip(keys.isEmpty() ? tip
+                                    : QStringLiteral("%1 (%2)").arg(
+                                          tip, keys.first().toString(QKeySequence::NativeText)));
+  connect(action, &QAction::triggered, this, act);
+  static_cast<QWidget*>(bar != nullptr ? bar : static_cast<QWidget*>(this))->addAction(action);
+  return *action;
+}
+
 void HelpWindow::prcMakeBars() {
   auto* bar = addToolBar(tr("Pages"));
   bar->setMovable(false);
-  const auto step = [&](const QString& text, const QKeySequence& key, auto act) {
-    QAction* action = bar->addAction(text, pages_, act);
-    action->setShortcut(key);
-    return action;
-  };
-  QAction* back = step(tr("Back"), QKeySequence::Back, &QTextBrowser::backward);
-  QAction* forward = step(tr("Forward"), QKeySequence::Forward, &QTextBrowser::forward);
-  step(tr("Home"), QKeySequence(Qt::ALT | Qt::Key_Home), &QTextBrowser::home);
-  back->setEnabled(false);
-  forward->setEnabled(false);
-  connect(pages_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
-  connect(pages_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+  // Back and Forward go along what has been read; the order of the pages stands at their ends.
+  QAction& back = fncAdd(bar, tr("Back"), tr("To the page read before"), {QKeySequence::Back},
+                         [this] { pages_->backward(); });
+  QAction& forward = fncAdd(bar, tr("Forward"), tr("To the page gone back from"),
+                            {QKeySequence::Forward}, [this] { pages_->forward(); });
+  fncAdd(bar, tr("Home"), tr("To the first page"), {QKeySequence(Qt::ALT | Qt::Key_Home)},
+         [this] { pages_->home(); });
+  back.setEnabled(false);
+  forward.setEnabled(false);
+  connect(pages_, &QTextBrowser::backwardAvailable, &back, &QAction::setEnabled);
+  connect(pages_, &QTextBrowser::forwardAvailable, &forward, &QAction::setEnabled);
   bar->addSeparator();
-  find_ = new QLineEdit(bar);
-  find_->setPlaceholderText(tr("Find on this page"));
-  find_->setAccessibleName(tr("Find on this page"));
-  find_->setMaximumWidth(fncScaled(220));
-  bar->addWidget(find_);
-  connect(find_, &QLineEdit::returnPressed, this, [this] { prcFind(false); });
-  bar->addAction(tr("Previous"), this, [this] { prcFind(true); });
-  bar->addAction(tr("Next"), this, [this] { prcFind(false); });
-  auto* start = new QAction(this);
-  start->setShortcut(QKeySequence::Find);
-  connect(start, &QAction::triggered, find_, [this] {
+  fncAdd(bar, tr("A\u2212"), tr("Smaller type"), {QKeySequence::ZoomOut},
+         [this] { pages_->prcZoom(-1); });
+  QAction& size = fncAdd(bar, tr("100%"), tr("Type as large as the table's"),
+                         {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { pages_->prcZoomBack(); });
+  fncAdd(bar, tr("A+"), tr("Larger type"),
+         {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)},
+         [this] { pages_->prcZoom(1); });
+  connect(pages_, &HelpPages::zoomed, &size,
+          [&size](int percent) { size.setText(QStringLiteral("%1%").arg(percent)); });
+  bar->addSeparator();
+  fncAdd(bar, tr("Print..."), tr("Prints this page"), {QKeySequence::Print},
+         [this] { prcPrint(); });
+  bar->addSeparator();
+  prcMakeSearchBar(*bar);
+  fncAdd(nullptr, {}, {}, {QKeySequence(Qt::Key_Escape)}, [this] { prcLeave(); });
+}
+
+void HelpWindow::prcMakeSearchBar(QToolBar& bar) {
+  find_ = new QLineEdit(&bar);
+  find_->setPlaceholderText(tr("Search all pages"));
+  find_->setAccessibleName(tr("Search all pages"));
+  find_->setToolTip(tr("Words to look for on all pages (Ctrl+F)"));
+  find_->setClearButtonEnabled(true);
+  find_->setMaximumWidth(fncScaled(intFindWidth));
+  bar.addWidget(find_);
+  connect(find_, &QLineEdit::textChanged, this, &HelpWindow::prcSearch);
+  connect(find_, &QLineEdit::returnPressed, this, [this] { prcStep(false); });
+  stepBack_ = &fncAdd(&bar, tr("Previous hit"), tr("To the place found before this one"),
+                      {QKeySequence::FindPrevious}, [this] { prcStep(true); });
+  stepOn_ = &fncAdd(&bar, tr("Next hit"), tr("To the next place found"), {QKeySequence::FindNext},
+                    [this] { prcStep(false); });
+  fncAdd(nullptr, {}, {}, {QKeySequence::Find}, [this] {
     find_->setFocus();
     find_->selectAll();
   });
-  addAction(start);
-  auto* leave = new QAction(this);
-  leave->setShortcut(QKeySequence(Qt::Key_Escape));
-  connect(leave, &QAction::triggered, this, &QWidget::close);
-  addAction(leave);
 }
 
 void HelpWindow::closeEvent(QCloseEvent* event) {
@@ -190,35 +185,46 @@ void HelpWindow::closeEvent(QCloseEvent* event) {
   QMainWindow::closeEvent(event);
 }
 
+void HelpWindow::prcLeave() {
+  if (find_->text().isEmpty()) {
+    close();
+  } else {
+    find_->clear();
+  }
+}
+
 void HelpWindow::prcMakeSides() {
-  auto* sides = new QTabWidget(this);
-  QHelpContentWidget* contents = engine_.contentWidget();
-  contents->setAccessibleName(tr("Contents"));
-  contents->setIndentation(fncScaled(14));
-  connect(contents, &QHelpContentWidget::linkActivated, pages_,
-          [this](const QUrl& link) { pages_->setSource(link); });
-  connect(contents, &QHelpContentWidget::clicked, pages_, [this](const QModelIndex& at) {
-    if (const QHelpContentItem* item = engine_.contentModel()->contentItemAt(at)) {
-      pages_->setSource(item->url());
-    }
-  });
-  connect(engine_.contentModel(), &QHelpContentModel::contentsCreated, contents,
-          [contents] { contents->expandToDepth(1); });
-  sides->addTab(contents, tr("Contents"));
-  sides->addTab(fncMakeIndex(), tr("Index"));
+  sides_ = new QTabWidget(this);
+  sides_->addTab(fncMakeContents(), tr("Contents"));
+  sides_->addTab(fncMakeIndex(), tr("Index"));
+  sides_->addTab(fncMakeSearch(), tr("Found"));
   auto* split = new QSplitter(this);
-  split->addWidget(sides);
+  split->addWidget(sides_);
   split->addWidget(pages_);
   split->setStretchFactor(1, 1);
   split->setSizes({fncScaled(intSideWidth), fncScaled(intWidth - intSideWidth)});
   setCentralWidget(split);
   // Tab goes from link to link of a page; this key goes past them.
-  auto* change = new QAction(this);
-  change->setShortcut(QKeySequence(Qt::Key_F6));
-  connect(change, &QAction::triggered, this, [this, sides] {
-    pages_->hasFocus() ? sides->currentWidget()->setFocus() : pages_->setFocus();
+  fncAdd(nullptr, {}, {}, {QKeySequence(Qt::Key_F6)},
+         [this] { pages_->hasFocus() ? sides_->currentWidget()->setFocus() : pages_->setFocus(); });
+  prcSearch();
+}
+
+QWidget* HelpWindow::fncMakeContents() {
+  QHelpContentWidget* contents = engine_.contentWidget();
+  contents->setAccessibleName(tr("Contents"));
+  contents->setIndentation(fncScaled(14));
+  connect(contents, &QHelpContentWidget::linkActivated, this, &HelpWindow::prcOpen);
+  connect(contents, &QHelpContentWidget::clicked, this, [this](const QModelIndex& at) {
+    if (const QHelpContentItem* item = engine_.contentModel()->contentItemAt(at)) {
+      prcOpen(item->url());
+    }
   });
-  addAction(change);
+  connect(engine_.contentModel(), &QHelpContentModel::contentsCreated, this, [this, contents] {
+    contents->expandToDepth(1);
+    prcFollow(pages_->source());
+  });
+  return contents;
 }
 
 QWidget* HelpWindow::fncMakeIndex() {
@@ -237,22 +243,103 @@ QWidget* HelpWindow::fncMakeIndex() {
   connect(filter, &QLineEdit::textChanged, index,
           [index](const QString& text) { index->filterIndices(text); });
   connect(filter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
-  connect(index, &QHelpIndexWidget::documentActivated, pages_,
+  connect(index, &QHelpIndexWidget::documentActivated, this,
           [this](const QHelpLink& link) { pages_->setSource(link.url); });
-  connect(index, &QHelpIndexWidget::documentsActivated, pages_,
+  connect(index, &QHelpIndexWidget::documentsActivated, this,
           [this](const QList<QHelpLink>& links) { pages_->setSource(links.first().url); });
   return side;
 }
 
-void HelpWindow::prcFind(bool blnBackwards) {
-  const QTextDocument::FindFlags flags =
-      blnBackwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
-  if (find_->text().isEmpty() || pages_->find(find_->text(), flags)) {
+QWidget* HelpWindow::fncMakeSearch() {
+  auto* side = new QWidget(this);
+  side->setAccessibleName(tr("Found"));
+  told_ = new QLabel(side);
+  told_->setWordWrap(true);
+  list_ = new QListWidget(side);
+  list_->setAccessibleName(tr("Pages found"));
+  side->setFocusProxy(list_);
+  auto* rows = new QVBoxLayout(side);
+  rows->addWidget(told_);
+  rows->addWidget(list_);
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0 && !fncSamePage(found_.Pages.at(row).Address, pages_->source())) {
+      pages_->setSource(found_.Pages.at(row).Address);
+      pages_->fncStep(false);
+    }
+  });
+  return side;
+}
+
+void HelpWindow::prcOpen(const QUrl& page) {
+  if (pages_->source() != page) {
+    pages_->setSource(page);
+  }
+}
+
+void HelpWindow::prcFollow(const QUrl& page) {
+  QHelpContentWidget& contents = *engine_.contentWidget();
+  const QHelpContentModel& entries = *engine_.contentModel();
+  const QHelpContentItem* chosen = entries.contentItemAt(contents.currentIndex());
+  if (chosen == nullptr || !contents.currentIndex().isValid() ||
+      !fncSamePage(chosen->url(), page)) {
+    contents.setCurrentIndex(fncEntry(entries, page));
+  }
+  const auto at = std::ranges::find_if(
+      found_.Pages, [&](const HelpPlace& found) { return fncSamePage(found.Address, page); });
+  const QSignalBlocker quiet(list_);  // The page is on its way already.
+  list_->setCurrentRow(at == found_.Pages.end() ? -1 : static_cast<int>(at - found_.Pages.begin()));
+}
+
+void HelpWindow::prcSearch() {
+  const QString typed = find_->text().simplified();
+  if (!typed.isEmpty() && texts_.isEmpty()) {
+    texts_ = fncHelpTexts(engine_, file_);
+  }
+  found_ = fncSearch(texts_, typed);
+  const bool blnSought = !found_.Sought.pattern().isEmpty();
+  const bool blnFound = !found_.Pages.isEmpty();
+  list_->clear();
+  for (const HelpPlace& page : found_.Pages) {
+    list_->addItem(QStringLiteral("%1  (%2)").arg(page.Title).arg(page.Places));
+  }
+  told_->setText(
+      !blnSought ? tr("Type what you look for into the box above the page.")
+      : blnFound ? tr("Pages with \u201c%1\u201d: %2").arg(typed).arg(list_->count())
+                 : tr("Nothing found for \u201c%1\u201d.\nTry fewer or shorter words.").arg(typed));
+  pages_->prcMark(found_.Sought);
+  stepBack_->setEnabled(blnFound);
+  stepOn_->setEnabled(blnFound);
+  const int last = sides_->count() - 1;
+  if (blnSought || sides_->currentIndex() == last) {
+    sides_->setCurrentIndex(blnSought ? last : 0);
+  }
+  prcFollow(pages_->source());
+}
+
+void HelpWindow::prcStep(bool blnBackwards) {
+  const int row = list_->currentRow();
+  const int count = list_->count();
+  if (count == 0 || (row >= 0 && pages_->fncStep(blnBackwards))) {
     return;
   }
-  // Once round the page.
-  pages_->moveCursor(blnBackwards ? QTextCursor::End : QTextCursor::Start);
-  pages_->find(find_->text(), flags);
+  const int next = row < 0 ? 0 : (row + (blnBackwards ? count - 1 : 1)) % count;
+  prcOpen(found_.Pages.at(next).Address);
+  pages_->fncStep(blnBackwards && row >= 0);
+}
+
+void HelpWindow::prcPrint() {
+  const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(pages_->documentTitle());
+  auto* dialog = new QPrintDialog(printer.get(), this);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setOptions(QAbstractPrintDialog::PrintToFile);
+  connect(dialog, &QDialog::accepted, pages_, [this, printer] {
+    if (!pages_->fncPrint(*printer)) {
+      prcServe(
+          [] { platform::MsgBox("The page could not be printed.", platform::Icon::Exclamation); });
+    }
+  });
+  dialog->QDialog::open();
 }
 
 }  // namespace qt

@@ -1,33 +1,19 @@
 #pragma once
 
 #include <QHelpEngine>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
+#include <QTabWidget>
 #include <QTemporaryDir>
-#include <QTextBrowser>
+
+#include "platform/qt/machine/HelpPages.h"
+#include "platform/qt/machine/HelpSearch.h"
 
 // The program's help: a compressed help file with contents and index, and its pages.
 
 namespace qt {
-
-/// Shows pages out of a help file.
-class HelpPages : public QTextBrowser {
-  Q_OBJECT
-
- public:
-  HelpPages(QHelpEngine& engine, QWidget* parent) : QTextBrowser(parent), engine_(engine) {}
-
-  /// Pages, styles and pictures come out of the help file, never from elsewhere.
-  QVariant loadResource(int type, const QUrl& name) override;
-
- protected:
-  /// Pictures as wide as the page are fitted to it anew.
-  void resizeEvent(QResizeEvent* event) override;
-
- private:
-  QHelpEngine& engine_;
-  bool pictures_ = false;  ///< Whether a page with pictures has been shown.
-};
 
 /// The help window. It keeps its own collection in a folder that goes with it.
 class HelpWindow : public QMainWindow {
@@ -52,15 +38,37 @@ class HelpWindow : public QMainWindow {
 
  private:
   void prcMakeBars();
+  void prcMakeSearchBar(QToolBar& bar);
+  /// An action with its keys; it stands on the bar, or works by its keys alone where there is none.
+  QAction& fncAdd(QToolBar* bar, const QString& text, const QString& tip,
+                  const QList<QKeySequence>& keys, const std::function<void()>& act);
   void prcMakeSides();
+  QWidget* fncMakeContents();
   QWidget* fncMakeIndex();
-  void prcFind(bool blnBackwards);
+  QWidget* fncMakeSearch();
+
+  /// Shows a page, unless it is the one in sight.
+  void prcOpen(const QUrl& page);
+  /// Lets contents and search point at the page that comes into sight.
+  void prcFollow(const QUrl& page);
+  void prcSearch();
+  /// Goes to the next place found, or the one before, on this page or another.
+  void prcStep(bool blnBackwards);
+  void prcLeave();
+  void prcPrint();
 
   QTemporaryDir folder_;
   QString file_;
   QHelpEngine engine_;
   HelpPages* pages_;
+  QTabWidget* sides_ = nullptr;
   QLineEdit* find_ = nullptr;
+  QAction* stepBack_ = nullptr;
+  QAction* stepOn_ = nullptr;
+  QLabel* told_ = nullptr;
+  QListWidget* list_ = nullptr;
+  QList<HelpText> texts_;
+  HelpFound found_;
 };
 
 }  // namespace qt

@@ -1,0 +1,64 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "platform/Window.h"
+#include "shell/HelpTopics.h"
+#include "table/DrawRules.h"
+
+namespace {
+
+std::string fncFile(const char* name) {
+  std::ifstream file(std::string(VELMORA_HELP_PAGES "/") + name);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(HelpPages, ThePictureOfTheDrawIsDrawnByTheRules) {
+  const std::string picture = fncFile("pictures/draw.svg");
+  const auto expect = [&](const std::string& field, const char* act) {
+    EXPECT_NE(picture.find("id=\"" + field + "-" + act + "\""), std::string::npos) << field << act;
+  };
+  for (int total = 0; total <= 9; ++total) {
+    expect("player" + std::to_string(total), fncNatural(total)       ? "natural"
+                                             : fncPlayerDraws(total) ? "draws"
+                                                                     : "stands");
+    for (int third = 0; total < 8 && third <= 10; ++third) {
+      const bool blnStood = third == 10;
+      expect("banker" + std::to_string(total) + "-" + (blnStood ? "stood" : std::to_string(third)),
+             fncBankerDraws(total, blnStood, blnStood ? 0 : third) ? "draws" : "stands");
+    }
+  }
+}
+
+TEST(HelpPages, TheTopicOfWhatHasTheFocusLeadsToItsPage) {
+  const struct {
+    const char *Window, *Control, *Page;
+  } rows[] = {{"BaccTable", "", "first.html"},
+              {"BaccTable", "txtTieBet", "betting.html"},
+              {"BaccTable", "txtUnitValue", "betting.html#chipvalue"},
+              {"BaccTable", "duokkortos", "dealing.html"},
+              {"BaccTable", "maisyk", "shuffling.html"},
+              {"BaccTable", "pctCardBack", "squeezing.html"},
+              {"MarkCard", "", "markingcard.html"},
+              {"frmCardsDealt", "", "cardsdealt.html"},
+              {"frmStatistics", "mskSteak", "statistics.html"},
+              {"frmHands", "grdHands", "hands.html"},
+              {"frmCourse", "crtMoney", "course.html"},
+              {"frmCourse", "grdEdge", "luck.html"},
+              {"MDIForm1", "", "menus.html"},
+              {"KasSitas", "cmdOK", "index.html"}};
+  const std::string index = fncFile("velmora.qhp");
+  for (const auto& row : rows) {
+    Control focused;
+    Window window;
+    window.Name = row.Window;
+    focused.Name = row.Control;
+    window.ActiveControl = *row.Control != 0 ? &focused : nullptr;
+    const std::string entry =
+        "id=\"context" + std::to_string(fncHelpTopic(window)) + "\" ref=\"" + row.Page + "\"";
+    EXPECT_NE(index.find(entry), std::string::npos) << row.Window << row.Control << ' ' << entry;
+  }
+}
+
+}  // namespace
