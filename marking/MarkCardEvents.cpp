@@ -247,6 +247,8 @@ void prcMarkCardResize(const Integer& card) {
   running.Step(2);
   form->HScroll1.Max = form->Picture1.Width - form->VScroll1.Left;
   form->VScroll1.Max = form->Picture1.Height - form->HScroll1.Top;
+  form->HScroll1.Page = form->VScroll1.Left;
+  form->VScroll1.Page = form->HScroll1.Top;
   running.Step(3);
   prcSetSteps(form->HScroll1);
   prcSetSteps(form->VScroll1);

@@ -94,7 +94,11 @@ enum class Look : std::uint8_t {
   PullEdge,   ///< An edge to pull at, upwards or to the left.
   ChipStack,  ///< As many chips as the value says; hollow while disabled.
   Won,
-  Lost
+  Lost,
+  Money,     ///< A label of money, Value: in red below 0, and messages keep off it.
+  Mark,      ///< On a marking card: the frame of a mark or, in it, the text.
+  LostMark,  ///< The same of a hand that lost.
+  Squared    ///< A picture with a faint grid: lines from X1, Y1 on, cells of X2 by Y2 twips.
 };
 
 /// Mouse buttons as handlers get them.
@@ -184,6 +188,9 @@ struct Control {
 
   // Values: a check box, option, menu entry and tool button hold 0 or 1.
   double Value = 0, Min = 0, Max = 0, SmallChange = 1, LargeChange = 1;
+  /// How much a scroll bar's window shows of the whole at a time, in units of its value; 0 takes
+  /// LargeChange for it. The bar's slider is as long as that.
+  double Page = 0;
   ButtonStyle Style = ButtonStyle::Check;
   bool Default = false, CancelButton = false;  ///< Answers Enter, answers Escape.
 
@@ -198,6 +205,8 @@ struct Control {
   std::shared_ptr<const GridData> Grid;    ///< platform/Grid.h; another one shows other rows.
   std::shared_ptr<const ChartData> Chart;  ///< platform/Chart.h; another one draws anew.
   int ListIndex = -1;
+  /// The character, from 0, at which a list's second column begins; 0 for a list of one column.
+  int ListTab = 0;
 
   // Timers, in milliseconds; a timer runs while Enabled and Interval is above 0.
   Long Interval = 0;

@@ -96,6 +96,7 @@ void prcLayOutCards() {
   };
   prcLayOut(frmCardsDealt.Form, rows);
   frmCardsDealt.lstCardsDealt.BackColor = clrWhite;
+  frmCardsDealt.lstCardsDealt.ListTab = intMarkColumn;
   frmCardsDealt.lstCardsDealt.Spoken = "Cards dealt";
   frmCardsDealt.chkOnTop.BackColor = clrWhite;
   frmCardsDealt.chkOnTop.On = &evtOnTop;

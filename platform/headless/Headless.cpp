@@ -142,7 +142,7 @@ void prcCentre(Window& window) {
 void prcKeepInner(Window& window) {
   const double border = 2 * 15 * (window.Sizable ? 4 : window.TitleBar ? 1 : 0);
   const double width = window.Width - border;
-  const double height = window.Height - border - (window.TitleBar ? 15 * 22 : 0);
+  const double height = window.Height - border - (window.TitleBar ? 15 * 20 : 0);
   if (width == window.ScaleWidth && height == window.ScaleHeight) {
     return;
   }

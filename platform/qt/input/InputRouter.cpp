@@ -4,9 +4,11 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Bars.h"
 #include "platform/qt/views/Flip.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/InFront.h"
@@ -135,6 +137,9 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
       blnTaken = fncMouseEvent(widget, *static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::Wheel:
+      blnTaken = fncWheeled(widget, *static_cast<QWheelEvent*>(event));
       break;
     case QEvent::FocusIn:
       // Not by the model: an assistive tool has set it, or the toolkit.
@@ -280,6 +285,16 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
     prcServe([&] { window->On->MouseMove(*window, mouse); });
   }
   return true;
+}
+
+bool InputRouter::fncWheeled(QWidget& widget, const QWheelEvent& event) {
+  WindowView* home = fncWindowViewOf(&widget);
+  if (home == nullptr || fncLive(*home) == nullptr) {
+    return false;
+  }
+  const Control* control = fncMeant(widget);
+  const bool blnOwn = control != nullptr && fncNative(control->Kind);
+  return (!blnOwn || fncIsBar(*control)) && fncTurnBar(*home, control, event);
 }
 
 bool InputRouter::fncReleased(const QMouseEvent& event) {

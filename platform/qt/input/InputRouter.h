@@ -49,6 +49,7 @@ class InputRouter : public QObject {
   bool fncDragged(const QMouseEvent& event);
   bool fncHovered(QWidget& widget, const QMouseEvent& event);
   bool fncReleased(const QMouseEvent& event);
+  bool fncWheeled(QWidget& widget, const QWheelEvent& event);
 
   /// Ends a press whose button is no longer down: it came up while something else had the mouse,
   /// such as a message answered by key. It leads to no click.

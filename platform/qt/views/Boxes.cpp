@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "platform/UserInput.h"
@@ -57,6 +58,35 @@ void prcColour(QWidget& widget, const Control& control) {
   palette.setColor(QPalette::WindowText, QColor::fromRgb(rgbOutline));  // A list's frame.
   widget.setPalette(palette);
 }
+
+/// Draws the rows of a list of two columns: what stands in the second begins at the same place in
+/// all of them.
+class ColumnsDelegate : public QStyledItemDelegate {
+ public:
+  ColumnsDelegate(const RowsView& rows, int tab) : rows_(rows), tab_(tab) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    const bool blnSelected = (option.state & QStyle::State_Selected) != 0;
+    painter->setFont(rows_.font());
+    painter->setPen(
+        rows_.palette().color(blnSelected ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawText(option.rect.adjusted(rows_.fncSecondColumn(), 0, 0, 0),
+                      static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter),
+                      index.data().toString().mid(tab_).trimmed());
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->text = option->text.left(tab_).trimmed();
+  }
+
+ private:
+  const RowsView& rows_;
+  int tab_;
+};
 
 /// Rows of a fixed face are set solid, as its list is laid out for: thirteen counts fit their box
 /// at any scale if no row is rounded up.
@@ -200,6 +230,10 @@ RowsView::RowsView(ControlView& view, QWidget* parent) : QListWidget(parent), vi
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
+  if (const int tab = view.Drawn.ListTab; tab > 0) {
+    columns_ = std::make_unique<ColumnsDelegate>(*this, tab);
+    setItemDelegate(columns_.get());
+  }
   connect(this, &QListWidget::currentRowChanged, this, [this](int row) {
     Control* list = view_ != nullptr && !fncSyncing() ? fncLive(*view_) : nullptr;
     if (list != nullptr) {
@@ -225,6 +259,16 @@ void RowsView::prcUpdate(const Control& control, bool blnFirst) {
   }
 }
 
+int RowsView::fncFirstWidth(const QFont& font) const {
+  const QFontMetrics metrics(font);
+  const QString gap = second_.isEmpty() ? QString() : QStringLiteral("  ");
+  return metrics.horizontalAdvance(first_ + gap);
+}
+
+int RowsView::fncSecondColumn() const {
+  return style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1 + fncFirstWidth(font());
+}
+
 void RowsView::paintEvent(QPaintEvent* event) {
   QListWidget::paintEvent(event);
   if (hasFocus()) {
@@ -242,14 +286,19 @@ void RowsView::prcFill(const Control& control, bool blnFirst) {
     clear();
   }
   const QFontMetrics metrics(fncRowFont(control.Face));
+  const auto widen = [&](QString& widest, const QString& text) {
+    if (metrics.horizontalAdvance(text) > metrics.horizontalAdvance(widest)) {
+      widest = text;
+    }
+  };
   for (std::size_t row = static_cast<std::size_t>(count()); row < rows.size(); ++row) {
     auto* shown = new QListWidgetItem(fncText(rows[row]), this);
     if (control.Face.Fixed) {
       shown->setSizeHint(QSize(0, font().pixelSize()));
     }
-    if (metrics.horizontalAdvance(shown->text()) > metrics.horizontalAdvance(longest_)) {
-      longest_ = shown->text();
-    }
+    const int tab = control.ListTab > 0 ? control.ListTab : static_cast<int>(rows[row].size());
+    widen(first_, shown->text().left(tab).trimmed());
+    widen(second_, shown->text().mid(tab).trimmed());
   }
   prcNarrow(control);
 }
@@ -262,7 +311,8 @@ void RowsView::prcNarrow(const Control& control) {
   QFont narrow = fncRowFont(control.Face);
   for (int stretch = 100; stretch >= 70; --stretch) {
     narrow.setStretch(stretch);
-    if (control.Face.Fixed || QFontMetrics(narrow).horizontalAdvance(longest_) <= room) {
+    if (control.Face.Fixed ||
+        fncFirstWidth(narrow) + QFontMetrics(narrow).horizontalAdvance(second_) <= room) {
       break;
     }
   }

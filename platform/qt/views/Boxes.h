@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QValidator>
+#include <memory>
 
 #include "platform/qt/windows/Screen.h"
 
@@ -50,16 +51,20 @@ class RowsView : public QListWidget {
 
   void prcDetach() { view_ = nullptr; }
   void prcUpdate(const Control& control, bool blnFirst);
+  /// Where the second column of a list of two begins, in pixels from a row's left.
+  int fncSecondColumn() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  int fncFirstWidth(const QFont& font) const;
   void prcFill(const Control& control, bool blnFirst);
   void prcNarrow(const Control& control);
 
   ControlView* view_;
-  QString longest_;  ///< The longest row ever shown.
+  QString first_, second_;  ///< The widest texts of both columns ever shown.
+  std::unique_ptr<QAbstractItemDelegate> columns_;
 };
 
 }  // namespace qt

@@ -1,6 +1,5 @@
 #include "platform/qt/views/ControlViews.h"
 
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTimer>
@@ -12,6 +11,7 @@
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Accessible.h"
+#include "platform/qt/views/Bars.h"
 #include "platform/qt/views/Boxes.h"
 #include "platform/qt/views/Buttons.h"
 #include "platform/qt/views/Captions.h"
@@ -155,7 +155,7 @@ QWidget* fncMakeRange(ControlView& view, QWidget* parent) {
   if (blnSlider) {
     range = new QSlider(way, parent);
   } else {
-    range = new QScrollBar(way, parent);
+    range = new BarView(way, parent);
   }
   range->setFocusPolicy(blnSlider ? Qt::TabFocus : Qt::NoFocus);
   QObject::connect(range, &QAbstractSlider::valueChanged, range, [&view](int value) {
@@ -171,6 +171,9 @@ void prcUpdateRange(ControlView& view, const Control& next, bool /*blnFirst*/) {
   range->setSingleStep(std::max(1, fncWhole(next.SmallChange)));
   range->setPageStep(std::max(1, fncWhole(next.LargeChange)));
   range->setValue(fncWhole(next.Value));
+  if (auto* bar = qobject_cast<BarView*>(range); bar != nullptr) {
+    bar->prcShowPage(std::max(0, fncWhole(next.Page)));
+  }
 }
 
 QWidget* fncMakeBar(ControlView& view, QWidget* /*parent*/) {

@@ -15,10 +15,16 @@ namespace qt {
 
 namespace {
 
-constexpr int intTitleHeight = 22;
+/// What title bar and border take of a child's height. A marking card at its full height shows nine
+/// rows and no bar beside them only where this never rounds up.
+constexpr int intFrameHeight = 28;
 constexpr int intBorder = 4;
 constexpr int intThinBorder = 1;
 constexpr int intLeastSize = 60;
+
+int fncTitleHeight() {
+  return static_cast<int>(intFrameHeight * fncScale()) - 2 * fncScaled(intBorder);
+}
 
 Qt::CursorShape fncEdgeCursor(Qt::Edges edges) {
   const bool blnSide = (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0;
@@ -72,7 +78,7 @@ QMargins ChildShell::fncFrame() const {
   } else if (window.TitleBar) {
     border = fncScaled(intThinBorder);
   }
-  const int title = window.TitleBar ? fncScaled(intTitleHeight) : 0;
+  const int title = window.TitleBar ? fncTitleHeight() : 0;
   return {border, border + title, border, border};
 }
 
@@ -91,7 +97,7 @@ void ChildShell::paintEvent(QPaintEvent* /*event*/) {
     return;
   }
   const QRect bar(frame.left(), frame.bottom(), width() - frame.left() - frame.right(),
-                  fncScaled(intTitleHeight));
+                  fncTitleHeight());
   painter.fillRect(bar, blnActive ? QColor::fromRgb(rgbFelt) : QColor(0xCF, 0xC6, 0xAE));
   QFont font = fncPlainFont();
   font.setBold(true);
@@ -118,7 +124,7 @@ void ChildShell::resizeEvent(QResizeEvent* /*event*/) {
 
 QRect ChildShell::fncCloseBox() const {
   const QMargins frame = fncFrame();
-  const int side = fncScaled(intTitleHeight);
+  const int side = fncTitleHeight();
   return {width() - frame.right() - side, frame.bottom(), side, side};
 }
 

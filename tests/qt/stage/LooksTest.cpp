@@ -18,6 +18,7 @@
 #include "platform/platform.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Boxes.h"
 #include "tests/qt/stage/Stage.h"
 
 // What only a real screen shows: pixels, cursors, tool tips, names, menus and bars.
@@ -263,13 +264,17 @@ TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
     prcLayOut(lists.Form, rows);
     lists.lstCount.Face = {.Size = 9.75F, .Fixed = true};
     lists.lstCount.List.assign(13, "King 8  8  8  8");
+    lists.lstCards.ListTab = 14;
     lists.lstCards.List.assign(40, "Queen Diamond  <-Burnt");
     prcShow(lists.Form);
     user::Settle();
     const auto& count = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCount));
     EXPECT_EQ(count.verticalScrollBar()->maximum(), 0) << "at scale " << scale;
     const auto& cards = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCards));
-    EXPECT_LE(cards.sizeHintForColumn(0), cards.viewport()->width()) << "at scale " << scale;
+    const int marks = static_cast<const qt::RowsView&>(cards).fncSecondColumn();
+    EXPECT_LE(marks + cards.fontMetrics().horizontalAdvance(QStringLiteral("<-Burnt")),
+              cards.viewport()->width())
+        << "at scale " << scale;
   }
   user::Reset();
   qt::prcSetScale(before);

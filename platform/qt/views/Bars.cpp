@@ -1,0 +1,66 @@
+#include "platform/qt/views/Bars.h"
+
+#include <QStyleOptionSlider>
+#include <QWheelEvent>
+
+#include "platform/UserInput.h"
+#include "platform/qt/windows/Reports.h"
+#include "platform/qt/windows/Screen.h"
+
+namespace qt {
+
+namespace {
+
+/// A bar that can be moved and does not stand outside of the window.
+bool fncMovable(const Control& bar, const Window& window) {
+  return fncSeen(bar) && bar.Enabled && bar.Max > bar.Min && bar.Left < window.ScaleWidth &&
+         bar.Top < window.ScaleHeight;
+}
+
+const Control* fncBarFor(const Window& window, bool blnAcross) {
+  const Control* found = nullptr;
+  for (const Control* bar : window.Controls) {
+    if (!fncIsBar(*bar) || !fncMovable(*bar, window)) {
+      continue;
+    }
+    const bool blnUpright = bar->Kind == ControlKind::VScrollBar;
+    if (blnUpright != blnAcross) {
+      return bar;
+    }
+    found = blnUpright ? found : bar;
+  }
+  return found;
+}
+
+}  // namespace
+
+bool fncIsBar(const Control& control) {
+  return control.Kind == ControlKind::VScrollBar || control.Kind == ControlKind::HScrollBar;
+}
+
+void BarView::prcShowPage(int page) {
+  page_ = page;
+  update();
+}
+
+void BarView::initStyleOption(QStyleOptionSlider* option) const {
+  QScrollBar::initStyleOption(option);
+  option->pageStep = page_ > 0 ? page_ : option->pageStep;
+}
+
+bool fncTurnBar(WindowView& home, const Control* control, const QWheelEvent& event) {
+  const QPoint turn = event.angleDelta();
+  const bool blnAcross = turn.y() == 0 || event.modifiers().testFlag(Qt::ShiftModifier);
+  const Control* bar =
+      control != nullptr && fncIsBar(*control) ? control : fncBarFor(*home.Source, blnAcross);
+  if (bar == nullptr) {
+    return false;
+  }
+  const double notches = (turn.y() != 0 ? turn.y() : turn.x()) / 120.0;
+  prcAct(*bar, [notches](Control& turned) {
+    prcUserValue(turned, turned.Value - notches * turned.SmallChange);
+  });
+  return true;
+}
+
+}  // namespace qt
