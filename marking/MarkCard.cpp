@@ -4,6 +4,7 @@
 #include <array>
 
 #include "marking/MarkState.h"
+#include "marking/MarkTip.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
 
@@ -34,6 +35,8 @@ void prcEmptyFamily(ControlFamily& family) {
   std::erase_if(family, [](const auto& entry) { return entry.first > 0; });
 }
 
+Look fncLook(const Mark& mark) { return mark.Lost.value_or(false) ? Look::LostMark : Look::Mark; }
+
 Colour fncTextColour(bool negative) { return negative ? clrDarkRed : clrWindowText; }
 
 /// Puts an element where column c has it.
@@ -50,8 +53,8 @@ int fncMakeMark(MarkCardWindow& form, const Integer& handsDealt) {
     intMarkShapeTop = fncInteger(form.shpTBP.at(0).Top);
   }
   if (handsDealt > 1) {
-    fncMakeElement(form, form.lblTBP, i);
     fncMakeElement(form, form.shpTBP, i);
+    fncMakeElement(form, form.lblTBP, i);  // Above its frame, which a loss fills.
   }
   fncElement(form.shpTBP, i).Height = intMarkShapeHeight;
   return i;
@@ -99,6 +102,7 @@ double fncShapeTop(const Mark& mark) {
 void prcPlaceShape(MarkCardWindow& form, Control& shape, const Mark& mark) {
   shape.BorderColor = mark.Border;
   shape.Form2D = mark.Oval ? ShapeForm::Oval : ShapeForm::Rectangle;
+  shape.Dress = fncLook(mark);
   if (mark.TieLine) {
     shape.Height = intTieLineHeight;
   }
@@ -108,6 +112,7 @@ void prcPlaceShape(MarkCardWindow& form, Control& shape, const Mark& mark) {
 
 void prcPlaceText(MarkCardWindow& form, Control& text, const Mark& mark) {
   text.Text = mark.Caption;
+  text.Dress = fncLook(mark);
   if (mark.Lost) {
     text.ForeColor = fncTextColour(*mark.Lost);
   }
@@ -129,7 +134,7 @@ void prcKeepInView(MarkCardWindow& form, const Control& shape) {
   form.Picture1.Left = -form.HScroll1.Value;
 }
 
-void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
+void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark, const std::string& strTip) {
   if (!mark.Heading.empty()) {
     prcShowHeadings(form, mark.Heading);
   }
@@ -144,6 +149,7 @@ void prcDrawMark(MarkCardWindow& form, int i, const Mark& mark) {
   shape.Visible = true;
   text.Visible = !mark.TieLine;
   (mark.TieLine ? shape : text).Spoken = "Hand " + std::to_string(i + 1) + ", " + mark.Spoken;
+  text.ToolTip = strTip;
   prcKeepInView(form, shape);
   platform::RepaintNow(form.Picture1);
 }
@@ -204,7 +210,7 @@ void SetCardView(const Integer& card) {
   const Mark mark = fncPlaceMark(card);
   running.Step(4);
   if (form != nullptr) {
-    prcDrawMark(*form, i, mark);
+    prcDrawMark(*form, i, mark, fncMarkTip(card));
   }
 }
 

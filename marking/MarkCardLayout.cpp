@@ -6,6 +6,9 @@
 
 namespace {
 
+/// The grid's lines part the columns in the middle between marks, and the rows below the headings.
+constexpr double dblGridLeft = 30;
+constexpr double dblGridTop = 465;
 constexpr Colour clrRule{150, 160, 178};
 constexpr Colour clrBarCorner{240, 240, 240};
 
@@ -25,9 +28,10 @@ void prcCentredLabel(Control& label, const Type& face) {
 
 /// The first element of each family stays hidden until the first hand of a shoe.
 void prcDressFamilies(MarkCardWindow& form) {
-  prcCentredLabel(form.lblTotal[0], {.Size = 8});
+  prcCentredLabel(form.lblTotal[0], {.Size = 8.25F});
   prcCentredLabel(form.lblBP[0], {.Size = 9.75F, .Bold = true});
-  prcCentredLabel(form.lblTBP[0], {.Size = 6.75F});
+  prcCentredLabel(form.lblTBP[0], {.Size = 9});
+  form.lblTotal[0].Dress = form.lblTBP[0].Dress = Look::Mark;
   form.shpTBP[0].BorderWidth = 3;
   for (ControlFamily* family : {&form.lblTotal, &form.lblBP, &form.shpTBP, &form.lblTBP}) {
     family->at(0).Visible = false;
@@ -66,9 +70,14 @@ void prcLayOutMarkCard(MarkCardWindow& form) {
   prcLayOut(form.Form, rows);
   prcPutInPicture(form);
   prcHeadRule(form.lneHLine[0], 240);
-  prcHeadRule(form.lneHLine[1], 465);
+  prcHeadRule(form.lneHLine[1], dblGridTop);
   prcDressFamilies(form);
   form.Picture1.BackColor = clrWhite;
+  form.Picture1.Dress = Look::Squared;
+  form.Picture1.X1 = dblGridLeft;
+  form.Picture1.Y1 = dblGridTop;
+  form.Picture1.X2 = intColumnPitch;
+  form.Picture1.Y2 = intRowPitch;
   form.Shape1.BorderColor = clrRule;
   form.ScrollCorner.BackColor = clrBarCorner;
   form.Picture1.Spoken = "Marks";

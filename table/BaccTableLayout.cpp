@@ -21,7 +21,7 @@ constexpr Colour clrPanel{14, 30, 58};
 constexpr Colour clrWon{28, 110, 58};
 constexpr Colour clrLost{240, 150, 140};
 
-constexpr Type tpeQuiet{.Size = 7.5F};
+constexpr Type tpeQuiet{.Size = 8.25F};
 constexpr Type tpeText{.Size = 9};
 constexpr Type tpeStrong{.Size = 9, .Bold = true};
 constexpr Type tpeHeading{.Size = 15, .Bold = true};
@@ -120,11 +120,11 @@ void prcLaySteps() {
   }
 }
 
-/// Columns of a seat: its box and value label, its chips, its money.
+/// Columns of a seat: its box and value label, its chips.
 struct SeatColumns {
-  double Box, Value, Chips, Money;
+  double Box, Value, Chips;
 };
-constexpr std::array<SeatColumns, 2> colSeats{{{4020, 3930, 4440, 4110}, {5370, 5310, 5790, 5490}}};
+constexpr std::array<SeatColumns, 2> colSeats{{{4020, 3930, 4440}, {5370, 5310, 5790}}};
 
 struct BetRow {
   BetSide Side;
@@ -250,7 +250,6 @@ void prcLayBet(const BetRow& row, int seat) {
 
 void prcLaySeat(int seat) {
   BaccTableWindow& t = BaccTable;
-  const SeatColumns& at = colSeats.at(static_cast<std::size_t>(seat));
   const double left = dblSeatEdges.at(static_cast<std::size_t>(seat));
   prcAdd({&t.lblSeat[seat], "lblSeat", seat, Label, left, 1740,
           dblSeatEdges.at(static_cast<std::size_t>(seat) + 1) - left, 270,
@@ -259,12 +258,15 @@ void prcLaySeat(int seat) {
   for (const BetRow& row : rowBets) {
     prcLayBet(row, seat);
   }
-  prcAdd({&t.lblPlayerTotal[seat], "lblPlayerTotal", seat, Label, at.Money, 4020, 1095, 255, "",
-          "Stake and winnings"});
+  constexpr double dblMargin = 60;
+  const double wide = dblSeatEdges.at(static_cast<std::size_t>(seat) + 1) - left - 2 * dblMargin;
+  prcAdd({&t.lblPlayerTotal[seat], "lblPlayerTotal", seat, Label, left + dblMargin, 4020, wide, 255,
+          "", "Stake and winnings"});
   prcDress(t.lblPlayerTotal[seat], {.Size = 10.5F, .Bold = true}, clrIvory, Alignment::Right);
-  prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, at.Money, 4350, 1095, 255,
-          "", "Winnings"});
+  prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, left + dblMargin, 4350,
+          wide, 255, "", "Winnings"});
   prcDress(t.lblPlayerWinnings[seat], tpeText, clrQuiet, Alignment::Right);
+  t.lblPlayerTotal[seat].Dress = t.lblPlayerWinnings[seat].Dress = Look::Money;
   t.lblPlayerTotal[seat].Spoken = fncSpokenSeat(seat) + "money";
   t.lblPlayerTotal[seat].Announce = true;
   t.lblPlayerWinnings[seat].Spoken = fncSpokenSeat(seat) + "won";
@@ -274,12 +276,12 @@ void prcLayRowHeads() {
   BaccTableWindow& t = BaccTable;
   const auto head = [](Control& label, const char* name, int index, double top, double height,
                        const char* text, Colour colour) {
-    prcAdd({&label, name, index, Label, 6720, top, 585, height, text});
-    prcDress(label, {.Size = 6.4F}, colour, Alignment::Left);
+    prcAdd({&label, name, index, Label, 6705, top, 615, height, text});
+    prcDress(label, tpeQuiet, colour, Alignment::Left);
   };
   head(t.lblRow[0], "lblRow", 0, 2055, 225, "TIE", clrGold);
   head(t.Label8, "Label8", -1, 2265, 420, "Pays 8 To 1", clrQuiet);
-  t.Label8.Width = 480;  // Breaks after the 8.
+  t.Label8.Width = 480;  // Breaks before the 8.
   head(t.Label5, "Label5", -1, 2745, 225, "BANKER", clrGold);
   head(t.Label4, "Label4", -1, 3375, 225, "PLAYER", clrGold);
   head(t.lblRow[1], "lblRow", 1, 4035, 225, "MONEY", clrGold);

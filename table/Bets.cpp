@@ -39,7 +39,12 @@ bool fncLoses(BetSide side, const std::string& result) {
   return side == betTie ? result != "T" : result == (side == betBanker ? "P" : "B");
 }
 
-void prcShowMoney(Control& label, double money) { label.Text = fncCurrency(money); }
+void prcShowMoney(Control& label, double money) {
+  label.Text = fncCurrency(money);
+  if (label.Dress == Look::Money) {
+    label.Value = money;
+  }
+}
 
 void prcForLostBets(const std::function<void(const BetControls& bet, Integer intSeat)>& action) {
   for (int i = 0; i < intSeats; ++i) {

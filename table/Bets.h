@@ -43,7 +43,8 @@ double fncUnitValue();
 bool fncWins(BetSide side, const std::string& result);
 bool fncLoses(BetSide side, const std::string& result);
 
-/// Shows money in a label, as currency text without decimals.
+/// Shows money in a label, as currency text without decimals; one dressed as money holds the
+/// amount.
 void prcShowMoney(Control& label, double money);
 
 /// Does something to each bet that stands and that the hand just dealt has lost, seat by seat: Tie,

@@ -27,3 +27,11 @@ std::string fncCardName(Integer number) {
   const std::string name = value == 1 ? "Ace" : fncCardValueName(value);
   return name + " of " + strSuits[(number - 1) / 13] + "s";
 }
+
+std::string fncCardBrief(Integer number, const SuitSigns& suits) {
+  const Integer value = (number - 1) % 13 + 1;
+  const std::string name = value == 1   ? "A"
+                           : value > 10 ? fncCardValueName(value).substr(0, 1)
+                                        : fncCardValueName(value);
+  return name + suits.at(static_cast<std::size_t>((number - 1) / 13));
+}

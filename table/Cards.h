@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "table/TableState.h"
@@ -20,6 +21,14 @@ std::string fncCardValueName(Integer value);
 
 /// "King of Spades" and the like for a card number 1..52, as it is spoken of.
 std::string fncCardName(Integer number);
+
+/// The suits in the order of the card numbers.
+using SuitSigns = std::array<const char*, 4>;
+inline constexpr SuitSigns strSuitLetters{"S", "C", "D", "H"};
+inline constexpr SuitSigns strSuitPictures{"\u2660", "\u2663", "\u2666", "\u2665"};
+
+/// A card number 1..52 in short, such as "10H" or "AS", its suit by one of the two.
+std::string fncCardBrief(Integer number, const SuitSigns& suits);
 
 /// Point value of a face value: itself up to 9, 0 for the tens and pictures.
 inline Integer fncCardPoint(Integer value) { return value > 9 ? Integer(0) : value; }

@@ -18,6 +18,10 @@ inline constexpr QRgb rgbDarkGold = 0xFF8A6A10;  ///< Outlines of the accents, a
 inline constexpr QRgb rgbFelt = 0xFF0E4A33;      ///< The ground of the night.
 inline constexpr QRgb rgbDarkFelt = 0xFF08301F;
 inline constexpr QRgb rgbOutline = 0xFFB5AA8E;
+inline constexpr QRgb rgbGrid = 0xFFE6EAF1;      ///< Lines of a grid on white.
+inline constexpr QRgb rgbLoss = 0xFFC00000;      ///< Losses on white,
+inline constexpr QRgb rgbLossTint = 0xFFFBDDDB;  ///< the ground of one,
+inline constexpr QRgb rgbDebt = 0xFFFFA79B;      ///< and money below 0 on felt.
 
 /// A colour of the model; Clear becomes transparent.
 QColor fncColour(const Colour& colour);

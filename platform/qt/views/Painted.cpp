@@ -3,6 +3,7 @@
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -20,6 +21,9 @@ namespace qt {
 
 namespace {
 
+constexpr int intLeastType = 11;     // Pixels at scale 1 that can be read without leaning forward.
+constexpr int intLeastStretch = 62;  // Percent of its breadth below which type is no type any more.
+constexpr int intFlashMilliseconds = 700;
 constexpr double dblLeastFit = 0.65;  // Type is made no smaller than this part of its size.
 
 /// How far a chip can be hit above and below its place, twips: up to its neighbours.
@@ -29,6 +33,14 @@ constexpr double dblHitBelow = 45;
 /// Whether a label lies on a plate, with its text in the middle.
 bool fncPlated(const Control& control) {
   return !control.BackColor.Clear || control.Dress == Look::Plate;
+}
+
+bool fncMark(const Control& control) {
+  return control.Dress == Look::Mark || control.Dress == Look::LostMark;
+}
+
+QColor fncMarkGround(const Control& control) {
+  return control.Dress == Look::LostMark ? QColor::fromRgb(rgbLossTint) : QColor(Qt::white);
 }
 
 int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
@@ -51,7 +63,7 @@ int fncTextFlags(const Control& control, const QSize& size, const QFont& font) {
 int fncTick() { return fncScaled(7); }
 
 QRect fncTextRect(const Control& control, const QRect& rect) {
-  const int inset = fncPlated(control) ? fncScaled(3) : 0;
+  const int inset = fncPlated(control) ? fncScaled(3) : fncMark(control) ? fncScaled(2) : 0;
   const int tick = control.Dress == Look::Won ? fncTick() : 0;
   return rect.adjusted(inset + tick, 0, -inset, 0);
 }
@@ -148,16 +160,36 @@ void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect,
   if (control.Text.empty()) {
     return;
   }
-  QColor ink = fncColour(control.ForeColor);
+  const bool blnBelow = control.Dress == Look::Money && control.Value < 0;
+  QColor ink = blnBelow ? QColor::fromRgb(rgbDebt) : fncColour(control.ForeColor);
   if (!control.Enabled) {
     ink.setAlphaF(0.55F);
   }
   const QRect place = fncTextRect(control, rect);
   const QFont font = fncFittedFont(control, rect.size());
-  painter.setFont(font);
-  painter.setPen(ink);
   const int key = control.AccessKey != 0 ? static_cast<int>(Qt::TextShowMnemonic) : 0;
-  painter.drawText(place, fncTextFlags(control, place.size(), font) | key, fncCaption(control));
+  const int flags = fncTextFlags(control, place.size(), font) | key;
+  painter.setFont(font);
+  if (fncMark(control)) {
+    // Three digits, and two in an oval, reach onto the frame: a rim of the ground parts them.
+    painter.setPen(fncMarkGround(control));
+    for (int at = 0; at < 9; ++at) {
+      painter.drawText(place.translated(at % 3 - 1, at / 3 - 1), flags, fncCaption(control));
+    }
+  }
+  painter.setPen(ink);
+  painter.drawText(place, flags, fncCaption(control));
+}
+
+/// Faint lines of a grid, each at the pixel that its place in twips rounds to, as cells do.
+void prcDrawGrid(QPainter& painter, const Control& control, const QRect& rect) {
+  const QColor faint = QColor::fromRgb(rgbGrid);
+  for (double x = control.X1; control.X2 > 0 && x < control.Width; x += control.X2) {
+    painter.fillRect(fncPixels(x), rect.top(), fncScaled(1), rect.height(), faint);
+  }
+  for (double y = control.Y1; control.Y2 > 0 && y < control.Height; y += control.Y2) {
+    painter.fillRect(rect.left(), fncPixels(y), rect.width(), fncScaled(1), faint);
+  }
 }
 
 /// The part of a cut card that is left.
@@ -175,6 +207,9 @@ void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& r
   } else if (!control.BackColor.Clear) {
     painter.fillRect(rect, fncColour(control.BackColor));
   }
+  if (control.Dress == Look::Squared) {
+    prcDrawGrid(painter, control, rect);
+  }
   prcDrawPicture(painter, control, rect);
 }
 
@@ -188,11 +223,10 @@ QPen fncOutline(const Control& control) {
              : QPen(fncColour(control.BorderColor), fncScaled(control.BorderWidth));
 }
 
-void prcDrawForm(QPainter& painter, const Control& control, const QRect& rect) {
+void prcDrawForm(QPainter& painter, const Control& control, const QRect& rect, const QBrush& fill) {
   const QPen outline = fncOutline(control);
   painter.setPen(outline);
-  painter.setBrush(control.FillColor.Clear ? QBrush(Qt::NoBrush)
-                                           : QBrush(fncColour(control.FillColor)));
+  painter.setBrush(fill);
   const double half = outline.style() == Qt::NoPen ? 0 : outline.widthF() / 2;
   const QRectF inner = QRectF(rect).adjusted(half, half, -half, -half);
   painter.setRenderHint(QPainter::Antialiasing, control.Form2D != ShapeForm::Rectangle);
@@ -212,6 +246,39 @@ void prcDrawForm(QPainter& painter, const Control& control, const QRect& rect) {
   painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
+/// What a shape is painted with beyond its rectangle, on each side.
+QMargins fncBeyond(const Control& control) {
+  if (control.Kind != ControlKind::Shape) {
+    return {};
+  }
+  const int shadow = fncShadowMargin();
+  const int rim = fncScaled(1);
+  switch (control.Dress) {
+    case Look::Shadow:
+    case Look::Waiting:
+      return {shadow, shadow, shadow, shadow};
+    case Look::Mark:
+      return {rim, rim, rim, rim};
+    case Look::LostMark:
+      return {rim, rim, rim, 3 * rim};
+    default:
+      return {};
+  }
+}
+
+/// The frame of a mark lies half out of its rectangle, so that two digits have room in it. A lost
+/// hand's has a tinted ground and, below, a minus.
+void prcDrawMark(QPainter& painter, const Control& control, const QRect& whole) {
+  const int rim = fncScaled(1);
+  QRect frame = whole;
+  if (control.Dress == Look::LostMark) {
+    frame.adjust(0, 0, 0, -2 * rim);
+    painter.fillRect(whole.left() + whole.width() / 4, whole.bottom() + 1 - rim,
+                     whole.width() - 2 * (whole.width() / 4), rim, QColor::fromRgb(rgbLoss));
+  }
+  prcDrawForm(painter, control, frame, fncMarkGround(control));
+}
+
 void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) {
   const int margin = fncShadowMargin();
   switch (control.Dress) {
@@ -228,8 +295,14 @@ void prcDrawShape(QPainter& painter, const Control& control, const QRect& rect) 
     case Look::ChipStack:
       prcDrawChipStack(painter, rect, static_cast<int>(control.Value), !control.Enabled);
       break;
+    case Look::Mark:
+    case Look::LostMark:
+      prcDrawMark(painter, control, rect);
+      break;
     default:
-      prcDrawForm(painter, control, rect);
+      prcDrawForm(
+          painter, control, rect,
+          control.FillColor.Clear ? QBrush(Qt::NoBrush) : QBrush(fncColour(control.FillColor)));
   }
 }
 
@@ -291,11 +364,8 @@ QRect fncPlace(const Control& control) {
     return fncPixelRect(control.Left, control.Top - dblHitAbove, control.Width,
                         control.Height + dblHitAbove + dblHitBelow);
   }
-  const QRect place = fncPixelRect(control.Left, control.Top, control.Width, control.Height);
-  const bool blnAround = control.Kind == ControlKind::Shape &&
-                         (control.Dress == Look::Shadow || control.Dress == Look::Waiting);
-  const int margin = blnAround ? fncShadowMargin() : 0;
-  return place.adjusted(-margin, -margin, margin, margin);
+  return fncPixelRect(control.Left, control.Top, control.Width, control.Height)
+      .marginsAdded(fncBeyond(control));
 }
 
 QPoint fncCorner(const Control& control) {
@@ -325,18 +395,26 @@ QRect fncBentAnew(const Control& drawn, const Control& next) {
 
 QFont fncFittedFont(const Control& control, QSize size) {
   QFont font = fncLabelFont(control);
-  const int whole = font.pixelSize();
-  const int least = std::max(6, static_cast<int>(std::ceil(whole * dblLeastFit)));
   const QRect rect = fncTextRect(control, QRect(QPoint(0, 0), size));
   const QString text = fncText(control.Text);
-  for (int pixels = whole; pixels > least; --pixels) {
-    font.setPixelSize(pixels);
-    const QRect need =
-        QFontMetrics(font).boundingRect(rect, fncTextFlags(control, rect.size(), font), text);
-    if (need.width() <= rect.width() && need.height() <= rect.height() + fncScaled(1)) {
-      break;
+  QRect need;
+  const auto fits = [&] {
+    need = QFontMetrics(font).boundingRect(rect, fncTextFlags(control, rect.size(), font), text);
+    return need.width() <= rect.width() && need.height() <= rect.height() + fncScaled(1);
+  };
+  const auto shrink = [&](int least) {
+    for (int pixels = font.pixelSize(); !fits() && pixels > least; --pixels) {
+      font.setPixelSize(pixels - 1);
     }
+  };
+  const int whole = font.pixelSize();
+  shrink(fncScaled(intLeastType));
+  for (int stretch = 100; !fits() && need.width() > rect.width() && stretch > intLeastStretch;) {
+    stretch = std::max(intLeastStretch,
+                       std::min(stretch - 1, stretch * rect.width() / std::max(1, need.width())));
+    font.setStretch(stretch);
   }
+  shrink(std::max(6, static_cast<int>(std::ceil(whole * dblLeastFit))));
   return font;
 }
 
@@ -383,11 +461,28 @@ void PaintedView::prcSetDown(bool blnDown) {
   }
 }
 
+void PaintedView::prcFlash() {
+  blnLit_ = true;
+  update();
+  QTimer::singleShot(intFlashMilliseconds, this, [this] {
+    blnLit_ = false;
+    update();
+  });
+}
+
 void PaintedView::paintEvent(QPaintEvent* /*event*/) {
   if (view_ == nullptr) {
     return;
   }
   QPainter painter(this);
+  if (blnLit_) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(rgbGold), fncScaled(1)));
+    painter.setBrush(QColor(0xC9, 0xA2, 0x27, 70));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4 * fncScale(),
+                            4 * fncScale());
+    painter.setRenderHint(QPainter::Antialiasing, false);
+  }
   prcPaintControl(painter, view_->Drawn, rect(), {hasFocus(), underMouse(), blnDown_});
 }
 

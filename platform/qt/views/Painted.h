@@ -23,6 +23,9 @@ class PaintedView : public QWidget {
   /// Draws with no control any more: nothing.
   void prcDetach();
 
+  /// Lights up once, for a moment.
+  void prcFlash();
+
   /// The control as drawn; none after prcDetach.
   ControlView* fncView() const { return view_; }
 
@@ -32,6 +35,7 @@ class PaintedView : public QWidget {
  private:
   ControlView* view_;
   bool blnDown_ = false;
+  bool blnLit_ = false;
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as
@@ -47,7 +51,8 @@ bool fncIsBent(const Control& control);
 /// What of the widget of a back that is bent, before or after, has to be painted anew.
 QRect fncBentAnew(const Control& drawn, const Control& next);
 
-/// The control's face, made smaller where its text would not fit into size otherwise.
+/// The control's face, where its text would not fit into size made smaller as far as it stays
+/// readable, then narrower, then smaller still.
 QFont fncFittedFont(const Control& control, QSize size);
 
 /// Where a control's own corner lies within its place: a chip and a shadow reach beyond it.

@@ -6,10 +6,13 @@
 #include <QWindow>
 #include <algorithm>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Captions.h"
+#include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Screen.h"
 #include "platform/qt/windows/Sync.h"
@@ -66,6 +69,48 @@ QWidget* fncInput() {
   return active != nullptr || view == nullptr ? active : view->Shell->window();
 }
 
+using Money = std::vector<std::pair<qt::PaintedView*, std::string>>;
+
+/// The labels of money in sight, with the text that each shows.
+Money fncMoneyInSight() {
+  Money money;
+  for (const Window* window : fncWindows()) {
+    for (const Control* control : window->Controls) {
+      const qt::ControlView* view =
+          control->Dress == Look::Money ? qt::fncViewOf(*control) : nullptr;
+      auto* label = view != nullptr ? qobject_cast<qt::PaintedView*>(view->Widget) : nullptr;
+      if (label != nullptr && label->isVisible()) {
+        money.emplace_back(label, view->Drawn.Text);
+      }
+    }
+  }
+  return money;
+}
+
+/// What has been won or lost just before the message shows: nobody looks there by himself.
+void prcFlashChanged(const Money& before, const Money& now) {
+  for (const auto& [label, text] : now) {
+    const auto was = std::ranges::find(before, label, &Money::value_type::first);
+    if (was != before.end() && was->second != text) {
+      label->prcFlash();
+    }
+  }
+}
+
+/// In the middle of its window, but above the money that it would hide.
+QPoint fncBoxPlace(const QSize& size, const QWidget& parent, const Money& money) {
+  QRect place(QPoint(), size);
+  place.moveCenter(parent.frameGeometry().center());
+  QRect seats;
+  for (const auto& [label, text] : money) {
+    seats |= QRect(label->mapToGlobal(QPoint()), label->size());
+  }
+  if (place.intersects(seats)) {
+    place.moveBottom(seats.top() - qt::fncScaled(8));
+  }
+  return {place.left(), std::max(place.top(), parent.frameGeometry().top())};
+}
+
 }  // namespace
 
 namespace platform {
@@ -73,6 +118,7 @@ namespace platform {
 Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
               Answer standard) {
   qt::prcThrowIfEnded();
+  const Money before = fncMoneyInSight();
   qt::prcSyncAll();
   const QPointer<QWidget> parent(fncInput());
   const auto box = std::make_unique<QMessageBox>();
@@ -82,8 +128,13 @@ Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Butt
     box->windowHandle()->setTransientParent(parent->windowHandle());
   }
   box->setWindowModality(Qt::ApplicationModal);
+  const Money money = fncMoneyInSight();
+  if (parent != nullptr) {
+    box->move(fncBoxPlace(box->sizeHint(), *parent->window(), money));
+  }
   box->show();
   box->activateWindow();
+  prcFlashChanged(before, money);
   qt::prcServeUntil([&] { return !box->isVisible(); });
   if (parent != nullptr) {
     parent->activateWindow();  // Left alone, a window manager may prefer a floating window.

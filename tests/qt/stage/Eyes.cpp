@@ -156,7 +156,7 @@ Control Seen(const Control& control) {
     seen.Enabled = view->Widget->isEnabledTo(view->Widget->parentWidget());
   }
   seen.Visible = action != nullptr ? action->isVisible() : !view->Widget->isHidden();
-  seen.ToolTip = view->Widget->toolTip().toStdString();
+  seen.ToolTip = stage::fncTold(view->Widget->toolTip());
   if (control.Kind != ControlKind::Toolbar && control.Kind != ControlKind::ToolButton) {
     stage::prcSeePlace(seen, view->Widget->geometry(), qt::fncPlace(seen));
   }

@@ -369,7 +369,7 @@ class Sweep {
     prcFault(shown.shape() != meant.shape() || shown.hotSpot() != meant.hotSpot(),
              name + ": another pointer");
     user::Wait(1000);
-    prcExpectText(name + "'s tip", QToolTip::isVisible() ? QToolTip::text().toStdString() : "",
+    prcExpectText(name + "'s tip", QToolTip::isVisible() ? fncTold(QToolTip::text()) : "",
                   control.ToolTip);
     QToolTip::hideText();
     user::Wait(400);

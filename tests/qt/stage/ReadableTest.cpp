@@ -1,0 +1,149 @@
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStyle>
+#include <QToolTip>
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+#include "betting/frmStatistics.h"
+#include "marking/MarkCard.h"
+#include "platform/Texts.h"
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
+#include "platform/qt/views/Painted.h"
+#include "shell/About.h"
+#include "shell/CardsDealt.h"
+#include "shell/StartScreen.h"
+#include "table/BaccTable.h"
+#include "tests/Game.h"
+#include "tests/qt/stage/Stage.h"
+
+// What a player has to read: type of every text in every window, money of any country, marks.
+
+namespace {
+
+/// The type that a control's text is drawn in.
+QFont fncDrawn(const Control& control) {
+  const QWidget* widget = stage::fncWidget(control);
+  const bool blnPainted = widget == nullptr || qobject_cast<const qt::PaintedView*>(widget);
+  return blnPainted ? qt::fncFittedFont(control, qt::fncPlace(control).size()) : widget->font();
+}
+
+bool fncShowsText(const Control& control) {
+  using enum ControlKind;
+  constexpr std::array texts{Label, TextBox, MaskedEdit, Button, CheckBox, OptionButton, ListBox};
+  return std::ranges::find(texts, control.Kind) != texts.end() && control.Dress != Look::Chip &&
+         (!control.Text.empty() || control.Kind == ListBox);
+}
+
+class Readable : public Game {
+ protected:
+  /// Up to a card with marks and lists with rows, at a scale.
+  void Play(double scale) {
+    qt::prcSetScale(scale);
+    qt::prcDressApplication();
+    prcFreshGame(Folder());
+    Setting("Card Options", "Show Cards Dealt Count", "True");
+    Start();
+    Shuffle();
+    Bet(betBanker, 0, "60");
+    Bet(betTie, 0, "12");
+    NextCards({9, 2, 10, 4});
+    Deal(40);
+    for (Window* window : {&frmStatistics.Form, &KasSitas.Form, &Plauk.Form}) {
+      prcLoad(*window);
+    }
+    user::Settle();
+  }
+  void TearDown() override {
+    prcFreshGame(Folder());
+    qt::prcSetScale(before_);
+    qt::prcDressApplication();
+  }
+
+ private:
+  double before_ = qt::fncScale();
+};
+
+TEST_F(Readable, NoTextIsBelow11PixelsAtScale1) {
+  for (const double scale : {1.0, 1.09, 1.5}) {
+    Play(scale);
+    std::map<std::string, std::pair<int, std::string>> least;
+    const auto note = [&](const char* window, const std::string& text, int pixels) {
+      EXPECT_GE(pixels, qt::fncScaled(11)) << window << ": " << text << " at scale " << scale;
+      auto& [smallest, shown] = least.try_emplace(window, pixels, text).first->second;
+      if (pixels < smallest) {
+        smallest = pixels;
+        shown = text;
+      }
+    };
+    for (const Window* window : fncWindows()) {
+      for (const Control* control : window->Controls) {
+        if (fncShowsText(*control)) {
+          note(window->Name, control->Name + (" " + control->Text), fncDrawn(*control).pixelSize());
+        }
+      }
+    }
+    note("menus", "", QApplication::font("QMenu").pixelSize());
+    note("tips", "", QToolTip::font().pixelSize());
+    for (const auto& [window, text] : least) {
+      std::printf("scale %g, %s: %d pixels, %s\n", scale, window.c_str(), text.first,
+                  fncPiped(text.second).c_str());
+    }
+  }
+}
+
+TEST_F(Readable, MoneyOfAnyCountryStaysInItsPanel) {
+  Play(1);
+  prcSetCurrency({.strSymbol = "F\u202FCFA",
+                  .strThousands = "\u202F",
+                  .Positive = {false, 1, 1, ""},
+                  .Negative = {false, 1, 1, "-"}});
+  Control* const labels[] = {&BaccTable.lblPlayerTotal[0], &BaccTable.lblPlayerWinnings[1],
+                             &frmStatistics.lblWinningsStat[0], &BaccTable.txtBankerBetValue[0]};
+  for (Control* label : labels) {
+    prcShowMoney(*label, label == labels[3] ? 999000 : -123456789);
+    const int width =
+        QFontMetrics(fncDrawn(*label)).horizontalAdvance(QString::fromStdString(label->Text));
+    EXPECT_LE(width, qt::fncPlace(*label).width()) << label->Name;
+  }
+}
+
+TEST_F(Readable, AMarkTellsItsHandUnderThePointer) {
+  Play(1);
+  const std::string tip = fncPiped(user::Seen(MarkCards[0].lblTBP.at(0)).ToolTip);
+  EXPECT_TRUE(tip.starts_with("Hand 1: Player wins, 9 to 6|Player 9")) << tip;
+  EXPECT_TRUE(tip.ends_with("|Player 1 staked Banker $600, Tie $120 and lost $720")) << tip;
+}
+
+TEST_F(Readable, AMessageStandsClearOfTheMoney) {
+  Play(1);
+  const QWidget& money = *stage::fncWidget(BaccTable.lblPlayerTotal[0]);
+  const QRect seat(money.mapToGlobal(QPoint()), money.size());
+  user::WhileModal([&] {
+    EXPECT_FALSE(QApplication::activeModalWidget()->frameGeometry().intersects(seat));
+    EXPECT_FALSE(seat.isEmpty());
+  });
+  Deal(5);
+}
+
+TEST_F(Readable, TheWheelPansTheCardAndAPressOnTheSliderDoesNot) {
+  Play(1);
+  MarkCardWindow& card = MarkCards[0];
+  user::Activate(card.Form);
+  prcSetValue(card.HScroll1, 0);
+  user::Settle();
+  const QWidget& bar = *stage::fncWidget(card.HScroll1);
+  const double seen = card.Form.ScaleWidth / card.Picture1.Width;
+  user::Press(card.HScroll1, static_cast<float>(0.9 * seen * card.HScroll1.Width), 100);
+  user::Release(card.HScroll1, static_cast<float>(0.9 * seen * card.HScroll1.Width), 100);
+  EXPECT_EQ(card.HScroll1.Value, 0) << "the slider is as long as what is seen";
+  user::Hover(card.Picture1);
+  stage::prcTurnWheel(*bar.window(), -1);
+  EXPECT_EQ(card.HScroll1.Value, card.HScroll1.SmallChange);
+}
+
+}  // namespace
