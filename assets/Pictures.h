@@ -18,6 +18,7 @@ inline constexpr int picBullet = 109;
 inline constexpr int picHandUp = 110;
 inline constexpr int picHandRight = 111;
 inline constexpr int picShoe = 112;
+inline constexpr int picWelcome = 113;  ///< Over the start screen's ground: 579 by 346.
 /// Toolbar images 1..21 stand at picToolbar + 1 to picToolbar + 21; 19 is not used.
 inline constexpr int picToolbar = 200;
 
@@ -40,6 +41,7 @@ inline constexpr PictureFile picFiles[] = {
     {picHandUp, "hand_up"},
     {picHandRight, "hand_right"},
     {picShoe, "shoe"},
+    {picWelcome, "welcome"},
     {picToolbar + 1, "toolbar/learn"},
     {picToolbar + 2, "toolbar/cardfaceup"},
     {picToolbar + 3, "toolbar/cardvalues"},

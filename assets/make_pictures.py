@@ -11,6 +11,9 @@ Usage: python3 assets/make_pictures.py
 import math
 import os
 import random
+import re
+
+import make_cards
 
 OUT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "pictures")
 
@@ -660,6 +663,45 @@ def write_start():
          + SHADOW_DEFS + SHOE_DEFS + defs)
 
 
+def dealt_card(value, pip, cx, cy, scale, turn):
+    """A card of the table, with its shadow, about its middle."""
+    drawing = make_cards.back() if value is None else make_cards.card(value, pip)
+    inside = re.sub(r' id="\w+"', "", "".join(drawing.splitlines()[1:-1]))
+    w, h = make_cards.CARD_W, make_cards.CARD_H
+    shadows = "".join(rect(grow / -2 + 1.5, grow / -2 + 3, w + grow, h + grow, 5 + grow / 2, "#3A3210",
+                           opacity=0.07) for grow in (6, 3.5, 1, -1.5))
+    return group(f"{place(cx, cy, scale, turn)} translate({num(-w / 2)} {num(-h / 2)})",
+                 shadows, inside)
+
+
+def write_welcome():
+    """What lies over the ground of the start screen: it leaves free where texts and buttons stand,
+    and runs off the right edge like a table that one stands before."""
+    cx, cy, rx, ry = 505, 236, 250, 15.5
+    def oval(dy, grow, fill, **attr):
+        return ellipse(cx, cy + dy, rx + grow, ry + grow * .3, fill, **attr)
+    table = (oval(5, 5, "url(#ground)") + oval(2.6, 3, "#3B0A18") + oval(0.8, 3, "url(#wood)")
+             + oval(0, 0, "url(#inlay)") + oval(0.4, -1.6, "url(#cloth)"))
+    stacks = ((428, 238.5, 4, RED, "#6E0F1E", IVORY), (465, 232.5, 7, NAVY, "#0E2038", IVORY),
+              (452, 243, 5, GOLD, GOLD_DARK, IVORY))
+    chips = "".join(
+        ellipse(x + 3, y + 4, 18, 5.5, "url(#shadow)")
+        + "".join(big_chip(x + (0, .7, -.4, .4)[i % 4], y - i * 4.6, 14, 4, *colors)
+                  for i in range(count))
+        for x, y, count, *colors in stacks)
+    hand = "".join(dealt_card(value, pip, 298 + 76 * math.sin(math.radians(turn)),
+                              345 - 76 * math.cos(math.radians(turn)), 1.06, turn)
+                   for value, pip, turn in ((None, None, -27), ("K", "diamond", -5), ("9", "spade", 17)))
+    save("welcome.svg", 579, 346, table,
+         group("translate(577 178) scale(-1.02 1.02)", shoe()), chips, hand,
+         defs=GOLD_DEFS + SHADOW_DEFS + SHOE_DEFS
+         + radial("ground", [(0, "#4A3F10", 0.5), (0.86, "#4A3F10", 0.32), (1, "#4A3F10", 0)])
+         + linear("wood", [(0, "#8F2340"), (1, "#4D0F22")])
+         + linear("inlay", [(0, "#8C6A2C"), (0.3, "#EBCB80"), (0.6, "#B48B42"), (1, "#D9B668")],
+                  0, 0, 1, 0)
+         + linear("cloth", [(0, "#0D4130"), (1, "#1A6A4A")]))
+
+
 def write_bullet():
     ring = ""
     for i in range(8):
@@ -692,7 +734,7 @@ def write_shoe():
 def main():
     os.makedirs(OUT, exist_ok=True)
     for draw in (write_icon, write_tile, write_felt, write_toolbar, write_chips, write_logo,
-                 write_start, write_bullet, write_hands, write_shoe):
+                 write_start, write_welcome, write_bullet, write_hands, write_shoe):
         draw()
 
 

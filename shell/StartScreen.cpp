@@ -25,6 +25,9 @@ constexpr Type typPoint{.Size = 11};
 
 constexpr int intFirstTopic = 1;
 
+/// The picture on the ground takes as long to draw as all else: it comes when the screen stands.
+constexpr int intArtDelay = 40;
+
 /// Tops of the three bullets and of the texts beside them, twips.
 constexpr std::array<double, 3> dblBulletTops{960, 1548, 2136};
 constexpr std::array<double, 3> dblPointTops{990, 1485, 2175};
@@ -53,6 +56,12 @@ void Label6_Click(Control&) { DisplayURL(strWebSite, "Velmora"); }
 
 void Label6_MouseMove(Control& link, const Mouse&) { link.MousePointer = Pointer::HandLink; }
 
+void tmrArt_Timer(Control& timer) {
+  timer.Enabled = false;
+  Plauk.Picture1.Picture = picWelcome;
+}
+
+constexpr ControlEvents evtArt{.Timer = tmrArt_Timer};
 constexpr ControlEvents evtStart{.Click = cmdStart_Click};
 constexpr ControlEvents evtHelp{.Click = cmdHelp_Click};
 constexpr ControlEvents evtQuit{.Click = cmdQuit_Click};
@@ -87,6 +96,7 @@ void prcLayOutPlauk() {
       {&w.cmdQuit, "cmdQuit", -1, ControlKind::Button, 7140, 4230, 1125, 525, "&Exit"},
       {&w.Nerodik, "Nerodik", -1, ControlKind::CheckBox, 255, 4350, 3300, 315, strNoDisplay},
       {&w.Label6, "Label6", -1, ControlKind::Label, 5460, 4890, 2355, 285, strWebSite},
+      {&w.tmrArt, "tmrArt", -1, ControlKind::Timer, 0, 0, 0, 0},
   };
   prcLayOut(w.Form, rows);
   w.Picture1.BackColor = clrGround;
@@ -102,6 +112,9 @@ void prcLayOutPlauk() {
     point.Face = typPoint;
   }
   w.Nerodik.Visible = false;
+  w.tmrArt.Enabled = false;
+  w.tmrArt.Interval = intArtDelay;
+  w.tmrArt.On = &evtArt;
   w.Label6.Dress = Look::Link;
   w.Label6.Face.Underline = true;
   w.Label6.Align = Alignment::Centre;
@@ -142,6 +155,7 @@ void Form_Load(Window& form) {
   Plauk.Nerodik.Visible = true;
   form.Visible = true;
   fncSetFocus(Plauk.cmdStart);
+  Plauk.tmrArt.Enabled = true;
 }
 
 void Form_KeyPress(Window&, char chrKey) {

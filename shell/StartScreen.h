@@ -11,6 +11,7 @@ struct PlaukWindow {
   Control lblVersion, cmdHelp, cmdQuit;
   Control Nerodik;  ///< The box "Do not show this screen again".
   Control Label6;   ///< The link to the web site.
+  Control tmrArt;   ///< One tick, which brings the picture on the ground.
 };
 extern PlaukWindow Plauk;
 

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
@@ -27,6 +28,9 @@ constexpr int intPlainPercent = 4;  // The place of 100.
 constexpr int intWheelStep = 120;
 constexpr double dblSheetWidth = 640;   // A printed page, in pixels of the design.
 constexpr double dblSheetFineness = 3;  // About 300 dots to the inch.
+
+/// The size of type in percent, so many steps from the plain one.
+int fncPercent(int steps) { return *std::next(intPercents.begin(), intPlainPercent + steps); }
 
 /// The spaces between paragraphs, lines of a list and headings, which the pages leave to the scale.
 QString fncSpaces(double factor) {
@@ -84,9 +88,7 @@ HelpPages::HelpPages(const QHelpEngine& engine, QWidget* parent)
   prcDress();
 }
 
-double HelpPages::fncFactor() const {
-  return fncScale() * intPercents.at(static_cast<std::size_t>(intPlainPercent + zoom_)) / 100;
-}
+double HelpPages::fncFactor() const { return fncScale() * fncPercent(zoom_) / 100; }
 
 void HelpPages::prcDress() {
   const double factor = fncFactor();
@@ -143,7 +145,7 @@ void HelpPages::prcZoom(int steps) {
   if (zoom != zoom_) {
     zoom_ = zoom;
     prcDress();
-    emit zoomed(intPercents.at(static_cast<std::size_t>(intPlainPercent + zoom_)));
+    emit zoomed(fncPercent(zoom_));
   }
 }
 
