@@ -165,7 +165,6 @@ void HelpWindow::prcMakeSearchBar(QToolBar& bar) {
   find_->setPlaceholderText(tr("Search all pages"));
   find_->setAccessibleName(tr("Search all pages"));
   find_->setToolTip(tr("Words to look for on all pages (Ctrl+F)"));
-  find_->setClearButtonEnabled(true);
   find_->setMaximumWidth(fncScaled(intFindWidth));
   bar.addWidget(find_);
   connect(find_, &QLineEdit::textChanged, this, &HelpWindow::prcSearch);
@@ -233,7 +232,6 @@ QWidget* HelpWindow::fncMakeIndex() {
   auto* filter = new QLineEdit(side);
   filter->setPlaceholderText(tr("Look for"));
   filter->setAccessibleName(tr("Look for"));
-  filter->setClearButtonEnabled(true);
   side->setFocusProxy(filter);
   QHelpIndexWidget* index = engine_.indexWidget();
   index->setAccessibleName(tr("Index"));
