@@ -8,6 +8,7 @@
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/FrameEvents.h"
+#include "shell/HelpTopics.h"
 #include "shell/SettingsStore.h"
 #include "shell/StartScreen.h"
 #include "shell/frmKaNori.h"
@@ -32,7 +33,7 @@ bool fncStartProgram() {
   prcPrepareAbout();
   prcPrepareStartScreen();
   prcStartEvening();
-  prcUserHelp = [](const Window&) { platform::ShowHelp(strHelpFile, 0); };
+  prcUserHelp = prcHelpOn;
   prcLoad(Plauk.Form);
   return true;
 }

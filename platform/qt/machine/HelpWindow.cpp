@@ -362,6 +362,8 @@ void ShowHelp(const std::string& file, int context) {
     }
     qt::wndHelp = window.release();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qt::wndHelp, [] { delete qt::wndHelp; });
+  } else {
+    qt::wndHelp->fncPages().prcDress();  // The frame may have another size by now.
   }
   if (context != 0) {
     qt::wndHelp->prcShowTopic(context);

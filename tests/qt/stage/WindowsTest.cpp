@@ -143,7 +143,8 @@ TEST_F(Windows, KeysOfTheProgramAsAWhole) {
   stage::prcKey(Qt::Key_F11);
   EXPECT_TRUE(frame.isMaximized() && !frame.isFullScreen());
   stage::prcKey(Qt::Key_F1);
-  EXPECT_EQ(headless::HelpShown().size(), 1U);
+  ASSERT_EQ(headless::HelpShown().size(), 1U);
+  EXPECT_TRUE(headless::HelpShown()[0].ends_with("#7")) << "the page about the Shuffle button";
   GoToList();
   stage::prcKey(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_TRUE(user::Ended());
