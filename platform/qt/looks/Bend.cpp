@@ -1,10 +1,12 @@
 #include "platform/qt/looks/Bend.h"
 
-#include <QLinearGradient>
+#include <QColor>
+#include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 
 #include "assets/Pictures.h"
 #include "platform/qt/looks/Pictures.h"
@@ -18,135 +20,167 @@ constexpr double dblFlapMost = 0.24;  ///< How far back the flap reaches: of the
 constexpr double dblFlapRest = 0.6;   ///< and, near the end, of what still lies flat.
 // Pixels at scale 1.
 constexpr double dblWider = 2.5;    ///< On each side, as the flap comes near the eye.
-constexpr double dblShadeNear = 5;  ///< How far a flap just lifted throws its shade, and how much
-constexpr double dblShadeMore = 8;  ///< further a high one does.
+constexpr double dblShadeNear = 5;  ///< How far a flap just lifted throws its shade on the face,
+constexpr double dblShadeMore = 8;  ///< and how much further a high one does.
 constexpr double dblCorner = 4;
-constexpr double dblShining = 0.13;  ///< How much of the pattern shines through the paper.
-
-/// Lays what lies along y along x, and back again.
-QTransform fncAcross() { return {0, 1, 1, 0, 0, 0}; }
 
 /// A bent card as it is seen along the pull, in pixels from its fixed edge.
 struct Bend {
   bool blnFromRight;
-  double Whole, Breadth;
-  double Fold;    ///< Where the flat part ends.
-  double Edge;    ///< Where the lifted edge stands over the flat part.
-  double Height;  ///< 0 flat on the table to 1 as high as it gets.
+  double Unit;  ///< A pixel at scale 1.
+  int Whole, Breadth;
+  int Fold;        ///< Where the flat part ends.
+  int Edge;        ///< Where the lifted edge stands over the flat part.
+  double Height;   ///< 0 flat on the table to 1 as high as it gets.
+  int Over, Back;  ///< How far the shade reaches over the face, and over the flat part.
 };
 
-Bend fncBend(const QSize& rest) {
-  const QSize card = fncCardSize();
-  const bool blnFromRight = rest.height() >= card.height();
-  const double whole = blnFromRight ? card.width() : card.height();
-  const double fold = blnFromRight ? rest.width() : rest.height();
+Bend fncBend(const QRect& rest, double ratio = 1) {
+  const QSize card = fncCardSize() * ratio;
+  const QSize flat = rest.size() * ratio;
+  const bool blnFromRight = rest.height() >= fncCardSize().height();
+  const double unit = fncScale() * ratio;
+  const int whole = blnFromRight ? card.width() : card.height();
+  const int fold = blnFromRight ? flat.width() : flat.height();
+  const int breadth = blnFromRight ? flat.height() : flat.width();
   const double most = dblFlapMost * whole;
-  const double height = 1 - std::exp(-(whole - fold) / most);
-  const double flap = std::min(most * height, dblFlapRest * fold);
-  const double breadth = blnFromRight ? rest.height() : rest.width();
-  return {blnFromRight, whole, breadth, fold, fold - flap, height};
+  const double height = 1 - std::exp((fold - whole) / most);
+  const int edge =
+      fold - static_cast<int>(std::lround(std::min(most * height, dblFlapRest * fold)));
+  const int over = static_cast<int>((dblShadeNear + dblShadeMore * height) * unit);
+  return {blnFromRight,
+          unit,
+          whole,
+          breadth,
+          fold,
+          edge,
+          height,
+          std::min(over, whole - fold),
+          std::min(over * 2 / 3, edge)};
 }
 
-int fncWider() { return fncScaled(dblWider) + 1; }
-
-double fncShade(const Bend& bend) {
-  return (dblShadeNear + dblShadeMore * bend.Height) * fncScale();
-}
+int fncWider(const Bend& bend) { return static_cast<int>(std::ceil(dblWider * bend.Unit)); }
 
 /// The part of a bent card's room between two places along the pull.
-QRect fncSlice(const Bend& bend, const QRect& rest, double from, double to) {
-  const int first = static_cast<int>(std::floor(std::max(0.0, from)));
-  const int last = static_cast<int>(std::ceil(std::min(bend.Whole, to)));
-  return bend.blnFromRight ? QRect(rest.left() + first, rest.top() - fncWider(), last - first,
-                                   rest.height() + 2 * fncWider())
-                           : QRect(rest.left() - fncWider(), rest.top() + first,
-                                   rest.width() + 2 * fncWider(), last - first);
+QRect fncSlice(const Bend& bend, const QRect& rest, int from, int to) {
+  const int wider = fncWider(bend);
+  return bend.blnFromRight
+             ? QRect(rest.left() + from, rest.top() - wider, to - from, rest.height() + 2 * wider)
+             : QRect(rest.left() - wider, rest.top() + from, rest.width() + 2 * wider, to - from);
 }
 
-/// A soft shade across the card, deepest at one place and gone at another.
-void prcDrawShade(QPainter& painter, const Bend& bend, double from, double to, int depth) {
-  QLinearGradient shade(0, from, 0, to);
-  shade.setColorAt(0, QColor(20, 14, 6, depth));
-  shade.setColorAt(0.35, QColor(20, 14, 6, depth * 2 / 5));
-  shade.setColorAt(1, QColor(20, 14, 6, 0));
-  const QRectF area(0, std::min(from, to), bend.Breadth, std::abs(to - from));
-  painter.fillRect(area & QRectF(0, 0, bend.Breadth, bend.Whole), shade);
+/// The paper's other side, from the fold at 0 to the lifted edge at 1: dark where it turns away, a
+/// light along the fold, then rising towards the eye.
+QColor fncPaper(double part) {
+  constexpr struct {
+    double Part;
+    int Red, Green, Blue;
+  } steps[] = {{0, 0x80, 0x78, 0x6C},
+               {0.1, 0xB4, 0xAE, 0xA2},
+               {0.34, 0xFF, 0xFF, 0xFD},
+               {0.55, 0xF6, 0xF3, 0xEA},
+               {1, 0xD6, 0xD0, 0xC2}};
+  const auto* to = std::ranges::find_if(std::begin(steps) + 1, std::end(steps) - 1,
+                                        [part](const auto& step) { return part < step.Part; });
+  const auto* from = std::prev(to);
+  const double share = (part - from->Part) / (to->Part - from->Part);
+  const auto mix = [share](int one, int other) {
+    return static_cast<int>(std::lround(one + share * (other - one)));
+  };
+  return {mix(from->Red, to->Red), mix(from->Green, to->Green), mix(from->Blue, to->Blue)};
 }
 
-/// The paper's other side: dark where it turns away at the fold, a light along it, then rising
-/// towards the eye.
-QLinearGradient fncPaper(const Bend& bend) {
-  QLinearGradient paper(0, bend.Fold, 0, bend.Edge);
-  paper.setColorAt(0, QColor(0x80, 0x78, 0x6C));
-  paper.setColorAt(0.1, QColor(0xB4, 0xAE, 0xA2));
-  paper.setColorAt(0.34, QColor(0xFF, 0xFF, 0xFD));
-  paper.setColorAt(0.55, QColor(0xF6, 0xF3, 0xEA));
-  paper.setColorAt(1, QColor(0xD6, 0xD0, 0xC2));
-  return paper;
+/// A soft shade, deepest at 0 and gone at 1.
+QColor fncShade(double part, int depth) {
+  return {20, 14, 6, static_cast<int>(std::lround(depth * (1 - part) * (1 - part)))};
 }
 
-/// The back's pattern as it shines through the paper, mirrored: it runs over the fold as one pulls.
-void prcShineThrough(QPainter& painter, const Bend& bend, const QPainterPath& flap) {
-  const double ratio = painter.device()->devicePixelRatioF();
-  painter.save();
-  painter.setClipPath(flap);
-  painter.setOpacity(dblShining);
-  painter.translate(0, bend.Edge + bend.Whole);
-  painter.scale(1, -1);
-  if (bend.blnFromRight) {
-    painter.setTransform(fncAcross(), true);
+/// What lies across the card at one place along the pull: a colour, and how far it comes short of
+/// the card's two sides, or reaches beyond them.
+struct Line {
+  QColor Colour;
+  double Short = 0;
+};
+
+Line fncLine(const Bend& bend, int at) {
+  const double place = at + 0.5;
+  if (at >= bend.Fold) {
+    return {fncShade((place - bend.Fold) / bend.Over, 135)};
   }
-  painter.drawPixmap(0, 0, fncPicture(picCardBack, fncCardSize(), ratio));
-  painter.restore();
+  if (at < bend.Edge) {
+    return {fncShade((bend.Edge - place) / bend.Back, 90)};
+  }
+  const double part = (bend.Fold - place) / (bend.Fold - bend.Edge);
+  const double corner = std::min(dblCorner * bend.Unit, (bend.Fold - bend.Edge) / 2.0);
+  const double into = std::max(0.0, corner - (place - bend.Edge));
+  const double round = corner - std::sqrt(corner * corner - into * into);
+  const bool blnRim = place - bend.Edge < bend.Unit;
+  return {blnRim ? QColor(Qt::white) : fncPaper(part),
+          round - dblWider * bend.Unit * bend.Height * part};
 }
 
-void prcDrawFlap(QPainter& painter, const Bend& bend) {
-  const double wider = dblWider * fncScale() * bend.Height;
-  const double corner = std::min(dblCorner * fncScale(), (bend.Fold - bend.Edge) / 2);
-  const double left = -wider;
-  const double right = bend.Breadth + wider;
-  QPainterPath rim(QPointF(left, bend.Edge + corner));
-  rim.quadTo(left, bend.Edge, left + corner, bend.Edge);
-  rim.lineTo(right - corner, bend.Edge);
-  rim.quadTo(right, bend.Edge, right, bend.Edge + corner);
-  QPainterPath flap = rim;
-  flap.lineTo(bend.Breadth, bend.Fold);
-  flap.lineTo(0, bend.Fold);
-  flap.closeSubpath();
-  painter.fillPath(flap, fncPaper(bend));
-  prcShineThrough(painter, bend, flap);
-  painter.strokePath(rim, QPen(QColor(0xFF, 0xFF, 0xFF), fncScale()));
+/// Flap and shades as one picture: line by line, as gradients and paths take longer than a pull
+/// leaves time for.
+QImage fncBand(const Bend& bend) {
+  const int wider = fncWider(bend);
+  const int first = bend.Edge - bend.Back;
+  const QSize size(bend.Breadth + 2 * wider, bend.Fold + bend.Over - first);
+  QImage band(bend.blnFromRight ? size.transposed() : size, QImage::Format_ARGB32_Premultiplied);
+  band.fill(0);
+  auto* const pixels = reinterpret_cast<QRgb*>(band.bits());
+  const int across = bend.blnFromRight ? band.width() : 1;
+  const int along = bend.blnFromRight ? 1 : band.width();
+  for (int at = 0; at < size.height(); ++at) {
+    const Line line = fncLine(bend, first + at);
+    const double margin = wider + line.Short;
+    const int inside = static_cast<int>(std::ceil(margin));
+    const QRgb full = qPremultiply(line.Colour.rgba());
+    QRgb* const begin = pixels + static_cast<std::ptrdiff_t>(at) * along;
+    for (int side = inside; side < size.width() - inside; ++side) {
+      begin[static_cast<std::ptrdiff_t>(side) * across] = full;
+    }
+    if (inside > 0) {
+      QColor half = line.Colour;
+      half.setAlphaF(static_cast<float>(half.alphaF() * (inside - margin)));
+      for (const int side : {inside - 1, size.width() - inside}) {
+        begin[static_cast<std::ptrdiff_t>(side) * across] = qPremultiply(half.rgba());
+      }
+    }
+  }
+  return band;
+}
+
+/// The back's pattern shines through the flap, mirrored: it runs over the fold as one pulls.
+void prcShineThrough(QPainter& painter, const Bend& bend, const QRect& rest, double ratio) {
+  const QPixmap& pattern = fncShining(bend.blnFromRight, ratio);
+  const int flap = bend.Fold - bend.Edge;
+  const QRect part =
+      bend.blnFromRight ? QRect(0, 0, flap, bend.Breadth) : QRect(0, 0, bend.Breadth, flap);
+  const QPoint at = bend.blnFromRight ? QPoint(bend.Edge, 0) : QPoint(0, bend.Edge);
+  painter.drawPixmap(QPointF(rest.topLeft()) + QPointF(at) / ratio, pattern, QRectF(part));
 }
 
 }  // namespace
 
 QRect fncBendRoom(const QRect& rest) {
-  const Bend bend = fncBend(rest.size());
-  return fncSlice(bend, rest, 0, bend.Fold + fncShade(bend));
+  const Bend bend = fncBend(rest);
+  return fncSlice(bend, rest, 0, bend.Fold + bend.Over);
 }
 
 QRect fncBendBand(const QRect& rest) {
-  const Bend bend = fncBend(rest.size());
-  const double shade = fncShade(bend);
-  return fncSlice(bend, rest, bend.Edge - shade, bend.Fold + shade);
+  const Bend bend = fncBend(rest);
+  return fncSlice(bend, rest, bend.Edge - bend.Back, bend.Fold + bend.Over);
 }
 
 void prcDrawBend(QPainter& painter, const QRect& rest) {
   const double ratio = painter.device()->devicePixelRatioF();
-  painter.drawPixmap(QRectF(rest), fncPicture(picCardBack, fncCardSize(), ratio),
+  painter.drawPixmap(QPointF(rest.topLeft()), fncPicture(picCardBack, fncCardSize(), ratio),
                      QRectF(QPointF(0, 0), QSizeF(rest.size()) * ratio));
-  const Bend bend = fncBend(rest.size());
-  painter.save();
-  painter.translate(rest.topLeft());
-  if (bend.blnFromRight) {
-    painter.setTransform(fncAcross(), true);
-  }
-  painter.setRenderHint(QPainter::Antialiasing);
-  const double shade = fncShade(bend);
-  prcDrawShade(painter, bend, bend.Fold, bend.Fold + shade, 135);
-  prcDrawShade(painter, bend, bend.Edge, bend.Edge - shade, 90);
-  prcDrawFlap(painter, bend);
-  painter.restore();
+  const Bend bend = fncBend(rest, ratio);
+  QImage band = fncBand(bend);
+  band.setDevicePixelRatio(ratio);
+  painter.drawImage(fncBendBand(rest).topLeft(), band);
+  prcShineThrough(painter, bend, rest, ratio);
 }
 
 }  // namespace qt

@@ -22,6 +22,8 @@ using Key = std::tuple<int, int, int, int>;  // Number, width, height, ratio in 
 std::map<Key, QPixmap> pixKept;
 
 constexpr int intShadowNumber = -1;
+constexpr int intShiningNumber = -2;  ///< From top to bottom; one less from left to right.
+constexpr double dblShining = 0.13;
 constexpr int intCardWidthTwips = 1065;
 constexpr int intCardHeightTwips = 1440;
 
@@ -114,6 +116,23 @@ const QPixmap& fncShadow(QSize size, double ratio) {
   QPixmap& kept = fncKept(intShadowNumber, size, ratio);
   if (kept.isNull()) {
     kept = fncDrawShadow(size, ratio);
+  }
+  return kept;
+}
+
+const QPixmap& fncShining(bool blnLeftRight, double ratio) {
+  const QSize size = fncCardSize();
+  QPixmap& kept = fncKept(blnLeftRight ? intShiningNumber - 1 : intShiningNumber, size, ratio);
+  if (kept.isNull()) {
+    const QPixmap& back = fncPicture(picCardBack, size, ratio);
+    kept = QPixmap(back.size());
+    kept.fill(Qt::transparent);
+    QPainter painter(&kept);
+    painter.setOpacity(dblShining);
+    painter.drawImage(QRect(QPoint(0, 0), back.size()),
+                      back.toImage().mirrored(blnLeftRight, !blnLeftRight));
+    painter.end();
+    kept.setDevicePixelRatio(ratio);
   }
   return kept;
 }

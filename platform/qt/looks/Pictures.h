@@ -29,6 +29,10 @@ QSize fncPictureSize(int number);
 const QPixmap& fncShadow(QSize size, double ratio);
 int fncShadowMargin();
 
+/// A card's back as it shines through from the other side of the paper, faint, mirrored from left
+/// to right or from top to bottom.
+const QPixmap& fncShining(bool blnLeftRight, double ratio);
+
 QIcon fncIcon(int number, int pixels);
 
 /// The cursor of a pointer, the hands at the scale in use with the tip of the finger as hot spot.
