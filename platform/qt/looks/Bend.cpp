@@ -164,7 +164,7 @@ void prcShineThrough(QPainter& painter, const Bend& bend, const QRect& rest, dou
 
 QRect fncBendRoom(const QRect& rest) {
   const Bend bend = fncBend(rest);
-  return fncSlice(bend, rest, 0, bend.Fold + bend.Over);
+  return fncSlice(bend, rest, 0, bend.Whole);
 }
 
 QRect fncBendBand(const QRect& rest) {

@@ -10,8 +10,8 @@ class QPainter;
 
 namespace qt {
 
-/// The room that a bent back takes whose flat part lies at rest, cut out of a card of
-/// fncCardSize().
+/// The room for all that a back may look like as it bends, whose flat part lies at rest: the card's
+/// own, and a little at the sides.
 QRect fncBendRoom(const QRect& rest);
 
 /// What of that room looks different with each pixel of the pull.

@@ -17,6 +17,7 @@
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/views/Flip.h"
 #include "platform/qt/views/Grid.h"
+#include "platform/qt/views/Layers.h"
 #include "platform/qt/views/Menus.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Reports.h"
@@ -59,10 +60,14 @@ void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
   if (blnFirst) {
     return;
   }
-  if (fncLooksChanged(view.Drawn, next)) {
-    view.Widget->update();
-  } else if (fncIsBent(view.Drawn) || fncIsBent(next)) {
-    view.Widget->update(fncBentAnew(view.Drawn, next));
+  auto* widget = static_cast<PaintedView*>(view.Widget.data());
+  const QRect room = fncBentRoom(next);
+  if (room != fncBentRoom(view.Drawn)) {
+    widget->prcKeepBelow(room.isEmpty() ? QPixmap() : fncBelow(view, room));
+  } else if (fncLooksChanged(view.Drawn, next)) {
+    widget->update();
+  } else if (!room.isEmpty()) {
+    widget->update(fncBentAnew(view.Drawn, next));
   }
 }
 

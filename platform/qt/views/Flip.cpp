@@ -8,11 +8,10 @@
 #include <cmath>
 #include <memory>
 #include <numbers>
-#include <span>
 #include <utility>
 
 #include "platform/platform.h"
-#include "platform/qt/looks/Pictures.h"
+#include "platform/qt/views/Layers.h"
 #include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Screen.h"
 
@@ -93,24 +92,10 @@ class FlipView : public QWidget {
 
 QPointer<FlipView> flpView;  ///< Goes with the ground that it lies on.
 
-using Views = std::span<const std::unique_ptr<ControlView>>;
-
-/// Draws onto the room what these controls show there.
-void prcPaintThere(QPixmap& onto, const QRect& room, Views views) {
-  QPainter painter(&onto);
-  for (const std::unique_ptr<ControlView>& view : views) {
-    const auto* widget = qobject_cast<PaintedView*>(view->Widget);
-    if (widget != nullptr && view->Drawn.Visible && view->Drawn.Container == nullptr &&
-        widget->geometry().intersects(room)) {
-      prcPaintControl(painter, view->Drawn, widget->geometry().translated(-room.topLeft()), {});
-    }
-  }
-}
-
 /// The back with what lies below it of its card: the face, the patches over that, and the shadow
 /// below it. Empty where there is no face.
-Views fncCardOf(const ControlView& back) {
-  const Views all(back.Home.Controls);
+Layers fncCardOf(const ControlView& back) {
+  const Layers all(back.Home.Controls);
   const QRect place = back.Widget->geometry();
   const auto top = std::ranges::find(all, &back, [](const auto& view) { return view.get(); });
   auto first = std::find_if(all.begin(), top, [&](const std::unique_ptr<ControlView>& view) {
@@ -126,7 +111,7 @@ Views fncCardOf(const ControlView& back) {
 }
 
 void prcShowFlip(const ControlView& back) {
-  const Views card = fncCardOf(back);
+  const Layers card = fncCardOf(back);
   QWidget* ground = back.Home.Ground;
   if (card.empty() || !ground->isVisible() ||
       ground->style()->styleHint(QStyle::SH_Widget_Animate, nullptr, ground) == 0) {
@@ -134,18 +119,13 @@ void prcShowFlip(const ControlView& back) {
   }
   Turning turning{back.Widget->geometry(), {}, {}, {}, {}};
   const QRect& room = turning.Room = turning.Card | card.front()->Widget->geometry();
-  const double ratio = ground->devicePixelRatioF();
-  turning.Ground = QPixmap(room.size() * ratio);
-  turning.Ground.setDevicePixelRatio(ratio);
-  turning.Ground.fill(Qt::transparent);
-  turning.Back = turning.Face = turning.Ground;
-
-  const Views all(back.Home.Controls);
-  ground->render(&turning.Ground, QPoint(0, 0), QRegion(room), QWidget::DrawWindowBackground);
-  prcPaintThere(turning.Ground, room, {all.begin(), card.begin()});
-  prcPaintThere(turning.Ground, room, {card.end(), all.end()});
-  prcPaintThere(turning.Face, room, card.first(card.size() - 1));
-  prcPaintThere(turning.Back, room, card);
+  turning.Ground = turning.Back = turning.Face = fncClear(back.Home, room);
+  const Layers all(back.Home.Controls);
+  prcAddGround(turning.Ground, back.Home, room);
+  prcAddLayers(turning.Ground, room, {all.begin(), card.begin()});
+  prcAddLayers(turning.Ground, room, {card.end(), all.end()});
+  prcAddLayers(turning.Face, room, card.first(card.size() - 1));
+  prcAddLayers(turning.Back, room, card);
   if (flpView == nullptr || flpView->parentWidget() != ground) {
     delete flpView;
     flpView = new FlipView(ground);

@@ -384,13 +384,13 @@ bool fncIsBent(const Control& control) {
          (rest.width() < card.width() || rest.height() < card.height());
 }
 
+QRect fncBentRoom(const Control& control) {
+  return control.Visible && fncIsBent(control) ? fncPlace(control) : QRect();
+}
+
 QRect fncBentAnew(const Control& drawn, const Control& next) {
   const QRect from(QPoint(0, 0), fncRest(drawn)), to(QPoint(0, 0), fncRest(next));
-  const QPoint corner = fncBendRoom(from).topLeft();
-  if (!fncIsBent(drawn) || !fncIsBent(next) || corner != fncBendRoom(to).topLeft()) {
-    return {QPoint(0, 0), 2 * fncCardSize()};
-  }
-  return (fncBendBand(from) | fncBendBand(to)).translated(-corner);
+  return (fncBendBand(from) | fncBendBand(to)).translated(-fncBendRoom(from).topLeft());
 }
 
 QFont fncFittedFont(const Control& control, QSize size) {
@@ -452,6 +452,12 @@ PaintedView::PaintedView(ControlView& view, QWidget* parent) : QWidget(parent), 
   setAttribute(Qt::WA_Hover, view.Drawn.Dress == Look::Chip);
 }
 
+void PaintedView::prcKeepBelow(const QPixmap& below) {
+  below_ = below;
+  setAttribute(Qt::WA_OpaquePaintEvent, !below_.isNull());
+  update();
+}
+
 void PaintedView::prcDetach() { view_ = nullptr; }
 
 void PaintedView::prcSetDown(bool blnDown) {
@@ -482,6 +488,9 @@ void PaintedView::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4 * fncScale(),
                             4 * fncScale());
     painter.setRenderHint(QPainter::Antialiasing, false);
+  }
+  if (!below_.isNull()) {
+    painter.drawPixmap(0, 0, below_);
   }
   prcPaintControl(painter, view_->Drawn, rect(), {hasFocus(), underMouse(), blnDown_});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 
 #include "platform/Control.h"
@@ -20,6 +21,10 @@ class PaintedView : public QWidget {
   /// Shows it pressed, or not, if it answers the mouse by its looks.
   void prcSetDown(bool blnDown);
 
+  /// Keeps what lies below, while a bent back lies over it, so that a pull paints nothing but the
+  /// back; an empty picture keeps nothing.
+  void prcKeepBelow(const QPixmap& below);
+
   /// Draws with no control any more: nothing.
   void prcDetach();
 
@@ -34,12 +39,13 @@ class PaintedView : public QWidget {
 
  private:
   ControlView* view_;
+  QPixmap below_;
   bool blnDown_ = false;
   bool blnLit_ = false;
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as
-/// far as it is not cut, a soft shadow with its margin, a bent back with its shade.
+/// far as it is not cut, a soft shadow with its margin, a bent back with its room.
 QRect fncPlace(const Control& control);
 
 /// Whether a control's picture stays as it is when its size changes, being cut and not squeezed.
@@ -48,7 +54,10 @@ bool fncCutsPicture(const Control& control);
 /// Whether a control is a card's back that is cut short, and so drawn as one that bends.
 bool fncIsBent(const Control& control);
 
-/// What of the widget of a back that is bent, before or after, has to be painted anew.
+/// The room of a back that is seen to bend; none of any other control.
+QRect fncBentRoom(const Control& control);
+
+/// What of the widget of a back that bends further or back, in the same room, is painted anew.
 QRect fncBentAnew(const Control& drawn, const Control& next);
 
 /// The control's face, where its text would not fit into size made smaller as far as it stays
