@@ -17,7 +17,9 @@
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/looks/Style.h"
 #include "platform/qt/windows/ChildShell.h"
+#include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
 #include "platform/qt/windows/Sync.h"
@@ -329,6 +331,8 @@ void Reset(const std::string& folder) {
     prcForgetWindow(*fncWindows().back());
   }
   qt::prcSyncAll();
+  qt::prcFitToScreen();
+  qt::prcSizeFaces();
   TheClock().Reset();
   TheClock().WhenIdle(fncServeModal);
   TheClock().Flush();

@@ -4,7 +4,9 @@
 #include <QMessageBox>
 #include <QStyle>
 #include <QToolTip>
+#include <QWindow>
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <map>
 
@@ -12,7 +14,6 @@
 #include "marking/MarkCard.h"
 #include "platform/Texts.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/looks/Style.h"
 #include "platform/qt/views/Painted.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
@@ -41,13 +42,17 @@ bool fncShowsText(const Control& control) {
 
 class Readable : public Game {
  protected:
-  /// Up to a card with marks and lists with rows, at a scale.
+  /// Up to a card with marks and lists with rows, in a frame that a scale fits.
   void Play(double scale) {
-    qt::prcSetScale(scale);
-    qt::prcDressApplication();
     prcFreshGame(Folder());
     Setting("Card Options", "Show Cards Dealt Count", "True");
     Start();
+    QWindow& frame = *stage::fncView(MDIForm1.Form).Shell->windowHandle();
+    frame.setWindowStates(Qt::WindowNoState);
+    frame.setGeometry(0, 0, static_cast<int>(std::ceil(960 * scale)),
+                      static_cast<int>(std::ceil(700 * scale)));
+    user::Settle();
+    ASSERT_EQ(qt::fncScale(), scale);
     Shuffle();
     Bet(betBanker, 0, "60");
     Bet(betTie, 0, "12");
@@ -58,14 +63,7 @@ class Readable : public Game {
     }
     user::Settle();
   }
-  void TearDown() override {
-    prcFreshGame(Folder());
-    qt::prcSetScale(before_);
-    qt::prcDressApplication();
-  }
-
- private:
-  double before_ = qt::fncScale();
+  void TearDown() override { prcFreshGame(Folder()); }
 };
 
 TEST_F(Readable, NoTextIsBelow11PixelsAtScale1) {
