@@ -7,7 +7,7 @@
 namespace {
 
 constexpr Colour clrLit{236, 203, 120};
-constexpr Colour clrQuiet{150, 166, 150};
+constexpr Colour clrUnlit{150, 166, 150};
 
 /// The step of a first hand that comes next: 0 shuffles, 1 bets, 2 deals.
 int fncNextStep() {
@@ -29,7 +29,7 @@ void prcLeadToFirstHand() {
     Control& word = table.lblStep[step];
     word.Visible = !table.blnHandSeen;
     word.Face.Bold = step == fncNextStep();
-    word.ForeColor = word.Face.Bold ? clrLit : clrQuiet;
+    word.ForeColor = word.Face.Bold ? clrLit : clrUnlit;
   }
 }
 
