@@ -43,7 +43,7 @@ enum class Answer : std::uint8_t { Ok, Cancel };
 Answer MsgBox(const std::string& text, Icon icon = Icon::None, const std::string& title = {},
               Buttons buttons = Buttons::Ok, Answer standard = Answer::Ok);
 
-/// Brings what has changed in the control's window onto the screen before it returns. Runs no
+/// Brings the control and what it holds onto the screen as they are now, before it returns. Runs no
 /// handler.
 void RepaintNow(Control& control);
 

@@ -140,8 +140,8 @@ void prcTellMoves(const Strip& strip) {
     squeezed.push_back(between - start);
     prcRest(2);
   }
-  if (qt::fncScale() != 2) {
-    prcGiveUp("the screen is not that of scale 2");
+  if (qt::fncScale() < 2) {
+    prcGiveUp("the table is not drawn at scale 2 or more");
   }
   prcTell("squeeze_median", fncQuantile(squeezed, 0.5));
   prcTell("squeeze_99", fncQuantile(squeezed, 0.99));

@@ -19,7 +19,6 @@ namespace {
 constexpr double dblFlapMost = 0.24;  ///< How far back the flap reaches: of the card,
 constexpr double dblFlapRest = 0.6;   ///< and, near the end, of what still lies flat.
 // Pixels at scale 1.
-constexpr double dblWider = 2.5;    ///< On each side, as the flap comes near the eye.
 constexpr double dblShadeNear = 5;  ///< How far a flap just lifted throws its shade on the face,
 constexpr double dblShadeMore = 8;  ///< and how much further a high one does.
 constexpr double dblCorner = 4;
@@ -59,16 +58,6 @@ Bend fncBend(const QRect& rest, double ratio = 1) {
           std::min(over * 2 / 3, edge)};
 }
 
-int fncWider(const Bend& bend) { return static_cast<int>(std::ceil(dblWider * bend.Unit)); }
-
-/// The part of a bent card's room between two places along the pull.
-QRect fncSlice(const Bend& bend, const QRect& rest, int from, int to) {
-  const int wider = fncWider(bend);
-  return bend.blnFromRight
-             ? QRect(rest.left() + from, rest.top() - wider, to - from, rest.height() + 2 * wider)
-             : QRect(rest.left() - wider, rest.top() + from, rest.width() + 2 * wider, to - from);
-}
-
 /// The paper's other side, from the fold at 0 to the lifted edge at 1: dark where it turns away, a
 /// light along the fold, then rising towards the eye.
 QColor fncPaper(double part) {
@@ -96,7 +85,7 @@ QColor fncShade(double part, int depth) {
 }
 
 /// What lies across the card at one place along the pull: a colour, and how far it comes short of
-/// the card's two sides, or reaches beyond them.
+/// the card's two sides.
 struct Line {
   QColor Colour;
   double Short = 0;
@@ -115,36 +104,32 @@ Line fncLine(const Bend& bend, int at) {
   const double into = std::max(0.0, corner - (place - bend.Edge));
   const double round = corner - std::sqrt(corner * corner - into * into);
   const bool blnRim = place - bend.Edge < bend.Unit;
-  return {blnRim ? QColor(Qt::white) : fncPaper(part),
-          round - dblWider * bend.Unit * bend.Height * part};
+  return {blnRim ? QColor(Qt::white) : fncPaper(part), round};
 }
 
 /// Flap and shades as one picture: line by line, as gradients and paths take longer than a pull
 /// leaves time for.
 QImage fncBand(const Bend& bend) {
-  const int wider = fncWider(bend);
   const int first = bend.Edge - bend.Back;
-  const QSize size(bend.Breadth + 2 * wider, bend.Fold + bend.Over - first);
+  const QSize size(bend.Breadth, bend.Fold + bend.Over - first);
   QImage band(bend.blnFromRight ? size.transposed() : size, QImage::Format_ARGB32_Premultiplied);
   band.fill(0);
   auto* const pixels = reinterpret_cast<QRgb*>(band.bits());
-  const int across = bend.blnFromRight ? band.width() : 1;
-  const int along = bend.blnFromRight ? 1 : band.width();
+  const std::ptrdiff_t across = bend.blnFromRight ? band.width() : 1;
+  const std::ptrdiff_t along = bend.blnFromRight ? 1 : band.width();
   for (int at = 0; at < size.height(); ++at) {
     const Line line = fncLine(bend, first + at);
-    const double margin = wider + line.Short;
-    const int inside = static_cast<int>(std::ceil(margin));
+    const int inside = static_cast<int>(std::ceil(line.Short));
     const QRgb full = qPremultiply(line.Colour.rgba());
-    QRgb* const begin = pixels + static_cast<std::ptrdiff_t>(at) * along;
-    for (int side = inside; side < size.width() - inside; ++side) {
-      begin[static_cast<std::ptrdiff_t>(side) * across] = full;
-    }
+    QRgb* pixel = pixels + at * along + inside * across;
     if (inside > 0) {
       QColor half = line.Colour;
-      half.setAlphaF(static_cast<float>(half.alphaF() * (inside - margin)));
-      for (const int side : {inside - 1, size.width() - inside}) {
-        begin[static_cast<std::ptrdiff_t>(side) * across] = qPremultiply(half.rgba());
-      }
+      half.setAlphaF(static_cast<float>(half.alphaF() * (inside - line.Short)));
+      const std::ptrdiff_t last = size.width() - 2 * inside;
+      pixel[-across] = pixel[last * across] = qPremultiply(half.rgba());
+    }
+    for (int side = inside; side < size.width() - inside; ++side, pixel += across) {
+      *pixel = full;
     }
   }
   return band;
@@ -162,14 +147,12 @@ void prcShineThrough(QPainter& painter, const Bend& bend, const QRect& rest, dou
 
 }  // namespace
 
-QRect fncBendRoom(const QRect& rest) {
-  const Bend bend = fncBend(rest);
-  return fncSlice(bend, rest, 0, bend.Whole);
-}
-
 QRect fncBendBand(const QRect& rest) {
   const Bend bend = fncBend(rest);
-  return fncSlice(bend, rest, bend.Edge - bend.Back, bend.Fold + bend.Over);
+  const int from = bend.Edge - bend.Back;
+  const int to = bend.Fold + bend.Over;
+  return bend.blnFromRight ? QRect(rest.left() + from, rest.top(), to - from, rest.height())
+                           : QRect(rest.left(), rest.top() + from, rest.width(), to - from);
 }
 
 void prcDrawBend(QPainter& painter, const QRect& rest) {

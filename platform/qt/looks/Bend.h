@@ -10,11 +10,7 @@ class QPainter;
 
 namespace qt {
 
-/// The room for all that a back may look like as it bends, whose flat part lies at rest: the card's
-/// own, and a little at the sides.
-QRect fncBendRoom(const QRect& rest);
-
-/// What of that room looks different with each pixel of the pull.
+/// What of a card looks different with each pixel of the pull that leaves rest of its back flat.
 QRect fncBendBand(const QRect& rest);
 
 /// Draws a bent back whose flat part lies at rest.

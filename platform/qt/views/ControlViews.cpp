@@ -61,12 +61,12 @@ void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
     return;
   }
   auto* widget = static_cast<PaintedView*>(view.Widget.data());
-  const QRect room = fncBentRoom(next);
-  if (room != fncBentRoom(view.Drawn)) {
-    widget->prcKeepBelow(room.isEmpty() ? QPixmap() : fncBelow(view, room));
+  const bool blnBent = next.Visible && fncIsBent(next);
+  if (blnBent != (view.Drawn.Visible && fncIsBent(view.Drawn))) {
+    widget->prcKeepBelow(blnBent ? fncBelow(view, fncPlace(next)) : QPixmap());
   } else if (fncLooksChanged(view.Drawn, next)) {
     widget->update();
-  } else if (!room.isEmpty()) {
+  } else if (blnBent) {
     widget->update(fncBentAnew(view.Drawn, next));
   }
 }

@@ -199,7 +199,7 @@ QSize fncRest(const Control& control) {
 
 void prcDrawPictureBox(QPainter& painter, const Control& control, const QRect& rect) {
   if (fncIsBent(control)) {
-    prcDrawBend(painter, QRect(rect.topLeft() + fncCorner(control), fncRest(control)));
+    prcDrawBend(painter, QRect(rect.topLeft(), fncRest(control)));
     return;
   }
   if (control.Dress == Look::Patch && control.BackColor.Clear) {
@@ -357,8 +357,8 @@ QRect fncPlace(const Control& control) {
             std::max(bottom - top, width)};
   }
   if (fncCutsPicture(control)) {
-    const QRect rest(QPoint(fncPixels(control.Left), fncPixels(control.Top)), fncRest(control));
-    return fncIsBent(control) ? fncBendRoom(rest) : rest;
+    return {QPoint(fncPixels(control.Left), fncPixels(control.Top)),
+            fncIsBent(control) ? fncCardSize() : fncRest(control)};
   }
   if (control.Dress == Look::Chip) {
     return fncPixelRect(control.Left, control.Top - dblHitAbove, control.Width,
@@ -384,13 +384,8 @@ bool fncIsBent(const Control& control) {
          (rest.width() < card.width() || rest.height() < card.height());
 }
 
-QRect fncBentRoom(const Control& control) {
-  return control.Visible && fncIsBent(control) ? fncPlace(control) : QRect();
-}
-
 QRect fncBentAnew(const Control& drawn, const Control& next) {
-  const QRect from(QPoint(0, 0), fncRest(drawn)), to(QPoint(0, 0), fncRest(next));
-  return (fncBendBand(from) | fncBendBand(to)).translated(-fncBendRoom(from).topLeft());
+  return fncBendBand({QPoint(0, 0), fncRest(drawn)}) | fncBendBand({QPoint(0, 0), fncRest(next)});
 }
 
 QFont fncFittedFont(const Control& control, QSize size) {

@@ -45,7 +45,7 @@ class PaintedView : public QWidget {
 };
 
 /// Where a control lies in its container, in pixels: a line by its ends, a card in its own size as
-/// far as it is not cut, a soft shadow with its margin, a bent back with its room.
+/// far as it is not cut, a soft shadow with its margin. A bent back has the room of the whole card.
 QRect fncPlace(const Control& control);
 
 /// Whether a control's picture stays as it is when its size changes, being cut and not squeezed.
@@ -54,10 +54,7 @@ bool fncCutsPicture(const Control& control);
 /// Whether a control is a card's back that is cut short, and so drawn as one that bends.
 bool fncIsBent(const Control& control);
 
-/// The room of a back that is seen to bend; none of any other control.
-QRect fncBentRoom(const Control& control);
-
-/// What of the widget of a back that bends further or back, in the same room, is painted anew.
+/// What of a back that bends further, or less far, has to be painted anew.
 QRect fncBentAnew(const Control& drawn, const Control& next);
 
 /// The control's face, where its text would not fit into size made smaller as far as it stays

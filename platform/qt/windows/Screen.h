@@ -30,6 +30,7 @@ struct ControlView {
   Control Drawn;
   double Scale;              ///< At which it was drawn.
   QPointer<QWidget> Widget;  ///< None for timers and menu entries.
+  bool blnHolds = false;     ///< Other controls lie within it.
   QPointer<QObject> Helper;  ///< The timer, menu, or action that stands for the control.
   void (*Drop)(ControlView&) = nullptr;  ///< Takes off the screen what its maker has put there.
 };

@@ -41,7 +41,8 @@ ControlView* fncEnsure(WindowView& home, Control& control,
   }
   QWidget* parent = home.Ground;
   if (control.Container != nullptr) {
-    const ControlView* holder = fncEnsure(home, *control.Container, made);
+    ControlView* holder = fncEnsure(home, *control.Container, made);
+    holder->blnHolds = true;
     parent = holder->Widget != nullptr ? holder->Widget : home.Ground;
   }
   made.push_back(std::make_unique<ControlView>(home, control));
@@ -274,16 +275,21 @@ void prcSyncIfDue() {
   }
 }
 
-void prcPaintNow(Window& window) {
-  WindowView* view = fncViewOf(window);
-  if (view == nullptr || scrNow.blnSyncing || fncLive(*view) == nullptr) {
+void prcPaintNow(Control& control) {
+  WindowView* home = control.Form != nullptr ? fncViewOf(*control.Form) : nullptr;
+  if (home == nullptr || scrNow.blnSyncing || fncLive(*home) == nullptr) {
     return;
   }
+  ControlView* view = fncViewOf(control);
   scrNow.blnSyncing = true;
-  prcSyncControls(*view);
+  if (view == nullptr || view->blnHolds) {
+    prcSyncControls(*home);
+  } else if (fncMatches(*view, &control) && !(view->Drawn == control)) {
+    prcUpdateControl(*view, control);
+  }
   scrNow.blnSyncing = false;
   QEvent paint(QEvent::UpdateRequest);
-  QCoreApplication::sendEvent(view->Shell->window(), &paint);
+  QCoreApplication::sendEvent(home->Shell->window(), &paint);
 }
 
 void prcClearScreen() {

@@ -13,8 +13,8 @@ void prcSyncAll();
 /// The same, unless it was done less than a frame's time ago.
 void prcSyncIfDue();
 
-/// Brings the controls of one window up to date and paints what has changed at once.
-void prcPaintNow(Window& window);
+/// Brings one control and what it holds up to date and paints that at once.
+void prcPaintNow(Control& control);
 
 /// Takes all windows off the screen, at the end.
 void prcClearScreen();

@@ -38,8 +38,8 @@ void WaitEvents(std::uint32_t milliseconds) {
 }
 
 void RepaintNow(Control& control) {
-  if (control.Form != nullptr && !qt::fncEnded()) {
-    qt::prcPaintNow(*control.Form);
+  if (!qt::fncEnded()) {
+    qt::prcPaintNow(control);
   }
 }
 
