@@ -1,5 +1,6 @@
 #include "platform/qt/views/Layers.h"
 
+#include <QImage>
 #include <QPainter>
 #include <algorithm>
 
@@ -37,7 +38,7 @@ QPixmap fncBelow(const ControlView& top, const QRect& room) {
   const Layers all(top.Home.Controls);
   const auto at = std::ranges::find(all, &top, [](const auto& view) { return view.get(); });
   prcAddLayers(below, room, {all.begin(), at});
-  return below;
+  return QPixmap::fromImage(below.toImage().convertToFormat(QImage::Format_RGB32));
 }
 
 }  // namespace qt

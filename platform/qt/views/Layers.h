@@ -24,7 +24,7 @@ QPixmap fncClear(const WindowView& home, const QRect& room);
 void prcAddGround(QPixmap& onto, const WindowView& home, const QRect& room);
 void prcAddLayers(QPixmap& onto, const QRect& room, Layers layers);
 
-/// All that lies in a room below a control.
+/// All that lies in a room below a control, opaque.
 QPixmap fncBelow(const ControlView& top, const QRect& room);
 
 }  // namespace qt
