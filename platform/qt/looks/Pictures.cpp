@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -98,6 +99,10 @@ const QPixmap& fncPicture(int number, QSize size, double ratio) {
     kept = fncDraw(number, size, ratio);
   }
   return kept;
+}
+
+void prcDrawAhead(QObject* home, int number, QSize size, double ratio) {
+  QTimer::singleShot(0, home, [=] { fncPicture(number, size, ratio); });
 }
 
 QSize fncPictureSize(int number) {

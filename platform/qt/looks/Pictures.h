@@ -21,6 +21,10 @@ QSize fncCardSize();
 /// An unknown number gives an empty picture.
 const QPixmap& fncPicture(int number, QSize size, double ratio);
 
+/// Draws a picture as soon as the program waits: the window system takes a while to bring a window
+/// up, and what the window shows first need not wait for it. Nothing once home has gone.
+void prcDrawAhead(QObject* home, int number, QSize size, double ratio);
+
 /// The size in pixels for which a picture is designed.
 QSize fncPictureSize(int number);
 

@@ -73,6 +73,13 @@ void ButtonView::paintEvent(QPaintEvent* /*event*/) {
                    fncCaption(control));
 }
 
+void ButtonView::showEvent(QShowEvent* event) {
+  QPushButton::showEvent(event);
+  if (view_ != nullptr && view_->Drawn.Picture != 0) {
+    prcDrawAhead(this, view_->Drawn.Picture, size(), devicePixelRatioF());
+  }
+}
+
 void ToolView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   const QRect face = rect().adjusted(1, 1, -1, -1);

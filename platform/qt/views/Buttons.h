@@ -23,6 +23,7 @@ class ButtonView : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   const ControlView* view_;

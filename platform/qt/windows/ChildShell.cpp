@@ -66,6 +66,14 @@ void GroundView::paintEvent(QPaintEvent* event) {
   }
 }
 
+void GroundView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (window_.Picture != 0) {
+    const QSize whole = window_.PictureTiled ? fncPictureSize(window_.Picture) : size();
+    prcDrawAhead(this, window_.Picture, whole, devicePixelRatioF());
+  }
+}
+
 ChildShell::ChildShell(WindowView& view, QWidget* field) : QWidget(field), view_(&view) {
   setMouseTracking(true);
 }

@@ -19,6 +19,7 @@ class GroundView : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   const Window& window_;
