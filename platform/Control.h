@@ -106,7 +106,7 @@ inline constexpr int intLeftButton = 1;
 inline constexpr int intRightButton = 2;
 inline constexpr int intMiddleButton = 4;
 
-/// Bits of the Shift argument of key and mouse handlers.
+/// Bits of the Shift argument of key handlers.
 inline constexpr int intShiftMask = 1;
 inline constexpr int intCtrlMask = 2;
 inline constexpr int intAltMask = 4;
@@ -115,7 +115,6 @@ inline constexpr int intAltMask = 4;
 /// above or left of it.
 struct Mouse {
   int Button = 0;
-  int Shift = 0;
   float X = 0, Y = 0;
 };
 

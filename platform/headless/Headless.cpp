@@ -345,7 +345,7 @@ void PlaceWindows() {
 bool Press(Control& control, float x, float y, int button) {
   Hover(control);  // The pointer gets there first.
   bool blnStands = false;
-  prcDispatch([&] { blnStands = fncUserPress(control, {button, 0, x, y}); });
+  prcDispatch([&] { blnStands = fncUserPress(control, {button, x, y}); });
   return blnStands;
 }
 
@@ -353,17 +353,17 @@ bool Click(Control& control, int button) {
   if (!Press(control, 0, 0, button)) {
     return false;
   }
-  prcDispatch([&] { prcUserRelease(control, {button, 0, 0, 0}, true); });
+  prcDispatch([&] { prcUserRelease(control, {button}, true); });
   return true;
 }
 
 void Drag(Control& control, float x, float y) {
-  prcDispatch([&] { prcUserMove(control, {intLeftButton, 0, x, y}); });
+  prcDispatch([&] { prcUserMove(control, {intLeftButton, x, y}); });
 }
 
 void Release(Control& control, float x, float y) {
   const bool blnInside = x >= 0 && y >= 0 && x < control.Width && y < control.Height;
-  prcDispatch([&] { prcUserRelease(control, {intLeftButton, 0, x, y}, blnInside); });
+  prcDispatch([&] { prcUserRelease(control, {intLeftButton, x, y}, blnInside); });
 }
 
 void Hover(Control& control) {

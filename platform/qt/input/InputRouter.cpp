@@ -68,12 +68,11 @@ int fncButtons(Qt::MouseButtons buttons) {
 }
 
 /// A place on the screen in twips from a widget's top left corner.
-Mouse fncMouse(const QWidget& widget, QPointF global, int button, int shift) {
+Mouse fncMouse(const QWidget& widget, QPointF global, int button) {
   const ControlView* view = fncControlViewOf(&widget);
   const QPoint corner = view != nullptr ? fncCorner(view->Drawn) : QPoint();
   const QPointF at = widget.mapFromGlobal(global) - corner;
-  return {button, shift, static_cast<float>(fncTwips(at.x())),
-          static_cast<float>(fncTwips(at.y()))};
+  return {button, static_cast<float>(fncTwips(at.x())), static_cast<float>(fncTwips(at.y()))};
 }
 
 QWidget* fncWidgetOf(const Control& control) {
@@ -90,12 +89,6 @@ void prcShowDown(QWidget* widget, bool blnDown) {
 }
 
 }  // namespace
-
-int fncShift(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? intShiftMask : 0) |
-         (modifiers.testFlag(Qt::ControlModifier) ? intCtrlMask : 0) |
-         (modifiers.testFlag(Qt::AltModifier) ? intAltMask : 0);
-}
 
 InputRouter::InputRouter(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
 
@@ -214,8 +207,7 @@ bool InputRouter::fncPressControl(Control& control, QWidget& widget, const QMous
   // A box that selects its text as it gets the focus keeps it so: this press is not the toolkit's.
   const bool blnSelects = control.Form->ActiveControl != &control;
   held_ = {&control, control.Serial, own, event.button(), false};
-  const Mouse mouse = fncMouse(*own, event.globalPosition(), fncButton(event.button()),
-                               fncShift(event.modifiers()));
+  const Mouse mouse = fncMouse(*own, event.globalPosition(), fncButton(event.button()));
   bool blnStands = false;
   prcServe([&] { blnStands = fncUserPress(control, mouse); });
   if (!blnStands || fncHeldControl() == nullptr) {
@@ -232,7 +224,7 @@ bool InputRouter::fncPressControl(Control& control, QWidget& widget, const QMous
 
 void InputRouter::prcEndLost(Qt::MouseButtons down) {
   if (held_.Button != Qt::NoButton && !down.testFlag(held_.Button)) {
-    prcRelease(QPointF(-1e6, -1e6), 0);
+    prcRelease(QPointF(-1e6, -1e6));
   }
 }
 
@@ -253,8 +245,7 @@ bool InputRouter::fncDragged(const QMouseEvent& event) {
     QWidget& own = *held_.Widget;
     const bool blnInside = own.rect().contains(own.mapFromGlobal(event.globalPosition()).toPoint());
     prcShowDown(&own, blnInside && fncClicksWith(*control, fncButton(held_.Button)));
-    const Mouse mouse = fncMouse(own, event.globalPosition(), fncButtons(event.buttons()),
-                                 fncShift(event.modifiers()));
+    const Mouse mouse = fncMouse(own, event.globalPosition(), fncButtons(event.buttons()));
     prcServe([&] { prcUserMove(*control, mouse); });
   }
   return blnOurs;
@@ -266,12 +257,11 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   if (window == nullptr) {
     return false;
   }
-  const int shift = fncShift(event.modifiers());
   if (Control* control = fncMeant(widget); control != nullptr) {
     QWidget* own = fncWidgetOf(*control);
     if (own != nullptr &&
         (control->On->MouseMove != nullptr || control->Kind == ControlKind::Chart)) {
-      const Mouse mouse = fncMouse(*own, event.globalPosition(), 0, shift);
+      const Mouse mouse = fncMouse(*own, event.globalPosition(), 0);
       prcServe([&] { prcUserMove(*control, mouse); });
     }
     // A widget that is closed is no ground.
@@ -281,7 +271,7 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
     return false;  // A border, or what the toolkit has put around the field.
   }
   if (window->On->MouseMove != nullptr) {
-    const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0, shift);
+    const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0);
     prcServe([&] { window->On->MouseMove(*window, mouse); });
   }
   return true;
@@ -300,12 +290,12 @@ bool InputRouter::fncWheeled(QWidget& widget, const QWheelEvent& event) {
 bool InputRouter::fncReleased(const QMouseEvent& event) {
   const bool blnOurs = held_.Button != Qt::NoButton && !held_.blnNative;
   if (held_.Button == event.button()) {
-    prcRelease(event.globalPosition(), fncShift(event.modifiers()));
+    prcRelease(event.globalPosition());
   }
   return blnOurs;
 }
 
-void InputRouter::prcRelease(QPointF global, int shift) {
+void InputRouter::prcRelease(QPointF global) {
   Control* control = fncHeldControl();
   const Held held = std::exchange(held_, {});
   if (control == nullptr) {
@@ -315,7 +305,7 @@ void InputRouter::prcRelease(QPointF global, int shift) {
   prcShowDown(widget, false);
   const bool blnInside =
       widget->isVisible() && widget->rect().contains(widget->mapFromGlobal(global).toPoint());
-  const Mouse mouse = fncMouse(*widget, global, fncButton(held.Button), shift);
+  const Mouse mouse = fncMouse(*widget, global, fncButton(held.Button));
   prcServe([&] { prcUserRelease(*control, mouse, blnInside); });
 }
 

@@ -54,7 +54,7 @@ class InputRouter : public QObject {
   /// Ends a press whose button is no longer down: it came up while something else had the mouse,
   /// such as a message answered by key. It leads to no click.
   void prcEndLost(Qt::MouseButtons down);
-  void prcRelease(QPointF global, int shift);
+  void prcRelease(QPointF global);
   Control* fncHeldControl() const;
 
   Held held_;
@@ -63,8 +63,5 @@ class InputRouter : public QObject {
 /// A key goes down in the widget that has the focus. Returns whether that was all of it, so that
 /// the widget gets nothing.
 bool fncKeyPressed(QWidget& widget, const QKeyEvent& event);
-
-/// The bits of the Shift argument.
-int fncShift(Qt::KeyboardModifiers modifiers);
 
 }  // namespace qt

@@ -44,6 +44,13 @@ std::string fncKeyName(const QKeyEvent& event) {
   return row != std::end(nmeRows) ? row->Name : QKeySequence(event.key()).toString().toStdString();
 }
 
+/// The bits of the Shift argument.
+int fncShift(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? intShiftMask : 0) |
+         (modifiers.testFlag(Qt::ControlModifier) ? intCtrlMask : 0) |
+         (modifiers.testFlag(Qt::AltModifier) ? intAltMask : 0);
+}
+
 bool fncModifierAlone(int key) {
   return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt ||
          key == Qt::Key_AltGr || key == Qt::Key_Meta || key == Qt::Key_CapsLock || key == 0 ||
