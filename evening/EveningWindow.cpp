@@ -7,6 +7,15 @@
 #include "shell/SettingsStore.h"
 #include "shell/WindowPlace.h"
 
+namespace {
+
+constexpr Colour clrEveningGround{243, 239, 228};
+constexpr Colour clrGain{20, 92, 60};
+
+}  // namespace
+
+Colour fncMoneyInk(double net) { return net < 0 ? clrLoss : net > 0 ? clrGain : clrBlack; }
+
 void prcPrepareEveningWindow(Window& form, const char* name, const char* caption, double width,
                              double height, const WindowEvents& events) {
   form.Name = name;

@@ -9,11 +9,9 @@
 
 // What the windows of the evening have in common.
 
-inline constexpr Colour clrEveningGround{243, 239, 228};
 inline constexpr Colour clrLoss{163, 38, 30};
-inline constexpr Colour clrGain{20, 92, 60};
 /// The colour of money won, or lost where it is below 0.
-inline Colour fncMoneyInk(double net) { return net < 0 ? clrLoss : net > 0 ? clrGain : clrBlack; }
+Colour fncMoneyInk(double net);
 
 /// The choice of a shoe: 0 is all.
 struct ShoeChoice {

@@ -14,6 +14,9 @@ constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 16U;
 /// Points that are reckoned at a go.
 constexpr std::size_t lngPortion = 1U << 20U;
 
+/// Shares of the players below the four edges of the band.
+constexpr std::array<double, 4> dblBandShares{0.05, 0.25, 0.75, 0.95};
+
 void prcAdd(BetLaw& law, const HandLaw& hand) {
   if (hand.fncEmpty()) {
     return;

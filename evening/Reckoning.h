@@ -16,11 +16,8 @@ struct BetLaw {
   SumLaw Coarse{};  ///< The same with a quarter of the points: how far they differ tells the error.
 };
 
-/// Shares of the players below the four edges of the band: half of all lie between the inner two,
-/// nine of ten between the outer two.
-inline constexpr std::array<double, 4> dblBandShares{0.05, 0.25, 0.75, 0.95};
-
-/// What players who bet the same have won up to a hand, at these shares; money.
+/// What players who bet the same have won up to a hand, in money: half of all lie between the inner
+/// two edges, nine of ten between the outer two.
 using BandEdges = std::array<float, 4>;
 
 struct Reckoning {

@@ -13,6 +13,13 @@ std::map<std::string, MarkCardWindow*> colMarkCards;
 
 namespace {
 
+constexpr int intHeadings = 90;  ///< Columns that have a heading.
+
+// The line of an ignored tie, twips.
+constexpr int intTieLineHeight = 30;
+constexpr int intTieLineDrop = 260;  ///< From the top of the last mark's cell to the line.
+constexpr int intTieLineAbove = 30;  ///< From the line to the first cell below it.
+
 std::array<ControlFamily*, 4> fncFamilies(MarkCardWindow& form) {
   return {&form.lblTotal, &form.lblBP, &form.shpTBP, &form.lblTBP};
 }

@@ -29,12 +29,6 @@ extern std::map<std::string, MarkCardWindow*> colMarkCards;
 inline constexpr int intColumnPitch = 345;
 inline constexpr int intRowPitch = 300;
 inline constexpr int intRowsBeforeGrowth = 9;
-inline constexpr int intRowsBetweenRules = 3;
-inline constexpr int intHeadings = 90;  ///< Columns that have a heading.
-inline constexpr int intLastRule = 10;  ///< Highest element of lneHLine.
-inline constexpr int intTieLineHeight = 30;
-inline constexpr int intTieLineDrop = 260;  ///< From the top of the last mark's cell to the line.
-inline constexpr int intTieLineAbove = 30;  ///< From the line to the first cell below it.
 
 /// The key of a window handle in colMarkCards.
 std::string fncHandleText(const Long& handle);

@@ -24,6 +24,9 @@ constexpr double dblPictureWidth = 30000;
 constexpr double dblBarWidth = 225;
 constexpr double dblInset = 15;  ///< From the drawing area's edge to its rectangle and rules.
 
+constexpr int intLastRule = 10;  ///< Highest element of lneHLine.
+constexpr int intRowsBetweenRules = 3;
+
 /// The card that a window or a control on it belongs to, loaded or being loaded.
 MarkCardWindow& fncOwner(const Window& window) {
   const auto owner = std::ranges::find_if(

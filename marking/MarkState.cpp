@@ -22,6 +22,9 @@ Integer intAutoDealDelay;
 
 namespace {
 
+constexpr Colour clrDarkBlue{0, 0, 128};
+constexpr Colour clrTieGreen{0, 192, 0};
+
 /// What the shoe of a card says about the hand just dealt, as the rule asks for it.
 struct Hand {
   bool Banker, Player, Tie;

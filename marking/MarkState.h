@@ -27,9 +27,8 @@ extern Integer intMarkCardNumber;  ///< The card being opened.
 extern bool blnAutoDeal;
 extern Integer intAutoDealDelay;  ///< Seconds.
 
+/// Of one side's frames, and of numbers below 0.
 inline constexpr Colour clrDarkRed{192, 0, 0};
-inline constexpr Colour clrDarkBlue{0, 0, 128};
-inline constexpr Colour clrTieGreen{0, 192, 0};
 
 /// What one hand leaves on a card.
 struct Mark {

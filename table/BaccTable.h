@@ -6,10 +6,6 @@
 // The table window: its controls by name, and the values that live with it. Card controls go by
 // table position: 0, 1, 2 the Player's first, second and third card, 3, 4, 5 the Banker's.
 
-/// A card is 1065 by 1440 twips: 71 by 96 pixels of 15.
-inline constexpr int intCardWide = 1065;
-inline constexpr int intCardHigh = 1440;
-
 struct BaccTableWindow {
   Window Form;
 

@@ -12,6 +12,10 @@
 
 namespace {
 
+/// A card is 71 by 96 pixels of 15 twips.
+constexpr int intCardWide = 1065;
+constexpr int intCardHigh = 1440;
+
 constexpr Colour clrIvory{245, 238, 220};
 constexpr Colour clrQuiet{196, 205, 190};
 constexpr Colour clrGold{236, 203, 120};
