@@ -19,7 +19,7 @@ void prcTurnByItself(BaccTableWindow& frm, Integer value, Integer Index) {
     prcWaitSeconds(Index == 0 || Index == 3 ? 0.5 : 0.7);
   }
   prcShowInnerPatches(frm, value, Index, true);
-  prcUncover(Index, blnDealDelay);
+  prcUncover(frm, Index, blnDealDelay);
   if (blnDealDelay) {
     prcWaitSeconds(0.7);
   }

@@ -3,7 +3,10 @@
 #include "platform/Numbers.h"
 #include "table/BaccTable.h"
 
-/// Flies a card back from above the table towards a position 0..5 in steps of 180 twips across, and
+// How a card gets to the table and is turned or offered there. frm is the table window, Index the
+// table position 0..5.
+
+/// Flies a card back from above the table towards a position in steps of 180 twips across, and
 /// returns when it is within one step. Serves events. The card must lie at least a step across from
 /// the start; otherwise faultDivision.
 void prcMoveCard(BaccTableWindow& frm, const Integer& Index);

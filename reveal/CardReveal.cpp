@@ -80,10 +80,10 @@ void prcShowInnerPatches(BaccTableWindow& frm, Integer value, Integer Index, boo
   patches.BottomLeft.Visible = blnShow;
 }
 
-void prcUncover(Integer Index, bool blnWaits) {
-  Control& face = BaccTable.pctCardFace[Index];
-  BaccTable.pctCardBack[Index].Flips = blnWaits && blnDealAnimation;
-  BaccTable.pctCardBack[Index].Visible = false;
+void prcUncover(BaccTableWindow& frm, Integer Index, bool blnWaits) {
+  Control& face = frm.pctCardFace[Index];
+  frm.pctCardBack[Index].Flips = blnWaits && blnDealAnimation;
+  frm.pctCardBack[Index].Visible = false;
   face.Spoken = fncSpokenPosition(Index) + ", " + fncCardName(face.Picture);
 }
 
@@ -103,7 +103,7 @@ void pctCardBack_Click(Integer Index) {
   prcShowInnerPatches(BaccTable, value, Index, true);
   prcShowOuterPatches(BaccTable, value, Index, false);
   running.Step(5);
-  prcUncover(Index, true);
+  prcUncover(BaccTable, Index, true);
   platform::RepaintNow(BaccTable.pctCardFace[Index]);
   running.Step(6);
   const HandSide side = fncHandSide(Index);

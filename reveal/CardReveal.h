@@ -5,7 +5,7 @@
 #include "table/BaccTable.h"
 
 // Turning a card by click or squeeze. Index is the table position 0..5, any other is
-// faultSubscript; mouse places are twips from the strip's corner.
+// faultSubscript; mouse places are twips from the strip's corner. frm is the table window.
 
 /// Face values from here up have the narrow marks beside a frame, and so the plain patches.
 inline constexpr int intFirstPicture = 11;
@@ -38,7 +38,7 @@ void prcLoadArrows();
 
 /// Takes the back off a card: from now on the ear may know what the face shows. Where a wait
 /// follows anyway and cards move, the card is seen to turn over.
-void prcUncover(Integer Index, bool blnWaits);
+void prcUncover(BaccTableWindow& frm, Integer Index, bool blnWaits);
 
 /// Shows or hides the two patches over the top left and bottom right marks, or over the other two,
 /// of the family that goes with the face value. The other family is left alone.

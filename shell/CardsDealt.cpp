@@ -208,7 +208,8 @@ void prcInitCardsDealtCount() {
 void prcListCard(Integer position, const std::string& mark) {
   const Integer slot = intShoeCards[0][position];
   const Integer value = intCardValue[0][slot];
-  std::string row = fncCardValueName(value) + " " + CardSuite(slot);
+  const std::string suit = CardSuite(slot);  // Sets intSuitRow, by which the card is counted below.
+  std::string row = fncCardValueName(value) + " " + suit;
   row.resize(intNameColumns, ' ');
   row.resize(intMarkColumn, ' ');
   row += mark;

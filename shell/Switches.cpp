@@ -48,7 +48,7 @@ void prcTurn(const Switch& row) {
     prcWriteSwitch(row.Section, row.Key, blnOn);
     running.Step(3);
     if (row.Flag != nullptr) {
-      *row.Flag = !*row.Flag;
+      *row.Flag = blnOn;
     }
     running.Step(4);
     if (row.Effect != nullptr) {

@@ -12,8 +12,8 @@
 /// Card number 1..52 of a slot 0..415.
 Integer CardNumber1To52(Integer card);
 
-/// "Spade", "Club", "Diamond" or "Heart" for a slot; also sets intSuitRow to 1..4 for the count of
-/// cards dealt.
+/// "Spade", "Club", "Diamond" or "Heart" for a slot. Leaves the suit's row 1..4 in intSuitRow, by
+/// which its caller counts the card.
 std::string CardSuite(Integer card);
 
 /// "1" to "10", "Jack", "Queen", "King" for a face value 1..13, empty for any other.

@@ -14,20 +14,23 @@ namespace {
 /// Cards left at or below which one more hand is the last.
 constexpr int intCardsBehindMark = 13;
 
-/// A card at a position of a shoe.
+// Below, due counts the cards of a shoe in the order in which they come out, as intNextCard does; a
+// position is one of the table.
+
+/// A card as it comes out of a shoe.
 struct Drawn {
   Integer Number;  ///< 1..52.
   Integer Value;   ///< 1..13.
 };
 
-Drawn fncCardAt(const Integer& intShoe, int position) {
-  const Integer slot = intShoeCards[intShoe][position];
+Drawn fncCardDue(const Integer& intShoe, int due) {
+  const Integer slot = intShoeCards[intShoe][due];
   return {CardNumber1To52(slot), intCardValue[intShoe][slot]};
 }
 
-void prcListPosition(const Integer& intShoe, int position) {
+void prcListDue(const Integer& intShoe, int due) {
   if (intShoe == 0) {
-    prcListCard(position, "");
+    prcListCard(due, "");
   }
 }
 
@@ -41,9 +44,9 @@ Integer fncTwoCards(const Integer& intShoe, int first) {
 }
 
 void prcDealFirstFour(const Integer& intShoe) {
-  const int p = intNextCard[intShoe];
-  const std::array<Drawn, 4> drawn{fncCardAt(intShoe, p), fncCardAt(intShoe, p + 1),
-                                   fncCardAt(intShoe, p + 2), fncCardAt(intShoe, p + 3)};
+  const int due = intNextCard[intShoe];
+  const std::array<Drawn, 4> drawn{fncCardDue(intShoe, due), fncCardDue(intShoe, due + 1),
+                                   fncCardDue(intShoe, due + 2), fncCardDue(intShoe, due + 3)};
   for (std::size_t i = 0; i < drawn.size(); ++i) {
     fncHandCard(intShoe, intDealOrder[i]) = drawn[i].Number;
     fncHandValue(intShoe, intDealOrder[i]) = drawn[i].Value;
@@ -53,19 +56,19 @@ void prcDealFirstFour(const Integer& intShoe) {
   intPlayerTotal2[intShoe] = intPlayerTotal[intShoe];
   intBankerTotal2[intShoe] = intBankerTotal[intShoe];
   for (int i = 0; i < 4; ++i) {
-    prcListPosition(intShoe, p + i);
+    prcListDue(intShoe, due + i);
   }
-  intNextCard[intShoe] = p + 4;
+  intNextCard[intShoe] = due + 4;
 }
 
 /// Deals a third card to position 2 or 5, into the total and flag of that side. Returns its point.
 Integer fncDrawThird(const Integer& intShoe, int position, Integer& total, bool& blnThird) {
-  const Drawn third = fncCardAt(intShoe, intNextCard[intShoe]);
+  const Drawn third = fncCardDue(intShoe, intNextCard[intShoe]);
   const Integer point = fncCardPoint(third.Value);
   total = fncTotal(total, point);
   fncHandCard(intShoe, position) = third.Number;
   fncHandValue(intShoe, position) = third.Value;
-  prcListPosition(intShoe, intNextCard[intShoe]);
+  prcListDue(intShoe, intNextCard[intShoe]);
   ++intNextCard[intShoe];
   blnThird = true;
   return point;

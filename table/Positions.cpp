@@ -13,16 +13,16 @@ constexpr Table<PerShoe*, intPositions> tblValues({&intPlayerValue1, &intPlayerV
 
 }  // namespace
 
-Integer& fncHandCard(Integer intShoe, Integer Index) { return (*tblCards[Index])[intShoe]; }
+Integer& fncHandCard(Integer intShoe, Integer position) { return (*tblCards[position])[intShoe]; }
 
-Integer& fncHandValue(Integer intShoe, Integer Index) { return (*tblValues[Index])[intShoe]; }
+Integer& fncHandValue(Integer intShoe, Integer position) { return (*tblValues[position])[intShoe]; }
 
-HandSide fncHandSide(Integer Index) {
-  if (Index < 0 || Index >= intPositions) {
+HandSide fncHandSide(Integer position) {
+  if (position < 0 || position >= intPositions) {
     throw faultSubscript;
   }
   const Integer shoe = intShoeNumber;
-  if (Index < 3) {
+  if (position < 3) {
     return {0,
             BaccTable.PTotal,
             BaccTable.lblNaturalP,
@@ -40,7 +40,7 @@ HandSide fncHandSide(Integer Index) {
           blnBankerThird[shoe]};
 }
 
-std::string fncSpokenPosition(Integer Index) {
+std::string fncSpokenPosition(Integer position) {
   static constexpr Table<const char*, 3> numbers({" first card", " second card", " third card"});
-  return std::string(Index < 3 ? "Player" : "Banker") + numbers[Index % 3];
+  return std::string(position < 3 ? "Player" : "Banker") + numbers[position % 3];
 }

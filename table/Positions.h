@@ -5,13 +5,13 @@
 #include "table/BaccTable.h"
 
 // The hand by table position 0..5: the Player's first, second and third card, then the Banker's.
-// Any other Index is faultSubscript.
+// Any other is faultSubscript.
 
 /// Card number 1..52 of the card that shoe 0..8 has dealt to a position.
-Integer& fncHandCard(Integer intShoe, Integer Index);
+Integer& fncHandCard(Integer intShoe, Integer position);
 
 /// Its face value 1..13.
-Integer& fncHandValue(Integer intShoe, Integer Index);
+Integer& fncHandValue(Integer intShoe, Integer position);
 
 /// One side of the hand on the table: where it shows, and what the hand holds of it.
 struct HandSide {
@@ -25,7 +25,7 @@ struct HandSide {
 };
 
 /// The side that a position belongs to.
-HandSide fncHandSide(Integer Index);
+HandSide fncHandSide(Integer position);
 
 /// "Player first card" and so on, as a position is spoken of.
-std::string fncSpokenPosition(Integer Index);
+std::string fncSpokenPosition(Integer position);
