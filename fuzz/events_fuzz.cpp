@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::vector<UserEvent> events;
   for (std::size_t at = 0; at < count; ++at) {
     const std::uint8_t* bytes = data + 1 + at * 4;
-    events.push_back(fncUserEvent(bytes[0], bytes[1], bytes[2], bytes[3]));
+    events.push_back({bytes[0], bytes[1], bytes[2], bytes[3]});
   }
   const EnduranceResult result = fncPlay("game", data[0], events);
   if (!result.Fault.empty()) {

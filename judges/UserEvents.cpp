@@ -1,6 +1,9 @@
 #include "judges/UserEvents.h"
 
+#include <algorithm>
 #include <array>
+#include <functional>
+#include <iterator>
 #include <stdexcept>
 
 #include "betting/frmStatistics.h"
@@ -14,15 +17,7 @@
 
 namespace {
 
-constexpr std::array strKinds{"Chip",       "TypeBet",     "Tab",       "Deal",      "TypeHands",
-                              "Shuffle",    "Turn",        "Squeeze",   "Key",       "Menu",
-                              "ToolButton", "CloseWindow", "KeepOnTop", "UnitValue", "Statistics",
-                              "Scroll",     "Hover",       "Idle",      "Leave"};
-static_assert(strKinds.size() == intUserEventKinds);
-
-/// How often a random user does each, out of their sum.
-constexpr std::array<int, intUserEventKinds> intWeights{24, 8, 4, 48, 8, 9, 12, 5, 5, 2,
-                                                        2,  1, 1, 2,  2, 1, 3,  4, 1};
+using Byte = std::uint8_t;
 
 constexpr std::array strBets{"0", "1",   "2",  "5",   "10",  "50",  "51",      "100", "101",
                              "",  "abc", "-3", "2.5", "1e3", "  7", "9999999", "00",  "1,000"};
@@ -32,20 +27,7 @@ constexpr std::array strStakes{"1000", "5000", "10000000", "10", "0", "", "99999
 constexpr std::array strKeys{"1",    "2",     "3",     "4",     "5",  "6",
                              "Left", "Right", "Enter", "Space", "F12"};
 
-template <class Choices>
-auto fncPick(const Choices& choices, std::uint8_t at) {
-  return choices[at % choices.size()];
-}
-
-/// Where something covers what is meant, or another window has the keyboard, the rest is left
-/// alone.
-void prcTry(const std::function<void()>& act) {
-  try {
-    act();
-  } catch (const std::logic_error&) {
-    return;
-  }
-}
+auto fncPick(const auto& choices, Byte at) { return choices[at % choices.size()]; }
 
 bool fncReached(const Control& control) {
   return control.Style != ButtonStyle::Separator && fncSeen(control) && fncUsable(control);
@@ -64,13 +46,31 @@ void prcType(Control& box, const std::string& text) {
 }
 
 /// The next box gets this answer, if any: 0 leaves it its standard button.
-void prcAnswer(std::uint8_t how) {
+void prcAnswer(Byte how) {
   if (how % 3 != 0) {
     user::Answer(how % 3 == 1 ? platform::Answer::Ok : platform::Answer::Cancel);
   }
 }
 
-void prcSqueeze(std::uint8_t which, std::uint8_t how) {
+void prcChip(Byte which, Byte how) {
+  constexpr std::array buttons{intLeftButton, intLeftButton, intRightButton, intMiddleButton};
+  prcClick(*fncPick(fncChips(which % intSeats), which / 2), fncPick(buttons, how));
+}
+
+void prcTypeBet(Byte which, Byte how) {
+  prcType(fncBet(fncPick(betSides, which / 2), which % intSeats).Box, fncPick(strBets, how));
+}
+
+void prcShuffle(Byte /*which*/, Byte how) {
+  prcAnswer(how);
+  prcClick(BaccTable.maisyk);
+}
+
+void prcTurn(Byte which, Byte how) {
+  how % 2 == 0 ? prcTurnAll() : prcClick(BaccTable.pctCardBack[which % intPositions]);
+}
+
+void prcSqueeze(Byte which, Byte how) {
   const int n = which % intPositions;
   const bool blnBottom = how % 2 == 0;
   Control& strip = blnBottom ? BaccTable.lblCardBottom[n] : BaccTable.lblCardRight[n];
@@ -84,8 +84,33 @@ void prcSqueeze(std::uint8_t which, std::uint8_t how) {
   user::Release(strip, -1, -1);
 }
 
+void prcMenu(Byte which, Byte how) {
+  std::vector<Control*> entries;
+  std::ranges::copy_if(MDIForm1.Form.Controls, std::back_inserter(entries), [](const Control* c) {
+    return c->Kind == ControlKind::MenuEntry && c->On->Click != nullptr && c != &MDIForm1.mnuExit;
+  });
+  prcAnswer(how);
+  prcClick(*fncPick(entries, which));
+}
+
+void prcToolButton(Byte which, Byte how) {
+  const bool blnLarge = tlbrRef == &MDIForm1.tlbrMDIForm1;
+  prcAnswer(how);
+  prcClick((blnLarge ? MDIForm1.tlbrButtons1 : MDIForm1.tlbrButtons2)[which % intToolButtons]);
+}
+
+/// Mostly the lists: the other two may end the program.
+void prcCloseWindow(Byte which, Byte /*how*/) {
+  const std::array<Window*, 8> windows{
+      &frmCardsDealt.Form, &frmCardsDealtCount.Form, &frmCardsDealt.Form, &frmCardsDealtCount.Form,
+      &frmCardsDealt.Form, &frmCardsDealtCount.Form, &BaccTable.Form,     &MDIForm1.Form};
+  if (Window& window = *fncPick(windows, which); window.Visible) {
+    user::Close(window);
+  }
+}
+
 /// Works in the statistics, which are open while this runs.
-void prcUseStatistics(std::uint8_t which, std::uint8_t how) {
+void prcUseStatistics(Byte which, Byte how) {
   if (!frmStatistics.Form.Visible) {
     return;
   }
@@ -104,28 +129,29 @@ void prcUseStatistics(std::uint8_t which, std::uint8_t how) {
   }
 }
 
-void prcMenu(std::uint8_t which, std::uint8_t how) {
-  std::vector<Control*> entries;
-  for (Control* control : MDIForm1.Form.Controls) {
-    if (control->Kind == ControlKind::MenuEntry && control->On->Click != nullptr &&
-        control != &MDIForm1.mnuExit) {
-      entries.push_back(control);
-    }
-  }
-  if (!entries.empty()) {
-    prcAnswer(how);
-    prcClick(*fncPick(entries, which));
+/// Where something covers what is meant, or another window has the keyboard, the rest is left
+/// alone.
+void prcTry(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const std::logic_error&) {
+    return;
   }
 }
 
-void prcScroll(std::uint8_t which, std::uint8_t how) {
+void prcStatistics(Byte which, Byte how) {
+  user::WhileModal([which, how] { prcTry([=] { prcUseStatistics(which, how); }); });
+  prcClick(fncToolButton("Statistics"));
+}
+
+void prcScroll(Byte which, Byte how) {
   if (MarkCardWindow* card = fncMarkCard(0)) {
     Control& bar = which % 2 == 0 ? card->HScroll1 : card->VScroll1;
     prcDispatch([&] { prcUserValue(bar, bar.Max * how / 255); });
   }
 }
 
-void prcHover(std::uint8_t which) {
+void prcHover(Byte which, Byte /*how*/) {
   if (which % 7 == intPositions) {
     user::Hover(BaccTable.Form);
   } else if (Control& back = BaccTable.pctCardBack[which % 7]; fncReached(back)) {
@@ -133,53 +159,57 @@ void prcHover(std::uint8_t which) {
   }
 }
 
-void prcBetEvent(const UserEvent& event) {
-  const int seat = event.Which % intSeats;
-  if (event.Kind == UserEventKind::Chip) {
-    constexpr std::array buttons{intLeftButton, intLeftButton, intRightButton, intMiddleButton};
-    prcClick(*fncPick(fncChips(seat), event.Which / 2), fncPick(buttons, event.How));
-  } else {
-    prcType(fncBet(fncPick(betSides, event.Which / 2), seat).Box, fncPick(strBets, event.How));
-  }
-}
+/// What a user does, and how often a random one does it, out of the sum of all.
+struct Kind {
+  const char* Name;
+  int Weight;
+  void (*Do)(Byte which, Byte how);
+};
 
-void prcWindowEvent(const UserEvent& event) {
-  const bool blnCards = event.Which % 2 == 0;
-  if (event.Kind == UserEventKind::CloseWindow) {
-    // Mostly the lists: the other two may end the program.
-    const std::array<Window*, 8> windows{&frmCardsDealt.Form,      &frmCardsDealtCount.Form,
-                                         &frmCardsDealt.Form,      &frmCardsDealtCount.Form,
-                                         &frmCardsDealtCount.Form, &frmCardsDealt.Form,
-                                         &BaccTable.Form,          &MDIForm1.Form};
-    if (Window& window = *fncPick(windows, event.Which); window.Visible) {
-      user::Close(window);
-    }
-  } else {
-    prcClick(blnCards ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
-  }
-}
+const std::array kinds{
+    Kind{"Chip", 24, prcChip},
+    Kind{"TypeBet", 8, prcTypeBet},
+    Kind{"Tab", 4, [](Byte, Byte) { user::Tab(BaccTable.Form); }},
+    Kind{"Deal", 48, [](Byte which, Byte) { prcClick(BaccTable.duokkortos[which % 4]); }},
+    Kind{"TypeHands", 8,
+         [](Byte, Byte how) { prcType(BaccTable.mskHandsAtaTime, fncPick(strHands, how)); }},
+    Kind{"Shuffle", 9, prcShuffle},
+    Kind{"Turn", 12, prcTurn},
+    Kind{"Squeeze", 5, prcSqueeze},
+    Kind{"Key", 5, [](Byte, Byte how) { user::Key(BaccTable.Form, fncPick(strKeys, how)); }},
+    Kind{"Menu", 2, prcMenu},
+    Kind{"ToolButton", 2, prcToolButton},
+    Kind{"CloseWindow", 1, prcCloseWindow},
+    Kind{"KeepOnTop", 1,
+         [](Byte which, Byte) {
+           prcClick(which % 2 == 0 ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
+         }},
+    Kind{"UnitValue", 2,
+         [](Byte, Byte how) { prcType(BaccTable.txtUnitValue, fncPick(strUnits, how)); }},
+    Kind{"Statistics", 2, prcStatistics},
+    Kind{"Scroll", 1, prcScroll},
+    Kind{"Hover", 3, prcHover},
+    Kind{"Idle", 4, [](Byte, Byte) {}},
+    Kind{"Leave", 1, [](Byte, Byte) { prcClick(MDIForm1.mnuExit); }},
+};
 
 }  // namespace
 
-UserEvent fncUserEvent(std::uint8_t kind, std::uint8_t which, std::uint8_t how,
-                       std::uint8_t delay) {
-  return {static_cast<UserEventKind>(kind % intUserEventKinds), which, how, delay};
-}
-
 UserEvent fncRandomEvent(std::mt19937_64& random) {
-  std::discrete_distribution<int> kinds(intWeights.begin(), intWeights.end());
+  std::array<int, kinds.size()> weights{};
+  std::ranges::transform(kinds, weights.begin(), &Kind::Weight);
+  std::discrete_distribution<int> kind(weights.begin(), weights.end());
   std::uniform_int_distribution<int> bytes(0, 255);
-  const auto byte = [&] { return static_cast<std::uint8_t>(bytes(random)); };
-  const auto kind = static_cast<std::uint8_t>(kinds(random));
+  const auto byte = [&] { return static_cast<Byte>(bytes(random)); };
   // A third of the events come close behind the one before, in the middle of what it began.
   const bool blnSoon = byte() % 3 == 0;
-  return fncUserEvent(kind, byte(), byte(), static_cast<std::uint8_t>(byte() / (blnSoon ? 16 : 2)));
+  return {static_cast<Byte>(kind(random)), byte(), byte(),
+          static_cast<Byte>(byte() / (blnSoon ? 16 : 2))};
 }
 
 std::string fncDescribe(const UserEvent& event) {
-  return std::string(strKinds.at(static_cast<std::size_t>(event.Kind))) + " " +
-         std::to_string(event.Which) + " " + std::to_string(event.How) + " " +
-         std::to_string(event.Delay);
+  return std::string(fncPick(kinds, event.Kind).Name) + " " + std::to_string(event.Which) + " " +
+         std::to_string(event.How) + " " + std::to_string(event.Delay);
 }
 
 void prcTurnAll() {
@@ -188,61 +218,8 @@ void prcTurnAll() {
   }
 }
 
-namespace {
-
-void prcAct(const UserEvent& event) {
-  const std::uint8_t which = event.Which, how = event.How;
-  if (!BaccTable.Form.Visible) {
-    return;  // The program is still on its way to the table, or away from it.
-  }
-  switch (event.Kind) {
-    case UserEventKind::Chip:
-    case UserEventKind::TypeBet:
-      return prcBetEvent(event);
-    case UserEventKind::Tab:
-      user::Tab(BaccTable.Form);
-      return;
-    case UserEventKind::Deal:
-      return prcClick(BaccTable.duokkortos[which % 4]);
-    case UserEventKind::TypeHands:
-      return prcType(BaccTable.mskHandsAtaTime, fncPick(strHands, how));
-    case UserEventKind::Shuffle:
-      prcAnswer(how);
-      return prcClick(BaccTable.maisyk);
-    case UserEventKind::Turn:
-      return how % 2 == 0 ? prcTurnAll() : prcClick(BaccTable.pctCardBack[which % intPositions]);
-    case UserEventKind::Squeeze:
-      return prcSqueeze(which, how);
-    case UserEventKind::Key:
-      return user::Key(BaccTable.Form, fncPick(strKeys, how));
-    case UserEventKind::Menu:
-      return prcMenu(which, how);
-    case UserEventKind::ToolButton:
-      prcAnswer(how);
-      return prcClick((tlbrRef == &MDIForm1.tlbrMDIForm1
-                           ? MDIForm1.tlbrButtons1
-                           : MDIForm1.tlbrButtons2)[which % intToolButtons]);
-    case UserEventKind::CloseWindow:
-    case UserEventKind::KeepOnTop:
-      return prcWindowEvent(event);
-    case UserEventKind::UnitValue:
-      return prcType(BaccTable.txtUnitValue, fncPick(strUnits, how));
-    case UserEventKind::Statistics:
-      user::WhileModal([which, how] { prcTry([=] { prcUseStatistics(which, how); }); });
-      return prcClick(fncToolButton("Statistics"));
-    case UserEventKind::Scroll:
-      return prcScroll(which, how);
-    case UserEventKind::Hover:
-      return prcHover(which);
-    case UserEventKind::Idle:
-      return;
-    case UserEventKind::Leave:
-      return prcClick(MDIForm1.mnuExit);
-  }
-}
-
-}  // namespace
-
 void prcDo(const UserEvent& event) {
-  prcTry([&] { prcAct(event); });
+  if (BaccTable.Form.Visible) {  // Else the program is on its way to the table, or away from it.
+    prcTry([&] { fncPick(kinds, event.Kind).Do(event.Which, event.How); });
+  }
 }
