@@ -5,7 +5,6 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "learn/Advice.h"
 #include "marking/MarkState.h"
 #include "platform/Procedure.h"
 #include "platform/ProfileFile.h"
@@ -61,18 +60,6 @@ std::string fncPiped(std::string text) {
     text.replace(at, 2, "|");
   }
   return text;
-}
-
-std::string fncAdviceOn(const std::string& looks, int Index, int v, int t) {
-  TableView view;
-  for (int n = 0; n < intPositions; ++n) {
-    const char look = looks.at(static_cast<std::size_t>(n));
-    view.Revealed[n] = look == 'f' || look == '.';
-    view.Face[n] = look == 'f' || look == 'b';
-  }
-  std::string text = "none";
-  fncAdvice(Index, view, {v, t}, text);
-  return fncPiped(text);
 }
 
 void Game::SetUp() {

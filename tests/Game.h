@@ -35,11 +35,6 @@ void prcFreshGame(const std::string& folder);
 /// A text with "|" for its line breaks.
 std::string fncPiped(std::string text);
 
-/// What is advised on a card by the two numbers that the advice asks for, piped; "none" where there
-/// is no advice. The six cards lie with 'f' face in view, 'b' back over a face, 'l' back alone, '.'
-/// no card.
-std::string fncAdviceOn(const std::string& looks, int Index, int v, int t);
-
 class Game : public testing::Test {
  protected:
   void SetUp() override;

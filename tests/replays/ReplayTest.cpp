@@ -40,7 +40,11 @@ std::string fncRest(Words& words) {
   return rest;
 }
 
-void prcSay(bool& flag, Words& words) { flag = fncNext<std::string>(words) == "on"; }
+/// A number, or what is switched on or off.
+int fncNumber(Words& words) {
+  const auto word = fncNext<std::string>(words);
+  return word == "on" ? 1 : word == "off" ? 0 : std::stoi(word);
+}
 
 const std::map<std::string, bool*> flags{{"faceup", &blnCardFaceUp},
                                          {"values", &blnShowCardValues},
@@ -58,7 +62,21 @@ const std::map<std::string, bool*> flags{{"faceup", &blnCardFaceUp},
                                          {"next-blue", &blnPlayerBlue},
                                          {"count", &blnShowCardsDealtCount},
                                          {"shuffled", &blnShuffled[0]},
+                                         {"clickable", &blnCardClickable[0]},
                                          {"placed", &BaccTable.blnCardsPlaced}};
+
+const std::map<std::string, Integer*> numbers{{"limit", &intMarkVerticalLimit[0]},
+                                              {"next", &intNextCard[0]},
+                                              {"decks", &intDecks[0]},
+                                              {"player", &intPlayerTotal[0]},
+                                              {"banker", &intBankerTotal[0]},
+                                              {"last-total", &intLastTotalColumn[0]}};
+
+/// What no control does at that moment.
+const std::map<std::string, void (*)()> calls{{"open-card", [] { NewCardViewForm(0, 0); }},
+                                              {"close-card", [] { fncUnload(MarkCards[0].Form); }},
+                                              {"choose-shoe", prcSelectaShoe},
+                                              {"deal", [] { duokkortos_Click(0); }}};
 
 struct Record {
   std::string Head;  ///< Remarks and empty lines before the step, as they stand in the file.
@@ -141,6 +159,15 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
 
   std::string& Told() { return records_[static_cast<std::size_t>(at_)].Told; }
 
+  /// What the act tells, if anything, behind a word of its own.
+  template <class Act>
+  void TellApart(const std::string& word, Act act) {
+    const std::string before = std::exchange(Told(), "");
+    act();
+    const std::string told = std::exchange(Told(), before);
+    prcAdd(Told(), told.empty() ? "" : word + ": " + told);
+  }
+
   /// Plays "step; step", or "each a b: step; step" once for each, with it in the place of "$".
   void Do(const std::string& steps) {
     const std::size_t colon = steps.find(": ");
@@ -152,16 +179,12 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       return;
     }
     Words values(steps.substr(5, colon - 5));
-    for (auto value = fncNext<std::string>(values); !value.empty();
-         value = fncNext<std::string>(values)) {
+    for (std::string value; values >> value;) {
       std::string round = steps.substr(colon + 2);
       for (std::size_t at = round.find('$'); at != std::string::npos; at = round.find('$')) {
         round.replace(at, 1, value);
       }
-      const std::string before = std::exchange(Told(), "");
-      Do(round);
-      const std::string told = std::exchange(Told(), before);
-      prcAdd(Told(), told.empty() ? "" : value.append(": ").append(told));
+      TellApart(value, [&] { Do(round); });
     }
   }
 
@@ -185,6 +208,11 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     }
   }
 
+  void Restart() {
+    prcFreshGame(Folder());
+    transcript_.Forget();
+  }
+
   void Begin() {
     user::Run(fncStartProgram);
     user::Wait(10);
@@ -197,18 +225,15 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
 
   /// Runs the rest of the step at a later moment, inside whatever wait the program is then in.
   void Later(Words& words) {
-    const auto when = fncNext<std::string>(words);
+    const auto when = fncNext<std::uint32_t>(words);
     const std::string line = fncRest(words);
-    const auto act = [this, when, line] {
-      prcAdd(Told(), "at " + when + ": " + line);
-      DoOne(line);
+    user::After(when, [this, when, line] {
       Tell("");
-    };
-    if (when == "turn") {
-      user::AtNextTurn(act);
-    } else {
-      user::After(static_cast<std::uint32_t>(std::stoul(when)), act);
-    }
+      TellApart("at " + std::to_string(when), [&] {
+        DoOne(line);
+        Tell("");
+      });
+    });
   }
 
   /// Tells every change at its millisecond, until the hand or the shuffle is over.
@@ -283,23 +308,27 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     }
   }
 
-  /// Lays six cards as 'f' face in view, 'b' under a back and ready for the user, 'l' a back alone
-  /// or '.' nothing.
+  /// Lays six cards as 'f' face in view, 'b' under a back and ready for the user, 'B' so too with
+  /// the mouse on it, 'l' a back alone or '.' nothing.
   static void Lay(const std::string& looks) {
+    user::Hover(BaccTable.Form);
     for (int n = 0; n < intPositions; ++n) {
       const char look = looks.at(static_cast<std::size_t>(n));
-      BaccTable.pctCardBack[n].Visible = look == 'b' || look == 'l';
-      BaccTable.pctCardFace[n].Visible = look == 'b' || look == 'f';
-      BaccTable.lblCardBottom[n].Visible = BaccTable.lblCardRight[n].Visible = look == 'b';
-      blnCardClickable[n] = look == 'b' || look == 'f';
+      const bool blnHidden = look == 'b' || look == 'B';
+      BaccTable.pctCardBack[n].Visible = blnHidden || look == 'l';
+      BaccTable.pctCardFace[n].Visible = blnHidden || look == 'f';
+      BaccTable.lblCardBottom[n].Visible = BaccTable.lblCardRight[n].Visible = blnHidden;
+      blnCardClickable[n] = blnHidden || look == 'f';
     }
     BaccTable.blnCardsPlaced = true;
+    if (const std::size_t at = looks.find('B'); at != std::string::npos) {
+      user::Hover(BaccTable.pctCardBack[static_cast<std::int64_t>(at)]);
+    }
   }
 
   /// Hands on card 0: results, each with the first seat's units where it has any: "B P+3 T-1".
   void Hands(Words& words) {
-    for (auto hand = fncNext<std::string>(words); !hand.empty();
-         hand = fncNext<std::string>(words)) {
+    for (std::string hand; words >> hand;) {
       strResult[0] = hand.substr(0, 1);
       varHandUnits[0] =
           hand.size() == 1 ? std::nullopt : std::optional(Integer(std::stoi(hand.substr(1))));
@@ -310,59 +339,46 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
   }
 
   static void Put(Words& words) {
-    static const std::map<std::string, Integer*> numbers{{"limit", &intMarkVerticalLimit[0]},
-                                                         {"next", &intNextCard[0]},
-                                                         {"decks", &intDecks[0]},
-                                                         {"player", &intPlayerTotal[0]},
-                                                         {"last-total", &intLastTotalColumn[0]},
-                                                         {"banker", &intBankerTotal[0]}};
     const auto name = fncNext<std::string>(words);
-    if (name == "box") {
-      const int seat = fncNext<int>(words);
-      BaccTable.txtBankerBet[seat].Text = BaccTable.txtPlayerBet[seat].Text =
-          fncNext<std::string>(words);
-    } else if (name == "pan" || name == "pan-down") {
-      prcSetValue(name == "pan" ? MarkCards[0].HScroll1 : MarkCards[0].VScroll1,
-                  fncNext<double>(words));
-    } else if (name == "back-left") {
-      BaccTable.pctCardBack[0].Left = fncNext<double>(words);
-    } else if (name == "card-hidden") {
-      MarkCards[0].Form.Visible = false;
-    } else if (name == "card-top") {
-      MarkCards[0].Form.Top = fncNext<double>(words);
-    } else if (name == "open-card") {
-      NewCardViewForm(0, 0);
-    } else if (name == "close-card") {
-      fncUnload(MarkCards[0].Form);
-    } else if (name == "back") {
-      BaccTable.pctCardFace[0].Visible = BaccTable.lblCardBottom[0].Visible = true;
-    } else if (name == "unit") {
-      BaccTable.txtUnitValue.Text = fncNext<std::string>(words);
-    } else if (flags.contains(name)) {
-      prcSay(*flags.at(name), words);
+    if (flags.contains(name)) {
+      *flags.at(name) = fncNumber(words) != 0;
     } else {
-      *numbers.at(name) = fncNext<int>(words);
+      *numbers.at(name) = fncNumber(words);
+    }
+  }
+
+  /// A property of the marking card's window or of a control, put where no user puts it.
+  static void Make(Words& words) {
+    const auto name = fncNext<std::string>(words), property = fncNext<std::string>(words);
+    if (name == MarkCards[0].Form.Name) {
+      Window& form = MarkCards[0].Form;
+      property == "Top" ? void(form.Top = fncNumber(words)) : void(form.Visible = false);
+      return;
+    }
+    Control& control = fncNamed(name);
+    if (property == "Text") {
+      control.Text = fncRest(words);
+    } else if (property == "Left") {
+      control.Left = fncNumber(words);
+    } else {
+      prcSetValue(control, fncNumber(words));
     }
   }
 
   const std::map<std::string, Step> steps_{
       {"fresh",
        [this](Words&) {
-         transcript_.Watch("");
-         std::filesystem::remove(Folder() + "/VELMORA.INI");
-         prcFreshGame(Folder());
+         std::filesystem::remove(strIniFile);
+         Restart();
        }},
-      {"stop",
-       [this](Words&) {
-         transcript_.Watch("");
-         prcFreshGame(Folder());
-       }},
+      {"stop", [this](Words&) { Restart(); }},
       {"set",
-       [](Words& w) {
+       [this](Words& w) {
          const std::string line = fncRest(w);
          const std::size_t dot = line.find('.'), equals = line.find('=');
          Setting(line.substr(0, dot), line.substr(dot + 1, equals - dot - 1),
                  line.substr(equals + 1));
+         transcript_.WhatIsNew();
        }},
       {"boot", [this](Words&) { Begin(); }},
       {"on", [this](Words& w) { On(fncNext<std::string>(w)); }},
@@ -383,9 +399,9 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       {"deal", [](Words& w) { Deal(fncNext<int>(w, 1)); }},
       {"bet",
        [](Words& w) {
-         const auto box = "txt" + fncNext<std::string>(w) + "Bet";
+         const auto box = "txt" + fncNext<std::string>(w) + "Bet(";
          const int seat = fncNext<int>(w) - 1;
-         user::Type(fncNamed(box + "(" + std::to_string(seat) + ")"), fncRest(w));
+         user::Type(fncNamed(box + std::to_string(seat) + ")"), fncRest(w));
          user::Tab(BaccTable.Form);
        }},
       {"click",
@@ -436,38 +452,28 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
          Do(fncRest(w));
        }},
       {"watch", [this](Words& w) { transcript_.Watch(fncRest(w)); }},
-      {"see", [this](Words& w) { prcAdd(Told(), Transcript::See(fncNext<std::string>(w))); }},
-      {"look",
+      {"see",
        [this](Words& w) {
-         for (auto name = fncNext<std::string>(w); !name.empty(); name = fncNext<std::string>(w)) {
-           prcAdd(Told(), name + " = " + fncPiped(fncNamed(name).Text));
+         for (std::string name; w >> name;) {
+           prcAdd(Told(), Transcript::See(name));
          }
        }},
       {"books",
        [this](Words& w) {
-         prcSay(blnBooks_, w);
+         blnBooks_ = fncNumber(w) != 0;
          books_.prcStart();
        }},
       {"put", Put},
-      {"country",
-       [](Words& w) {
-         CurrencyStyle country;
-         country.Negative.intSignPlace = 0;
-         if (fncNext<std::string>(w) == "euro") {
-           country = {"€", ".", "\3", {false, 1, 1, ""}, {false, 1, 1, "-"}};
-         }
-         prcSetCurrency(country);
-       }},
+      {"make", Make},
+      {"call", [](Words& w) { prcDispatch(calls.at(fncNext<std::string>(w))); }},
       {"browser", [](Words& w) { headless::OpenAddressReturns(fncNext<int>(w)); }},
       {"other", [](Words&) { headless::OtherInstanceRuns(true); }},
-      {"shoe-choice", [](Words&) { prcDispatch(prcSelectaShoe); }},
       {"width", [](Words& w) { user::Resize(MDIForm1.Form, fncNext<double>(w)); }},
       {"screen",
        [](Words& w) {
          const auto width = fncNext<double>(w);
          user::Screen(width, fncNext<double>(w));
        }},
-      {"force-deal", [](Words&) { prcDispatch([] { duokkortos_Click(0); }); }},
       {"activate", [](Words& w) { user::Activate(fncWindowNamed(fncNext<std::string>(w))); }},
       {"lay", [](Words& w) { Lay(fncNext<std::string>(w)); }},
       {"hands", [this](Words& w) { Hands(w); }},
@@ -477,15 +483,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
          form.Width += fncNext<double>(w) - form.ScaleWidth;
          form.Height += fncNext<double>(w) - form.ScaleHeight;
          user::Settle();
-         prcAdd(Told(), std::string("in front: ") + form.Controls.back()->Name);
-       }},
-      {"advise",
-       [this](Words& w) {
-         const auto looks = fncNext<std::string>(w);
-         const int index = fncNext<int>(w);
-         const int v = fncNext<int>(w);
-         const std::string advice = fncAdviceOn(looks, index, v, fncNext<int>(w));
-         prcAdd(Told(), advice.empty() ? "nothing" : advice);
+         EXPECT_STREQ(form.Controls.back()->Name, "VScroll1") << "the bars lie in front";
        }},
   };
 

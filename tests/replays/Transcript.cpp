@@ -29,22 +29,13 @@ std::string fncColour(const Colour& c) {
       {"0,0,0", "black"},       {"255,255,255", "white"}, {"192,0,0", "dark red"},
       {"0,0,128", "dark blue"}, {"0,192,0", "green"},     {"255,64,64", "red"},
       {"0,0,255", "blue"}};
-  const std::string numbers =
-      fncPair(c.Red, ",", c.Green) + "," + std::to_string(static_cast<int>(c.Blue));
+  const std::string numbers = fncPair(c.Red, ",", c.Green) + "," + fncNumber(c.Blue);
   const auto known = names.find(numbers);
   return c.Clear ? "clear" : known != names.end() ? known->second : numbers;
 }
 
 std::string fncIndexed(const std::string& name, int index) {
   return index < 0 ? name : name + "(" + std::to_string(index) + ")";
-}
-
-std::string fncJoined(std::initializer_list<std::string> parts) {
-  std::string text;
-  for (const std::string& part : parts) {
-    text += part;
-  }
-  return text;
 }
 
 /// A seat's money as its label shows it, and as the books keep it where that says more.
@@ -112,30 +103,33 @@ void Transcript::Watch(const std::string& names) {
   looks_ = fncLooks();
 }
 
+void Transcript::Forget() {
+  Watch("");
+  last_.clear();
+  windows_.clear();
+}
+
 Transcript::Words Transcript::fncWords(const Control& c) {
   const bool blnLine = c.Kind == ControlKind::Line;
   const bool blnCheck = c.Kind == ControlKind::MenuEntry || c.Kind == ControlKind::ToolButton;
-  const std::string value =
-      blnCheck ? (c.Value == 0 ? "off" : "on") : "value " + fncNumber(c.Value);
   return {c.Visible ? "shown" : "hidden",
           c.Enabled ? "enabled" : "disabled",
           fncQuoted(c.Text),
-          value,
+          blnCheck ? (c.Value == 0 ? "off" : "on") : "value " + fncNumber(c.Value),
           "of " + fncNumber(c.Max) + " by " + fncPair(c.SmallChange, "/", c.LargeChange),
-          blnLine ? "from " + fncPair(c.X1, ",", c.Y1) : "at " + fncPair(c.Left, ",", c.Top),
-          blnLine ? "to " + fncPair(c.X2, ",", c.Y2) : "size " + fncPair(c.Width, "x", c.Height),
           "text " + fncColour(c.ForeColor),
           "fill " + fncColour(c.FillColor),
           "picture " + std::to_string(int{c.Picture}),
-          "selects " + std::to_string(std::min(c.SelLength, static_cast<int>(c.Text.size()))),
           std::string("pointer ") + strPointers[static_cast<std::size_t>(c.MousePointer)],
           std::to_string(c.List.size()) + " rows, row " + std::to_string(c.ListIndex) + ": " +
-              (c.List.empty() ? "" : fncQuoted(c.List.back()))};
+              (c.List.empty() ? "" : fncQuoted(c.List.back())),
+          blnLine ? "from " + fncPair(c.X1, ",", c.Y1) : "at " + fncPair(c.Left, ",", c.Top),
+          blnLine ? "to " + fncPair(c.X2, ",", c.Y2) : "size " + fncPair(c.Width, "x", c.Height)};
 }
 
 bool Transcript::fncWatched(const Control& control) const {
   return !fncOfMarks(control) && std::ranges::any_of(watched_, [&](const std::string& name) {
-    return fncFullName(control).starts_with(name);
+    return fncIndexed(fncFullName(control), control.Index).starts_with(name);
   });
 }
 
@@ -169,30 +163,37 @@ Transcript::Looks Transcript::fncLooks() {
     for (const Control* control : window->Controls) {
       if (fncWatched(*control)) {
         looks[{fncFullName(*control), int{control->Index}}] = fncWords(user::Seen(*control));
-        controls_.push_back({control, control->Visible, control->Text});
+        controls_.push_back(control);
       }
     }
   }
+  quick_ = fncQuickLook();
   return looks;
 }
 
-bool Transcript::Moved() const {
-  return std::ranges::any_of(controls_, [](const Quick& was) {
-    return was.Of->Visible != was.Visible || was.Of->Text != was.Text;
-  });
+std::string Transcript::fncQuickLook() const {
+  std::string look;
+  for (const Control* control : controls_) {
+    look += (control->Visible ? '+' : '-') + control->Text;
+  }
+  return look;
 }
+
+bool Transcript::Moved() const { return fncQuickLook() != quick_; }
 
 std::string Transcript::See(const std::string& name) {
   const Control control = user::Seen(fncNamed(name));
   Control plain;
   plain.Kind = control.Kind;
   const Words words = fncWords(control), usual = fncWords(plain);
-  std::string text = name + ":";
-  for (std::size_t n = 0; n < words.size(); ++n) {
-    text += n == 0 || words.at(n) != usual.at(n) ? " " + words.at(n) + "," : "";
+  const std::size_t places = control.Kind == ControlKind::Line ? 0 : 2;
+  std::string seen;
+  for (std::size_t n = 0; n < words.size() - places; ++n) {
+    if (words.at(n) != usual.at(n)) {
+      seen += (seen.empty() ? " " : ", ") + words.at(n);
+    }
   }
-  text.pop_back();
-  return text;
+  return name + ":" + seen;
 }
 
 void Transcript::prcTell(const std::string& topic, const std::string& what,
@@ -202,7 +203,7 @@ void Transcript::prcTell(const std::string& topic, const std::string& what,
   }
 }
 
-void Transcript::prcTellScreen() {
+void Transcript::prcTellBoxes() {
   static const char* const icons[]{"", "stop", "!", "i"};
   for (const user::Box& box : user::Boxes()) {
     std::string choice = box.blnCancel ? " OK/Cancel" : "";
@@ -213,46 +214,57 @@ void Transcript::prcTellScreen() {
   user::ForgetBoxes();
   for (auto* calls : {&headless::Opened(), &headless::HelpShown()}) {
     for (const std::string& call : *calls) {
-      prcClause("opens " + call.substr(call.find("VELMORA.HLP") == std::string::npos
-                                           ? 0
-                                           : call.find("VELMORA.HLP")));
+      const std::size_t help = call.find("VELMORA.HLP");
+      prcClause("opens " + call.substr(help == std::string::npos ? 0 : help));
     }
     calls->clear();
   }
-  std::string windows, focus;
-  // The end takes all windows off the screen, those too that the program had no time to close.
-  for (const Window* loaded : user::Ended() ? std::vector<Window*>() : fncWindows()) {
+  prcTell("program", "program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
+}
+
+void Transcript::prcTellWindows() {
+  if (user::Ended()) {
+    return;  // All windows are off the screen, those too that there was no time to close.
+  }
+  std::set<std::string> gone = std::exchange(windows_, {});
+  std::string focus;
+  for (const Window* loaded : fncWindows()) {
     const Window window = user::Seen(*loaded);
-    windows += std::string(" ") + window.Name + (window.Visible ? "" : "(hidden)") +
-               (window.Topmost ? "(top)" : "");
+    const std::string name = window.Name;
+    gone.erase(name);
+    windows_.insert(name);
+    prcTell("windows", name, !window.Visible ? "hidden" : window.Topmost ? "on top" : "shown");
+    prcTell(topics_.contains(name) ? name : "places", "place of " + name,
+            fncPair(window.Left, ",", window.Top) + " " +
+                fncPair(window.Width, "x", window.Height) + (window.Maximised ? " maximised" : ""));
     if (window.ActiveControl != nullptr && fncSeen(*window.ActiveControl) &&
         fncUsable(*window.ActiveControl)) {
       focus += " " + fncIndexed(window.ActiveControl->Name, window.ActiveControl->Index);
     }
-    prcTell("places", window.Name,
-            "at " + fncPair(window.Left, ",", window.Top) + ", size " +
-                fncPair(window.Width, "x", window.Height) +
-                (window.Maximised ? ", maximised" : ""));
   }
-  prcTell("windows", "windows", windows.empty() ? "" : windows.substr(1));
+  for (const std::string& name : gone) {
+    prcTell("windows", name, "gone");
+  }
   prcTell("focus", "focus", focus.empty() ? "" : focus.substr(1));
-  prcTell("program", "program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
 }
 
-void Transcript::prcTellControls() {
-  if (blnTableLoaded) {
-    std::string labels;
-    for (const Control* control : BaccTable.Form.Controls) {
-      // The money has a line of its own.
-      if (control->Kind != ControlKind::Label || !control->Announce || !control->ToolTip.empty()) {
-        continue;
-      }
-      if (const Control seen = user::Seen(*control); seen.Visible) {
-        labels += " " + fncIndexed(seen.Name, seen.Index) + "=" + fncPiped(seen.Text);
-      }
-    }
-    prcTell("table", "table", labels.empty() ? "" : labels.substr(1));
+void Transcript::prcTellTable() {
+  if (!blnTableLoaded) {
+    return;
   }
+  std::string labels;
+  for (const Control* control : BaccTable.Form.Controls) {
+    // The money has a line of its own.
+    if (control->Kind == ControlKind::Label && control->Announce && control->ToolTip.empty()) {
+      const Control seen = user::Seen(*control);
+      labels +=
+          seen.Visible ? " " + fncIndexed(seen.Name, seen.Index) + "=" + fncPiped(seen.Text) : "";
+    }
+  }
+  prcTell("table", "table", labels.empty() ? "" : labels.substr(1));
+}
+
+void Transcript::prcTellWatched() {
   Looks now = fncLooks();
   std::map<std::string, Names> changes;
   for (const auto& [name, words] : now) {
@@ -293,52 +305,35 @@ void Transcript::prcTellFile() {
 
 void Transcript::prcTellMoney() {
   for (int i = 0; i < intSeats && blnTableLoaded; ++i) {
+    const std::string seat = std::to_string(i + 1);
+    prcTell("money", "seat " + seat,
+            fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]));
     std::string bets;
     for (const BetSide side : {betTie, betBanker, betPlayer}) {
       const BetControls bet = fncBet(side, i);
+      const std::string chips = user::Seen(bet.Box).Text;
       const Control value = user::Seen(bet.Value);
-      bets += (side == betTie ? "" : "/") + user::Seen(bet.Box).Text +
-              (value.Visible ? "(" + value.Text + ")" : "");
+      const bool blnUsual =
+          value.Visible ? chips != "0" && value.Text == fncCurrency(fncVal(chips) * fncUnitValue())
+                        : chips == "0";
+      bets += (bets.empty() ? "" : "/") + chips +
+              (blnUsual ? "" : "(" + (value.Visible ? value.Text : "") + ")");
     }
-    const std::string seat = std::to_string(i + 1), won = fncNumber(dblPlayerWin[i]);
-    const std::string win = file_["[Player" + seat + "Stats]Win"];
+    prcTell("money", "bets " + seat, bets);
+    const std::string won = fncNumber(dblPlayerWin[i]);
+    const std::string file = file_["[Player" + seat + "Stats]Win"];
     const std::string turnover = file_["[Player" + seat + "Stats]Turnover"];
-    const bool blnPlayed = !win.empty() || !turnover.empty() || dblPlayerWin[i] != 0;
-    prcTell(
-        "money", "seat " + seat,
-        fncJoined(
-            {fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]),
-             blnPlayed ? ", won " : "",
-             blnPlayed ? fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text, dblPlayerWin[i])
-                       : "",
-             !blnPlayed || win == (won.starts_with('-') ? won : " " + won) ? ""
-                                                                           : " (file" + win + ")",
-             turnover.empty() ? "" : " of" + turnover, ", bets ", bets}));
+    if (!file.empty() || !turnover.empty() || dblPlayerWin[i] != 0) {
+      prcTell("money", "won " + seat,
+              fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text, dblPlayerWin[i]) +
+                  (file == (won.starts_with('-') ? won : " " + won) ? "" : " (file" + file + ")") +
+                  " of" + turnover);
+    }
   }
 }
 
-void Transcript::prcTellMarks() {
-  MarkCardWindow* card = fncMarkCard(0);
-  if (card == nullptr) {
-    return;
-  }
-  const Control picture = user::Seen(card->Picture1);
-  prcTell("marks", "card",
-          "at " + fncPair(picture.Left, ",", picture.Top) + ", high " + fncNumber(picture.Height));
-  const Control heading = user::Seen(card->lblBP.at(0));
-  const auto& [last, lastHeading] = *card->lblBP.rbegin();
-  prcTell("marks", "headings",
-          !heading.Visible
-              ? "none"
-              : heading.Text + user::Seen(lastHeading).Text + " to " + std::to_string(last));
-  if (!user::Seen(card->shpTBP.at(0)).Visible) {
-    // A new shoe: marks that come again where they were are told again.
-    std::erase_if(last_, [](const auto& told) {
-      return told.first != "mark 0" &&
-             (told.first.starts_with("mark ") || told.first.starts_with("total "));
-    });
-  }
-  for (const auto& [n, control] : card->lblTotal) {
+void Transcript::prcTellTotals(const MarkCardWindow& card) {
+  for (const auto& [n, control] : card.lblTotal) {
     if (const Control total = user::Seen(control); total.Visible) {
       const std::string at =
           total.Left == 30 + 345 * n ? "" : " at " + fncNumber(total.Left);  // Its own column.
@@ -348,31 +343,54 @@ void Transcript::prcTellMarks() {
               total.Text + at + (blnUsual ? "" : " " + colour));
     }
   }
+}
+
+void Transcript::prcTellMarks() {
+  const MarkCardWindow* card = fncMarkCard(0);
+  if (card == nullptr) {
+    return;
+  }
+  const Control picture = user::Seen(card->Picture1), heading = user::Seen(card->lblBP.at(0));
+  const auto& [lastColumn, lastHeading] = *card->lblBP.rbegin();
+  prcTell("marks", "card",
+          "at " + fncPair(picture.Left, ",", picture.Top) + ", high " + fncNumber(picture.Height));
+  prcTell("marks", "headings",
+          heading.Visible
+              ? heading.Text + user::Seen(lastHeading).Text + " to " + std::to_string(lastColumn)
+              : "");
+  if (card->shpTBP.size() == 1 && !user::Seen(card->shpTBP.at(0)).Visible) {
+    // A new shoe: marks that come again where they were are told again.
+    std::erase_if(last_, [](const auto& told) {
+      return told.first.starts_with("mark ") || told.first.starts_with("total ");
+    });
+  }
+  prcTellTotals(*card);
   for (const auto& [n, control] : card->shpTBP) {
     const Control shape = user::Seen(control), text = user::Seen(card->lblTBP.at(n));
-    // A line does not stand in a row of its own.
-    const std::string place = fncNumber((shape.Left - 60) / intColumnPitch) +
-                              (text.Visible ? "," + fncNumber((shape.Top - 510) / intRowPitch + 1)
-                                            : " top " + fncNumber(shape.Top));
-    const std::string high =
-        text.Visible && shape.Height == 225 ? " " : " high " + fncNumber(shape.Height) + " ";
+    if (!shape.Visible) {
+      continue;
+    }
+    // The line of a tie does not stand in a row of its own.
+    const bool blnLine = !text.Visible;
     const std::string ink = fncColour(text.ForeColor);
-    const std::string caption =
-        !text.Visible ? "line" : fncQuoted(text.Text) + (ink == "black" ? "" : " " + ink);
-    prcTell("marks", "mark " + std::to_string(n),
-            !shape.Visible
-                ? "none"
-                : fncJoined({place, high, fncColour(shape.BorderColor),
-                             shape.Form2D == ShapeForm::Oval ? " oval " : " ", caption}));
+    std::string mark = fncNumber((shape.Left - 60) / intColumnPitch);
+    mark += blnLine ? " top " + fncNumber(shape.Top)
+                    : "," + fncNumber((shape.Top - 510) / intRowPitch + 1);
+    mark += shape.Height == (blnLine ? 30 : 225) ? "" : " high " + fncNumber(shape.Height);
+    mark += " " + fncColour(shape.BorderColor) + (shape.Form2D == ShapeForm::Oval ? " oval" : "");
+    mark += blnLine ? " line" : " " + fncQuoted(text.Text) + (ink == "black" ? "" : " " + ink);
+    prcTell("marks", "mark " + std::to_string(n), mark);
   }
 }
 
 std::string Transcript::WhatIsNew() {
   told_.clear();
-  prcTellScreen();
-  prcTellControls();
+  prcTellBoxes();
+  prcTellWindows();
+  prcTellTable();
+  prcTellWatched();
   prcTellFile();
   prcTellMoney();
   prcTellMarks();
-  return told_;
+  return std::exchange(told_, "");
 }

@@ -8,6 +8,8 @@
 
 #include "platform/Window.h"
 
+struct MarkCardWindow;
+
 /// The control of that name, such as "maisyk" or "txtTieBet(0)", in any loaded window; one in view
 /// goes before others. "frmCardsDealt.chkOnTop" looks in that window alone.
 Control& fncNamed(const std::string& name);
@@ -29,7 +31,7 @@ class Transcript {
   /// Which controls are told, by how their names begin.
   void Watch(const std::string& names);
 
-  /// Everything that a control shows.
+  /// What a control shows that a plain one of its kind does not, apart from its place.
   static std::string See(const std::string& name);
 
   /// Whether a watched control has come, gone or changed its text since it was last told: quick,
@@ -39,13 +41,11 @@ class Transcript {
   /// What is new, in clauses.
   std::string WhatIsNew();
 
+  /// The program has been put back to before its start: all it shows will be new.
+  void Forget();
+
  private:
-  using Words = std::array<std::string, 13>;
-  struct Quick {
-    const Control* Of;
-    bool Visible;
-    std::string Text;
-  };
+  using Words = std::array<std::string, 12>;
   using Names = std::vector<std::pair<std::string, int>>;
   using Looks = std::map<Names::value_type, Words>;
 
@@ -53,12 +53,16 @@ class Transcript {
   bool fncWatched(const Control& control) const;
   std::string fncList(Names names) const;
   Looks fncLooks();
+  std::string fncQuickLook() const;
   void prcClause(const std::string& clause) { prcAdd(told_, clause); }
-  void prcTellScreen();
-  void prcTellControls();
+  void prcTellBoxes();
+  void prcTellWindows();
+  void prcTellTable();
+  void prcTellWatched();
   void prcTellFile();
   void prcTellMoney();
   void prcTellMarks();
+  void prcTellTotals(const MarkCardWindow& card);
   /// Tells a text that stands for something when it differs from what it was.
   void prcTell(const std::string& topic, const std::string& what, const std::string& now);
 
@@ -66,8 +70,9 @@ class Transcript {
   std::set<std::string> topics_;
   std::vector<std::string> watched_;
   std::map<std::string, std::string> last_;  ///< By what: the text last told.
-  std::set<std::string> windows_;
+  std::set<std::string> windows_;            ///< That were loaded.
   Looks looks_;
-  std::vector<Quick> controls_;
+  std::vector<const Control*> controls_;  ///< That are watched.
+  std::string quick_;
   std::map<std::string, std::string> file_;
 };
