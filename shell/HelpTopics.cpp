@@ -45,6 +45,7 @@ constexpr TopicRow topOfWindow[] = {
     {"MarkCard", topMarkingCard},     {"frmCardsDealt", topCardsDealt},
     {"frmStatistics", topStatistics}, {"frmCardsDealtCount", topCardsDealt},
     {"frmHands", topHands},           {"frmCourse", topCourse},
+    {"frmSelectaShoe", topShuffling}, {"frmKaNori", topMenus},
 };
 
 template <std::size_t Rows>

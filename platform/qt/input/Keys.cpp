@@ -225,13 +225,12 @@ void prcTurnFullScreen() {
   }
 }
 
-/// The keys for the program as a whole; help cannot be used beside a dialog.
+/// The keys for the program as a whole. A dialog keeps the frame behind it as it is.
 bool fncProgramKey(const Window& window, const QKeyEvent& event) {
-  const bool blnOurs = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier &&
-                       window.Kind != WindowKind::Dialog;
-  if (blnOurs && event.key() == Qt::Key_F1) {
+  const bool blnBare = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (blnBare && event.key() == Qt::Key_F1) {
     prcServe([&] { prcUserHelp(window); });
-  } else if (blnOurs && event.key() == Qt::Key_F11) {
+  } else if (blnBare && event.key() == Qt::Key_F11 && window.Kind != WindowKind::Dialog) {
     prcTurnFullScreen();
   } else {
     return false;

@@ -66,6 +66,21 @@ void prcTellNoHelp(const std::string& file) {
                    platform::Icon::Exclamation);
 }
 
+/// A dialog keeps the input from every other window, and may stand above all: help that is asked
+/// for in one comes up as a dialog before it, until it is closed.
+void prcFaceDialogs(QWidget& window) {
+  QWidget* dialog = QApplication::activeModalWidget();
+  const Qt::WindowModality wanted = dialog == nullptr ? Qt::NonModal : Qt::ApplicationModal;
+  if (dialog == &window || window.windowModality() == wanted) {
+    return;
+  }
+  window.hide();
+  window.setWindowModality(wanted);
+  window.setWindowFlag(Qt::WindowStaysOnTopHint, dialog != nullptr);
+  window.winId();  // Makes the window of the display, which is to stand before the dialog's.
+  window.windowHandle()->setTransientParent(dialog == nullptr ? nullptr : dialog->windowHandle());
+}
+
 }  // namespace
 
 HelpWindow::HelpWindow()
@@ -368,6 +383,7 @@ void ShowHelp(const std::string& file, int context) {
   if (context != 0) {
     qt::wndHelp->prcShowTopic(context);
   }
+  qt::prcFaceDialogs(*qt::wndHelp);
   qt::wndHelp->show();
   qt::wndHelp->raise();
   qt::wndHelp->activateWindow();

@@ -145,6 +145,9 @@ TEST_F(Windows, KeysOfTheProgramAsAWhole) {
   stage::prcKey(Qt::Key_F1);
   ASSERT_EQ(headless::HelpShown().size(), 1U);
   EXPECT_TRUE(headless::HelpShown()[0].ends_with("#7")) << "the page about the Shuffle button";
+  user::WhileModal([] { stage::prcKey(Qt::Key_F1); });
+  user::Click(MDIForm1.mnuStatistics);
+  EXPECT_TRUE(headless::HelpShown().back().ends_with("#11")) << "in a dialog too";
   GoToList();
   stage::prcKey(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_TRUE(user::Ended());
