@@ -120,6 +120,7 @@ void prcLayOutSeat(Window& form, int i) {
   const std::string seat = i == 0 ? ", PLAYER 3" : ", PLAYER 4";
   box.Spoken = "Initial Stake" + seat;
   w.lblCurrentMoney[i].Spoken = "Current Money" + seat;
+  w.lblWinningsStat[i].Dress = Look::Money;
   w.lblWinningsStat[i].Spoken = "Winnings" + seat;
   w.lblTurnover[i].Spoken = "Turnover" + seat;
   box.On = &evtStake;

@@ -160,8 +160,10 @@ void prcDrawLabel(QPainter& painter, const Control& control, const QRect& rect,
   if (control.Text.empty()) {
     return;
   }
-  const bool blnBelow = control.Dress == Look::Money && control.Value < 0;
-  QColor ink = blnBelow ? QColor::fromRgb(rgbDebt) : fncColour(control.ForeColor);
+  QColor ink = fncColour(control.ForeColor);
+  if (control.Dress == Look::Money && control.Value < 0) {
+    ink = QColor::fromRgb(ink.lightness() < 128 ? rgbLoss : rgbDebt);  // On light grounds, on felt.
+  }
   if (!control.Enabled) {
     ink.setAlphaF(0.55F);
   }
