@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "shell/SettingsStore.h"
+#include "table/Bets.h"
 #include "table/Cards.h"
 #include "table/DrawRules.h"
-#include "table/Odds.h"
 #include "table/Positions.h"
 
 std::deque<EveningHand> colEveningHands;

@@ -5,7 +5,6 @@
 #include "marking/MarkCard.h"
 #include "platform/Procedure.h"
 #include "table/Bets.h"
-#include "table/Odds.h"
 #include "table/TableState.h"
 
 namespace {

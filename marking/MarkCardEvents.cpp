@@ -17,9 +17,9 @@ namespace {
 
 // Twips.
 constexpr double dblFrameMargin = 500;  ///< Of the frame's width that the card leaves free.
+constexpr double dblLeftShift = 150;    ///< How far left of the middle the card hangs.
 constexpr double dblBelowCard = 1200;   ///< Of the frame's height that is not the card's.
 constexpr double dblMostHeight = 3855;
-constexpr double dblLeftShift = 150;
 constexpr double dblPictureWidth = 30000;
 constexpr double dblBarWidth = 225;
 constexpr double dblInset = 15;  ///< From the drawing area's edge to its rectangle and rules.
@@ -44,9 +44,8 @@ void prcBelowTable(Window& form) {
 
 void prcPlaceForm(Window& form) {
   prcBelowTable(form);
-  form.Width = MDIForm1.Form.Width - dblFrameMargin;
+  prcPlaceAcross(form);
   form.Height = std::min(MDIForm1.Form.Height - form.Top - dblBelowCard, dblMostHeight);
-  form.Left = (MDIForm1.Form.Width - form.Width) / 2 - dblLeftShift;
   prcMendPlace(form);
 }
 
@@ -202,6 +201,11 @@ void prcPrepareMarkCard(MarkCardWindow& form) {
 }
 
 }  // namespace
+
+void prcPlaceAcross(Window& form) {
+  form.Width = MDIForm1.Form.Width - dblFrameMargin;
+  form.Left = (MDIForm1.Form.Width - form.Width) / 2 - dblLeftShift;
+}
 
 void NewCardViewForm(const Long& lngHwnd, const Integer& card) {
   const Procedure running("NewCardViewForm");

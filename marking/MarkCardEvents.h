@@ -8,6 +8,10 @@
 /// already is brought up too: it has one window. A card outside is a fault.
 void NewCardViewForm(const Long& lngHwnd, const Integer& card);
 
+/// Gives a card's window its width and place across the frame's field: clear of the border, and a
+/// little left of the middle.
+void prcPlaceAcross(Window& form);
+
 /// Takes a closing window out of colMarkCards; its card has none from then on.
 void RemoveCardViewForm(MarkCardWindow& form);
 

@@ -5,7 +5,6 @@
 #include "platform/Texts.h"
 #include "table/Bets.h"
 #include "table/Cards.h"
-#include "table/Odds.h"
 #include "table/Positions.h"
 #include "table/TableState.h"
 

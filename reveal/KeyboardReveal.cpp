@@ -45,9 +45,9 @@ void prcChoose(int n) {
 }  // namespace
 
 void prcRevealKey(const std::string& strKey) {
-  const bool blnOn = strKey == "Right" || strKey == "Down";
-  if (blnOn || strKey == "Left" || strKey == "Up") {
-    prcChoose(fncNeighbour(fncChosen(), blnOn ? 1 : -1));
+  const bool blnNext = strKey == "Right" || strKey == "Down";
+  if (blnNext || strKey == "Left" || strKey == "Up") {
+    prcChoose(fncNeighbour(fncChosen(), blnNext ? 1 : -1));
   } else if (strKey == "Enter" || strKey == "Return" || strKey == "Space" || strKey == " ") {
     if (const int n = fncChosen(); fncWaits(n)) {
       pctCardBack_Click(n);

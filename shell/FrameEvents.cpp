@@ -1,7 +1,7 @@
 #include "shell/FrameEvents.h"
 
 #include "assets/Pictures.h"
-#include "marking/MarkCard.h"
+#include "marking/MarkCardEvents.h"
 #include "platform/Layout.h"
 #include "platform/Procedure.h"
 #include "platform/platform.h"
@@ -17,10 +17,6 @@
 #include "table/BaccTable.h"
 
 namespace {
-
-/// The marking card stays clear of the frame's border and hangs a little to the left. Twips.
-constexpr double dblCardMargin = 500;
-constexpr double dblCardShift = 150;
 
 void Timer1_Timer(Control& timer) {
   const Procedure running("MDIForm1_Timer1_Timer");
@@ -73,8 +69,7 @@ void MDIForm_Resize(Window& form) {
   running.Step(2);
   MarkCardWindow* card = blnMarkCardLoaded ? fncMarkCard(intShoeNumber) : nullptr;
   if (card != nullptr) {
-    card->Form.Width = form.Width - dblCardMargin;
-    card->Form.Left = (form.Width - card->Form.Width) / 2 - dblCardShift;
+    prcPlaceAcross(card->Form);
   }
 }
 

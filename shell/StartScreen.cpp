@@ -20,8 +20,8 @@ constexpr Colour clrGround{255, 255, 192};
 constexpr Colour clrTitle{0, 0, 192};
 constexpr Colour clrTitleShadow{128, 128, 128};
 constexpr Colour clrLink{0, 0, 192};
-constexpr Type typTitle{.Size = 27.75F, .Bold = true};
-constexpr Type typPoint{.Size = 11};
+constexpr Type tpeTitle{.Size = 27.75F, .Bold = true};
+constexpr Type tpePoint{.Size = 11};
 
 constexpr int intFirstTopic = 1;
 
@@ -69,7 +69,7 @@ constexpr ControlEvents evtNerodik{.Click = Nerodik_Click};
 constexpr ControlEvents evtLink{.Click = Label6_Click, .MouseMove = Label6_MouseMove};
 
 void prcDressTitle(Control& label, Colour colour) {
-  label.Face = typTitle;
+  label.Face = tpeTitle;
   label.ForeColor = colour;
 }
 
@@ -109,7 +109,7 @@ void prcLayOutPlauk() {
     bullet.Picture = picBullet;
   }
   for (Control& point : w.Label1) {
-    point.Face = typPoint;
+    point.Face = tpePoint;
   }
   w.Nerodik.Visible = false;
   w.tmrArt.Enabled = false;

@@ -39,6 +39,8 @@ bool fncLoses(BetSide side, const std::string& result) {
   return side == betTie ? result != "T" : result == (side == betBanker ? "P" : "B");
 }
 
+double fncPays(BetSide side) { return side == betTie ? 8 : side == betBanker ? 0.95 : 1; }
+
 void prcShowMoney(Control& label, double money) {
   label.Text = fncCurrency(money);
   if (label.Dress == Look::Money) {

@@ -43,6 +43,9 @@ double fncUnitValue();
 bool fncWins(BetSide side, const std::string& result);
 bool fncLoses(BetSide side, const std::string& result);
 
+/// What a won bet of 1 pays; from a Banker's win the casino's five percent are taken off.
+double fncPays(BetSide side);
+
 /// Shows money in a label, as currency text without decimals; one dressed as money holds the
 /// amount.
 void prcShowMoney(Control& label, double money);

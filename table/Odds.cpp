@@ -101,8 +101,6 @@ const OddsRow& fncOdds(int decks) {
   return row;
 }
 
-double fncPays(BetSide side) { return side == betTie ? 8 : side == betBanker ? 0.95 : 1; }
-
 double fncEdge(const OddsRow& row, BetSide side) {
   const std::int64_t won = side == betTie ? row.Tie : side == betBanker ? row.Banker : row.Player;
   const std::int64_t pushed = side == betTie ? 0 : row.Tie;

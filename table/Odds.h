@@ -16,8 +16,5 @@ struct OddsRow {
 /// size is faultSubscript.
 const OddsRow& fncOdds(int decks);
 
-/// What a won bet of 1 pays; from a Banker's win the casino's five percent are taken off.
-double fncPays(BetSide side);
-
 /// What a bet of 1 on a side loses a hand on average; a tie leaves the other bets alone.
 double fncEdge(const OddsRow& row, BetSide side);

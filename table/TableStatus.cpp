@@ -42,7 +42,7 @@ void prcTableStatus(const Integer& shoe) {
   prcSetCardBG(shoe);
   running.Step(2);
   table.fraShoeNumber.Visible = true;
-  table.maisyk.Enabled = table.maisyk.Visible = true;
+  prcOpen(table.maisyk, true);
   running.Step(3);
   table.prgShoe.Value = intNextCard[shoe];
   table.prgShoe.Visible = true;
@@ -135,11 +135,8 @@ void prcSetCardBG(const Integer& shoe) {
 }
 
 void prcOpenDealControls() {
-  BaccTable.maisyk.Visible = BaccTable.maisyk.Enabled = true;
-  for (Control& button : BaccTable.duokkortos) {
-    button.Visible = true;
-  }
-  BaccTable.mskHandsAtaTime.Visible = BaccTable.mskHandsAtaTime.Enabled = true;
+  prcOpen(BaccTable.maisyk, true);
+  prcShowDealButtons(true);
 }
 
 void prcFocusNextStep() {
