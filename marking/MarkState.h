@@ -24,8 +24,8 @@ extern Integer intMarkShapeHeight, intMarkShapeTop;  ///< Of a mark's frame as d
 extern bool blnMarkShapeCaptured;
 extern Integer intMarkCardBase;    ///< Height of the drawing area right after load, twips.
 extern Integer intMarkCardNumber;  ///< The card being opened.
-extern bool blnAutoDeal;
-extern Integer intAutoDealDelay;  ///< Seconds.
+extern bool blnAutoDeal;           ///< Marking cards deal their own shoes by themselves.
+extern Integer intAutoDealDelay;   ///< Seconds.
 
 /// Of one side's frames, and of numbers below 0.
 inline constexpr Colour clrDarkRed{192, 0, 0};

@@ -40,7 +40,7 @@ void prcLayFirstFour() {
   prcLayBack(4);
 }
 
-void prcTurnPair(const HandSide& side) {
+void prcRevealPair(const HandSide& side) {
   for (const int n : {side.First, side.First + 1}) {
     BaccTable.pctCardFace[n].Picture = fncHandCard(intShoeNumber, n);
     BaccTable.pctCardFace[n].Visible = true;
@@ -93,8 +93,8 @@ void prcPresentHand() {
   if (!blnDealDelay) {
     prcWaitSeconds(0.5);
   }
-  prcTurnPair(fncHandSide(0));
-  prcTurnPair(fncHandSide(3));
+  prcRevealPair(fncHandSide(0));
+  prcRevealPair(fncHandSide(3));
   for (const int n : {0, 1, 3, 4}) {
     blnCardClickable[n] = true;
   }

@@ -18,7 +18,8 @@
 
 namespace {
 
-/// A new shoe begins: its marking cards are cleared and its hands start anew.
+/// A new shoe begins: its marking cards are cleared and its hands start anew. A card has the number
+/// of the shoe that it shows, so i is both.
 void prcResetShoe(const Integer& intShoe) {
   for (int i = 0; i < intShoes; ++i) {
     if (intMarkCardShoe[i] != intShoe) {

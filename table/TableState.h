@@ -85,7 +85,7 @@ extern Table<Long, intShoes> lngMarkCardHwnd;     ///< Window handle, 0 for none
 
 // --- Values of a run of the program ---
 
-extern Integer intShoeNumber;
+extern Integer intShoeNumber;    ///< The shoe on the table: 0 throughout.
 extern bool blnBusy;             ///< A shuffle or a hand is running.
 extern Integer intHandsAtaTime;  ///< Hands asked for by the last press of a Deal button.
 extern Table<bool, intPositions> blnCardClickable;  ///< The card there may be turned by the user.

@@ -39,8 +39,8 @@ bool fncNative(ControlKind kind) {
   }
 }
 
-/// The control under the mouse; none on bare ground.
-Control* fncMeant(const QWidget& widget) {
+/// The control that a widget shows; none on bare ground.
+Control* fncControlOf(const QWidget& widget) {
   const ControlView* view = fncControlViewOf(&widget);
   return view != nullptr ? fncLive(*view) : nullptr;
 }
@@ -195,7 +195,7 @@ bool InputRouter::fncPressed(QWidget& widget, const QMouseEvent& event) {
   if (fncActiveWindow() != home->Source && home->Source->Kind != WindowKind::Frame) {
     prcBringUp(*home->Source);
   }
-  Control* control = fncMeant(widget);
+  Control* control = fncControlOf(widget);
   return control != nullptr && fncPressControl(*control, widget, event);
 }
 
@@ -229,7 +229,7 @@ void InputRouter::prcEndLost(Qt::MouseButtons down) {
 }
 
 Control* InputRouter::fncHeldControl() const {
-  Control* control = held_.Widget != nullptr ? fncMeant(*held_.Widget) : nullptr;
+  Control* control = held_.Widget != nullptr ? fncControlOf(*held_.Widget) : nullptr;
   return control != nullptr && control == held_.Target && control->Serial == held_.Serial ? control
                                                                                           : nullptr;
 }
@@ -257,7 +257,7 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   if (window == nullptr) {
     return false;
   }
-  if (Control* control = fncMeant(widget); control != nullptr) {
+  if (Control* control = fncControlOf(widget); control != nullptr) {
     QWidget* own = fncWidgetOf(*control);
     if (own != nullptr &&
         (control->On->MouseMove != nullptr || control->Kind == ControlKind::Chart)) {
@@ -282,7 +282,7 @@ bool InputRouter::fncWheeled(QWidget& widget, const QWheelEvent& event) {
   if (home == nullptr || fncLive(*home) == nullptr) {
     return false;
   }
-  const Control* control = fncMeant(widget);
+  const Control* control = fncControlOf(widget);
   const bool blnOwn = control != nullptr && fncNative(control->Kind);
   return (!blnOwn || fncIsBar(*control)) && fncTurnBar(*home, control, event);
 }
