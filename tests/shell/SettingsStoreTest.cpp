@@ -1,4 +1,6 @@
 #include <filesystem>
+#include <numeric>
+#include <utility>
 
 #include "shell/SettingsStore.h"
 #include "tests/Game.h"
@@ -7,65 +9,52 @@ namespace {
 
 using SettingsStore = Game;
 
+/// Every byte, also NUL and what ends a line.
 std::string fncJunk() {
-  std::string junk;
-  for (int i = 0; i < 4096; ++i) {
-    junk += static_cast<char>((i * 7919) >> 3);
-  }
+  std::string junk(4096, 'x');
+  std::iota(junk.begin(), junk.end(), '\0');
   return junk;
 }
 
 TEST_F(SettingsStore, ReadsWhatADamagedFileStillHolds) {
-  const struct {
-    const char* Case;
-    std::string Contents, Value;
-  } rows[] = {
-      {"plain", "[File]\r\nLearn=False\r\n", "False"},
-      {"line feeds alone", "[Deal]\nDelay=True\n[File]\nLearn=False\n", "False"},
-      {"carriage returns alone", "[File]\rLearn=False\r", "False"},
-      {"no end of the last line", "[File]\r\nLearn=False", "False"},
-      {"other case", "[fILE]\r\nlEARN=False\r\n", "False"},
-      {"blanks and tabs around all", "  [ File ]\r\n \tLearn \t = \t False \t\r\n", "False"},
-      {"line without equals sign", "[File]\r\nwhat is this\r\nLearn=False\r\n", "False"},
-      {"section without its bracket", "[File\r\nLearn=False\r\n", "False"},
-      {"equals sign in the value", "[File]\r\nLearn=a=b\r\n", "a=b"},
-      {"empty value", "[File]\r\nLearn=\r\n", ""},
-      {"first of two", "[File]\r\nLearn=1\r\nLearn=2\r\n", "1"},
-      {"first of two sections", "[File]\r\n[Deal]\r\n[File]\r\nLearn=1\r\n", "No"},
-      {"comment", "[File]\r\n;Learn=True\r\nLearn=False\r\n", "False"},
-      {"binary in front", fncJunk() + "\r\n[File]\r\nLearn=False\r\n", "False"},
-      {"binary alone", fncJunk(), "No"},
-      {"nothing", "", "No"},
-      {"before any section", "Learn=False\r\n[File]\r\n", "No"},
-      {"another section", "[Files]\r\nLearn=False\r\n[Deal]\r\nLearn=False\r\n", "No"},
-      {"longer key", "[File]\r\nLearner=False\r\n", "No"},
-      {"99 characters come back", "[File]\r\nLearn=" + std::string(120, 'x'), std::string(99, 'x')},
+  const std::pair<std::string, const char*> rows[] = {
+      {"[File]\r\nLearn=False\r\n", "False"},
+      {"[Deal]\nDelay=True\n[File]\nLearn=False", "False"},
+      {"[File]\rLearn=False\r", "False"},
+      {"  [ fILE ]\r\n \tlEARN \t = \t False \t\r\n", "False"},
+      {"[File\r\nwhat is this\r\n;Learn=True\r\nLearn=False\r\n", "False"},
+      {"[File]\r\nLearn=a=b\r\nLearn=2\r\n", "a=b"},
+      {"[File]\r\nLearn=\r\n", ""},
+      {"[File]\r\n[Deal]\r\n[File]\r\nLearn=1\r\n", "No"},
+      {fncJunk() + "\r\n[File]\r\nLearn=False\r\n", "False"},
+      {fncJunk(), "No"},
+      {"", "No"},
+      {"Learn=1\r\n[Files]\r\nLearn=1\r\n[File]\r\nLearner=1\r\n[Deal]\r\nLearn=1\r\n", "No"},
+      {"[long]\r\nkey=" + std::string(1 << 20, 'x') + "\r\n[File]\r\nLearn=False", "False"},
   };
-  for (const auto& row : rows) {
-    WriteFile(row.Contents);
-    EXPECT_EQ(fncGetPrivateProfileString("File", "Learn"), row.Value) << row.Case;
+  for (const auto& [contents, value] : rows) {
+    WriteFile(contents);
+    EXPECT_EQ(fncGetPrivateProfileString("File", "Learn"), value) << contents.substr(0, 80);
   }
+  WriteFile("[File]\r\nLearn=" + std::string(120, 'x'));
+  EXPECT_EQ(fncGetPrivateProfileString("File", "Learn"), std::string(99, 'x'));
 }
 
 TEST_F(SettingsStore, AWriteLeavesEveryOtherByteAlone) {
-  const struct {
-    const char* Case;
-    std::string Before, After;
-  } rows[] = {
-      {"new file", "", "[Deal]\r\nDelay=True\r\n"},
-      {"replaced in place", "; mine\r\n[Deal]\r\nx\r\ndelay = False\r\nAnimation=1\r\n",
+  const std::pair<std::string, std::string> rows[] = {
+      {"", "[Deal]\r\nDelay=True\r\n"},
+      {"; mine\r\n[Deal]\r\nx\r\ndelay = False\r\nAnimation=1\r\n",
        "; mine\r\n[Deal]\r\nx\r\nDelay=True\r\nAnimation=1\r\n"},
-      {"added to its section", "[Deal]\r\nAnimation=1\r\n\r\n[File]\r\nLearn=1\r\n",
+      {"[Deal]\r\nAnimation=1\r\n\r\n[File]\r\nLearn=1\r\n",
        "[Deal]\r\nAnimation=1\r\nDelay=True\r\n\r\n[File]\r\nLearn=1\r\n"},
-      {"added behind an open line", "[Deal]\nAnimation=1", "[Deal]\nAnimation=1\nDelay=True\n"},
-      {"new section", "[File]\nLearn=1", "[File]\nLearn=1\n[Deal]\nDelay=True\n"},
-      {"line feeds stay", "[Deal]\nDelay=1\nb=2\n", "[Deal]\nDelay=True\nb=2\n"},
-      {"binary stays", fncJunk() + "\n[Deal]\nDelay=1\n", fncJunk() + "\n[Deal]\nDelay=True\n"},
+      {"[Deal]\nAnimation=1", "[Deal]\nAnimation=1\nDelay=True\n"},
+      {"[File]\nLearn=1", "[File]\nLearn=1\n[Deal]\nDelay=True\n"},
+      {fncJunk() + "\n[Deal]\nDelay=1\nb=2\n", fncJunk() + "\n[Deal]\nDelay=True\nb=2\n"},
   };
-  for (const auto& row : rows) {
-    WriteFile(row.Before);
+  for (const auto& [before, after] : rows) {
+    WriteFile(before);
     prcWritePrivateProfileString("Deal", "Delay", "True");
-    EXPECT_EQ(Contents(), row.After) << row.Case;
+    EXPECT_EQ(Contents(), after);
   }
 }
 
