@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QTimerEvent>
 #include <algorithm>
+#include <tuple>
+#include <vector>
 
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
@@ -15,138 +17,137 @@ class QWindowSystemInterface {
 
 namespace stage {
 
-Clock& TheClock() {
-  static auto* clock = new Clock;  // The application object takes it down.
+namespace {
+
+/// A timer of the toolkit, or an event of the script.
+struct Pending {
+  std::uint64_t Due;
+  std::function<void()> Event{};
+  QObject* Timed = nullptr;
+  int Id = 0;
+  std::uint64_t Interval = 0;
+  bool blnTicks = false;  ///< Its handler runs: a timer does not tick into itself.
+};
+
+class Clock : public QAbstractEventDispatcher {
+ public:
+  std::uint64_t Now = 0;
+  std::vector<Pending> Line;
+  bool (*Look)() = [] { return false; };
+
+  bool processEvents(QEventLoop::ProcessEventsFlags flags) override {
+    blnInterrupted_ = false;
+    emit awake();
+    for (;;) {
+      bool blnServed = fncServePosted();
+      while (!blnInterrupted_ && fncServeDue()) {
+        blnServed = true;
+      }
+      if (blnServed || blnInterrupted_ || !flags.testFlag(QEventLoop::WaitForMoreEvents)) {
+        return blnServed;
+      }
+      emit aboutToBlock();
+      if (Look()) {
+        return true;
+      }
+      const auto next = fncNext();
+      if (next == Line.end()) {
+        qWarning("the program waits for what can never come");
+        qt::prcNoteEnd();
+        return false;
+      }
+      Now = std::max(Now, next->Due);
+    }
+  }
+
+  bool fncServePosted() {
+    const bool blnPosted = std::exchange(blnPosted_, false);
+    QCoreApplication::sendPostedEvents();
+    return QWindowSystemInterface::sendWindowSystemEvents(QEventLoop::AllEvents) || blnPosted;
+  }
+
+  void registerTimer(int id, qint64 interval, Qt::TimerType /*type*/, QObject* object) override {
+    const auto length = static_cast<std::uint64_t>(interval);
+    Line.push_back({.Due = Now + length, .Timed = object, .Id = id, .Interval = length});
+  }
+  bool unregisterTimer(int id) override {
+    return std::erase_if(
+               Line, [&](const Pending& one) { return one.Timed != nullptr && one.Id == id; }) != 0;
+  }
+  bool unregisterTimers(QObject* object) override {
+    return std::erase_if(Line, [&](const Pending& one) { return one.Timed == object; }) != 0;
+  }
+  QList<TimerInfo> registeredTimers(QObject* /*object*/) const override { return {}; }
+  int remainingTime(int /*id*/) override { return -1; }
+  void registerSocketNotifier(QSocketNotifier* /*notifier*/) override {}
+  void unregisterSocketNotifier(QSocketNotifier* /*notifier*/) override {}
+  void wakeUp() override { blnPosted_ = true; }
+  void interrupt() override { blnInterrupted_ = true; }
+
+ private:
+  /// What is due first, the script before the timers; the end where nothing can be.
+  std::vector<Pending>::iterator fncNext() {
+    const auto next = std::ranges::min_element(Line, {}, [](const Pending& one) {
+      return std::tuple(one.blnTicks, one.Due, one.Timed != nullptr);
+    });
+    return next != Line.end() && next->blnTicks ? Line.end() : next;
+  }
+
+  bool fncServeDue() {
+    const auto next = fncNext();
+    if (next == Line.end() || next->Due > Now) {
+      return false;
+    }
+    if (next->Timed == nullptr) {
+      const std::function<void()> event = std::move(next->Event);
+      Line.erase(next);
+      qt::prcServe(event);
+      return true;
+    }
+    const int id = next->Id;
+    next->Due = Now + std::max<std::uint64_t>(next->Interval, 1);
+    next->blnTicks = true;
+    QTimerEvent tick(id);
+    QCoreApplication::sendEvent(next->Timed, &tick);
+    std::ranges::for_each(Line, [id](Pending& one) { one.blnTicks &= one.Id != id; });
+    return true;
+  }
+
+  bool blnPosted_ = false, blnInterrupted_ = false;
+};
+
+Clock& fncClock() {
+  static auto* clock = new Clock;
   return *clock;
 }
 
-void Clock::Reset() {
-  script_.clear();
-  for (Timer& timer : timers_) {
-    timer.Due -= std::min(timer.Due, now_);
+}  // namespace
+
+QAbstractEventDispatcher* fncEventLoop() { return &fncClock(); }
+
+std::uint64_t fncNow() { return fncClock().Now; }
+
+void prcResetClock() {
+  std::erase_if(fncClock().Line, [](const Pending& one) { return one.Timed == nullptr; });
+  for (Pending& timer : fncClock().Line) {
+    timer.Due -= std::min(timer.Due, fncNow());
   }
-  now_ = 0;
+  fncClock().Now = 0;
 }
 
-void Clock::After(std::uint32_t milliseconds, std::function<void()> event) {
-  script_.push_back({now_ + milliseconds, std::move(event)});
+void prcAfter(std::uint32_t milliseconds, std::function<void()> event) {
+  fncClock().Line.push_back({.Due = fncNow() + milliseconds, .Event = std::move(event)});
 }
 
-void Clock::AtNextTurn(std::function<void()> event) { script_.push_front({0, std::move(event)}); }
+void prcAtNextTurn(std::function<void()> event) {
+  fncClock().Line.insert(fncClock().Line.begin(), {.Due = 0, .Event = std::move(event)});
+}
 
-void Clock::Flush() {
-  while (fncServePosted()) {
+void prcWhenIdle(bool (*look)()) { fncClock().Look = look; }
+
+void prcFlush() {
+  while (fncClock().fncServePosted()) {
   }
-}
-
-bool Clock::processEvents(QEventLoop::ProcessEventsFlags flags) {
-  blnInterrupted_ = false;
-  emit awake();
-  for (;;) {
-    bool blnServed = fncServePosted();
-    while (!blnInterrupted_ && (fncServeScript() || fncServeTimer())) {
-      blnServed = true;
-    }
-    if (blnServed || blnInterrupted_ || !flags.testFlag(QEventLoop::WaitForMoreEvents)) {
-      return blnServed;
-    }
-    emit aboutToBlock();
-    if (idle_ && idle_()) {
-      return true;
-    }
-    if (!fncGoOn()) {
-      qWarning("the program waits for what can never come");
-      qt::prcNoteEnd();
-      return false;
-    }
-  }
-}
-
-bool Clock::fncServePosted() {
-  const bool blnPosted = std::exchange(blnPosted_, false);
-  QCoreApplication::sendPostedEvents();
-  return QWindowSystemInterface::sendWindowSystemEvents(QEventLoop::AllEvents) || blnPosted;
-}
-
-bool Clock::fncServeScript() {
-  const auto next = std::ranges::min_element(script_, {}, &Scripted::Due);
-  if (next == script_.end() || next->Due > now_) {
-    return false;
-  }
-  const std::function<void()> event = std::move(next->Event);
-  script_.erase(next);
-  qt::prcServe(event);
-  return true;
-}
-
-Clock::Timer* Clock::fncFirst() {
-  Timer* first = nullptr;
-  for (Timer& timer : timers_) {
-    if (!timer.blnTicks && (first == nullptr || timer.Due < first->Due)) {
-      first = &timer;
-    }
-  }
-  return first;
-}
-
-Clock::Timer* Clock::fncFind(int id) {
-  const auto found = std::ranges::find(timers_, id, &Timer::Id);
-  return found == timers_.end() ? nullptr : &*found;
-}
-
-bool Clock::fncServeTimer() {
-  Timer* first = fncFirst();
-  if (first == nullptr || first->Due > now_) {
-    return false;
-  }
-  const int id = first->Id;
-  first->Due = now_ + static_cast<std::uint64_t>(std::max<qint64>(first->Interval, 1));
-  first->blnTicks = true;
-  QTimerEvent tick(id);
-  QCoreApplication::sendEvent(first->Object, &tick);
-  if (Timer* still = fncFind(id); still != nullptr) {
-    still->blnTicks = false;
-  }
-  return true;
-}
-
-bool Clock::fncGoOn() {
-  const Timer* timer = fncFirst();
-  const auto next = std::ranges::min_element(script_, {}, &Scripted::Due);
-  if (timer == nullptr && next == script_.end()) {
-    return false;
-  }
-  const std::uint64_t due =
-      std::min(timer != nullptr ? timer->Due : ~0ULL, next != script_.end() ? next->Due : ~0ULL);
-  now_ = std::max(now_, due);
-  return true;
-}
-
-void Clock::registerTimer(int id, qint64 interval, Qt::TimerType type, QObject* object) {
-  timers_.push_back({id, interval, type, object, now_ + static_cast<std::uint64_t>(interval)});
-}
-
-bool Clock::unregisterTimer(int id) {
-  return std::erase_if(timers_, [&](const Timer& timer) { return timer.Id == id; }) != 0;
-}
-
-bool Clock::unregisterTimers(QObject* object) {
-  return std::erase_if(timers_, [&](const Timer& timer) { return timer.Object == object; }) != 0;
-}
-
-QList<QAbstractEventDispatcher::TimerInfo> Clock::registeredTimers(QObject* object) const {
-  QList<TimerInfo> found;
-  for (const Timer& timer : timers_) {
-    if (timer.Object == object) {
-      found.append(TimerInfo(timer.Id, static_cast<int>(timer.Interval), timer.Type));
-    }
-  }
-  return found;
-}
-
-int Clock::remainingTime(int id) {
-  const Timer* timer = fncFind(id);
-  return timer == nullptr ? -1 : static_cast<int>(timer->Due - std::min(timer->Due, now_));
 }
 
 }  // namespace stage

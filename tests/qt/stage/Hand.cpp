@@ -94,7 +94,7 @@ void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
   qt_handleMouseEvent(&window, window.mapFromGlobal(QPointF(global)), global, hand.Down, button,
                       type, {}, ++hand.Stamp);
   hand.blnPainted = paints.blnAny;
-  TheClock().Flush();
+  prcFlush();
 }
 
 /// A pointer that comes to where it is already moves nothing: it goes a little aside.
@@ -116,31 +116,18 @@ bool fncOver(const QWidget& widget, QPoint at) {
   return under == &widget || (under != nullptr && widget.isAncestorOf(under));
 }
 
-/// The middle of what can be seen of a widget, as far as a raster of places shows it.
+/// The middle of a widget, or where that is covered, a place of a raster at which it can be seen.
 QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
-  const QRect rect = widget.rect();
-  if (fncOver(widget, rect.center())) {
-    return rect.center();
-  }
   constexpr int intRaster = 24;
-  std::vector<QPoint> seen;
-  QPoint sum;
-  for (int x = 0; x < intRaster; ++x) {
-    for (int y = 0; y < intRaster; ++y) {
-      const QPoint at(rect.width() * (2 * x + 1) / (2 * intRaster),
-                      rect.height() * (2 * y + 1) / (2 * intRaster));
-      if (fncOver(widget, at)) {
-        seen.push_back(at);
-        sum += at;
-      }
+  QPoint at = widget.rect().center();
+  for (int step = 0; !fncOver(widget, at); ++step) {
+    if (step == intRaster * intRaster) {
+      prcOutOfReach(name);
     }
+    at = QPoint(widget.width() * (2 * (step % intRaster) + 1) / (2 * intRaster),
+                widget.height() * (2 * (step / intRaster) + 1) / (2 * intRaster));
   }
-  if (seen.empty()) {
-    prcOutOfReach(name);
-  }
-  const QPoint middle = sum / static_cast<int>(seen.size());
-  return *std::ranges::min_element(seen, {},
-                                   [&](QPoint at) { return (at - middle).manhattanLength(); });
+  return at;
 }
 
 /// A button that is still down comes up where the pointer is.
@@ -217,7 +204,7 @@ void prcTurnWheel(const QWidget& window, int notches) {
   QWheelEvent wheel(native.mapFromGlobal(pntPointer), pntPointer, {}, turned, hand.Down, {},
                     Qt::NoScrollPhase, false);
   QCoreApplication::sendEvent(&native, &wheel);
-  TheClock().Flush();
+  prcFlush();
 }
 
 void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
@@ -230,7 +217,7 @@ void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
       break;
     }
     qt_handleKeyEvent(window, type, key, modifiers, text, false, 1);
-    TheClock().Flush();
+    prcFlush();
   }
 }
 
@@ -293,7 +280,7 @@ bool fncServeModal() {
       std::ranges::find(hand.Served, open) != hand.Served.end()) {
     return false;
   }
-  TheClock().Flush();
+  prcFlush();
   hand.Served.push_back(open);
   const QPointer<QWidget> still(open);
   auto* box = qobject_cast<QMessageBox*>(open);
@@ -333,9 +320,9 @@ void Reset(const std::string& folder) {
   qt::prcSyncAll();
   qt::prcFitToScreen();
   qt::prcSizeFaces();
-  TheClock().Reset();
-  TheClock().WhenIdle(fncServeModal);
-  TheClock().Flush();
+  prcResetClock();
+  prcWhenIdle(fncServeModal);
+  prcFlush();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   headless::ResetMachine(folder);
   prcSetCurrency(CurrencyStyle{});
@@ -352,7 +339,7 @@ void Run(bool (*start)()) {
 
 void Wait(std::uint32_t milliseconds) {
   bool blnOver = false;
-  TheClock().After(milliseconds, [&] { blnOver = true; });
+  prcAfter(milliseconds, [&] { blnOver = true; });
   try {
     Settle();
     qt::prcServeUntil([&] { return blnOver; });
@@ -362,11 +349,11 @@ void Wait(std::uint32_t milliseconds) {
   }
 }
 
-std::uint32_t Now() { return static_cast<std::uint32_t>(TheClock().Now()); }
+std::uint32_t Now() { return static_cast<std::uint32_t>(fncNow()); }
 
 void Settle() {
   qt::fncEnded() ? qt::prcClearScreen() : qt::prcSyncAll();
-  TheClock().Flush();
+  prcFlush();
 }
 
 bool Press(Control& control, float x, float y, int button) {
@@ -471,7 +458,7 @@ void Close(Window& window) {
     prcKey(Qt::Key_F4, Qt::ControlModifier);  // No child has a close box.
   } else {
     fncNative(*view.Shell).close();
-    TheClock().Flush();
+    prcFlush();
   }
 }
 
@@ -480,7 +467,7 @@ void Activate(Window& window) {
   QWidget& shell = *fncView(window).Shell;
   if (shell.isWindow()) {
     fncNative(shell).requestActivate();
-    TheClock().Flush();
+    prcFlush();
     return;
   }
   for (std::size_t step = 0; step < fncWindows().size() && qt::fncActiveWindow() != &window;
@@ -494,13 +481,13 @@ void Resize(Window& window, double width) {
   QWindow& native = fncNative(*fncView(window).Shell);
   const double height = window.Height;
   native.setWindowStates(Qt::WindowNoState);
-  TheClock().Flush();
+  prcFlush();
   double drawn = 0;
   for (double scale = 1; scale != drawn; scale = qt::fncScale()) {
     drawn = scale;  // At that size the program may be drawn at another one.
     native.setGeometry(0, 0, static_cast<int>(width / 15 * scale),
                        static_cast<int>(height / 15 * scale));
-    TheClock().Flush();
+    prcFlush();
   }
 }
 
@@ -508,9 +495,9 @@ void WhileModal(std::function<void()> act) { hand.Modal.push_back(std::move(act)
 void Answer(platform::Answer answer) { hand.Answers.push_back(answer); }
 const std::vector<Box>& Boxes() { return hand.Boxes; }
 void ForgetBoxes() { hand.Boxes.clear(); }
-void AtNextTurn(std::function<void()> handler) { TheClock().AtNextTurn(std::move(handler)); }
+void AtNextTurn(std::function<void()> handler) { prcAtNextTurn(std::move(handler)); }
 void After(std::uint32_t milliseconds, std::function<void()> handler) {
-  TheClock().After(milliseconds, std::move(handler));
+  prcAfter(milliseconds, std::move(handler));
 }
 bool Ended() { return qt::fncEnded(); }
 bool PaintedAtOnce() { return hand.blnPainted; }

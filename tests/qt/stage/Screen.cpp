@@ -10,7 +10,7 @@
 
 namespace platform {
 
-std::uint32_t TickCount() { return static_cast<std::uint32_t>(stage::TheClock().Now()); }
+std::uint32_t TickCount() { return static_cast<std::uint32_t>(stage::fncNow()); }
 
 }  // namespace platform
 
@@ -28,7 +28,7 @@ void prcMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const Q
 int user::Play(int argc, char** argv, const std::function<int()>& run) {
   qInstallMessageHandler(prcMessage);
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VELMORA_STAGE_SCREEN);
-  QCoreApplication::setEventDispatcher(&stage::TheClock());
+  QCoreApplication::setEventDispatcher(stage::fncEventLoop());
   QApplication::setApplicationName(QStringLiteral("Velmora"));
   QApplication application(argc, argv);
   QApplication::setCursorFlashTime(0);
