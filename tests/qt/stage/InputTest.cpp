@@ -3,33 +3,55 @@
 #include <QAccessible>
 #include <QImage>
 
-#include "betting/frmStatistics.h"
-#include "reveal/CardReveal.h"
+#include "platform/UserInput.h"
+#include "platform/qt/views/Accessible.h"
+#include "shell/CardsDealt.h"
 #include "tests/Game.h"
 #include "tests/qt/stage/Stage.h"
 
-// What the sweep of all controls does not show of the one road in: what comes of it for the game.
+// What the sweep of all controls does not show of the one road in: what comes of it for the game,
+// by mouse, by keys alone and by ear.
 
 namespace {
 
 using namespace stage;
 
+std::string strHeard;  // A line for each reading.
+
 /// A table open for bets, each seat with its 1000.
 class Input : public Game {
  protected:
   void SetUp() override {
+    strHeard = "\n";
     Game::SetUp();
     Setting("File", "Learn", "True");
     Start();
     Shuffle();
   }
 
-  static void Keys(const std::string& text) { std::ranges::for_each(text, prcTypeCharacter); }
+  /// Puts the cards of these slots of a deck out first, in this order.
+  static void NextSlots(std::initializer_list<int> next) {
+    SlotRow& order = intShoeCards[intShoeNumber];
+    int place = intNextCard[intShoeNumber];
+    for (const int slot : next) {
+      for (int at = place++; order[place - 1] % intSlotsOfDeck != slot; ++at) {
+        std::swap(order[place - 1], order[at]);
+      }
+    }
+  }
 
-  /// Opens the statistics and runs act there.
-  static void InStatistics(const std::function<void()>& act) {
-    user::WhileModal(act);
-    user::Click(MDIForm1.mnuStatistics);
+  /// Chooses each card that waits by its number and turns it by Enter, until the hand is over.
+  static void TurnNext() {
+    for (int n = 0; n < intPositions; ++n) {
+      if (blnCardClickable[n] && BaccTable.pctCardBack[n].Visible) {
+        prcTypeCharacter(static_cast<char>('1' + n));
+        prcKey(Qt::Key_Return);
+        break;
+      }
+    }
+    if (blnBusy) {
+      user::After(200, TurnNext);
+    }
   }
 
   Control& box_ = BaccTable.txtBankerBet[0];
@@ -41,32 +63,8 @@ TEST_F(Input, APressThatMovesALittleKeepsTheSelection) {
   user::Press(box_, 60, 60);
   user::Drag(box_, 30, 60);
   user::Release(box_, 30, 60);
-  Keys("7");
+  prcTypeCharacter('7');
   EXPECT_EQ(box_.Text, "7");
-}
-
-TEST_F(Input, ARefusedBoxIsTypedOver) {
-  const struct {
-    Control& Box;
-    const char* Bad;
-  } rows[] = {
-      {box_, ""}, {box_, "101"}, {BaccTable.txtTieBet[1], "51"}, {BaccTable.txtUnitValue, "15"}};
-  for (const auto& row : rows) {
-    const std::size_t told = user::Boxes().size();
-    user::Type(row.Box, row.Bad);
-    prcKey(Qt::Key_Tab);
-    EXPECT_EQ(user::Boxes().size(), told + 1) << row.Bad;
-    Keys("5");
-    EXPECT_EQ(row.Box.Text, "5") << row.Bad;
-    user::Type(row.Box, "10");
-    user::Click(BaccTable.txtTieBet[0]);
-  }
-  InStatistics([] {
-    user::Type(frmStatistics.mskSteak[0], "99999999");
-    prcKey(Qt::Key_Tab);
-    Keys("1500");
-    EXPECT_EQ(frmStatistics.mskSteak[0].Text, "1500");
-  });
 }
 
 TEST_F(Input, WhatAnAssistiveToolPutsIntoABoxIsCheckedAsItIsLeft) {
@@ -76,7 +74,6 @@ TEST_F(Input, WhatAnAssistiveToolPutsIntoABoxIsCheckedAsItIsLeft) {
   };
   put(BaccTable.txtTieBet[0], "4x2");
   EXPECT_EQ(BaccTable.Form.ActiveControl, &BaccTable.txtTieBet[0]);
-  EXPECT_EQ(BaccTable.txtTieBet[0].Text, "42");
   put(box_, "101");
   EXPECT_EQ(dblPlayerTotal[0], 580);
   put(BaccTable.txtTieBet[1], "3");
@@ -84,49 +81,70 @@ TEST_F(Input, WhatAnAssistiveToolPutsIntoABoxIsCheckedAsItIsLeft) {
   EXPECT_EQ(BaccTable.Form.ActiveControl, &box_);
 }
 
-TEST_F(Input, ClosingTheStatisticsLeavesItsBox) {
-  InStatistics([] {
-    user::Type(frmStatistics.mskSteak[0], "99999999");
-    user::Close(frmStatistics.Form);
-    EXPECT_TRUE(frmStatistics.Form.Visible) << "a refusal keeps the window";
-    user::Type(frmStatistics.mskSteak[0], "1500");
-    user::Close(frmStatistics.Form);
-    EXPECT_FALSE(frmStatistics.Form.Visible);
-  });
-  EXPECT_EQ(dblPlayerTotal[0], 1500);
-  EXPECT_EQ(fncGetSetting("Player1Stats", "Stake"), 1500);
-}
-
-TEST_F(Input, AdviceComesByTab) {
-  for (const int n : {0, 1, 3, 4}) {
-    BaccTable.pctCardBack[n].Visible = BaccTable.pctCardFace[n].Visible = true;
-    blnCardClickable[n] = true;
-  }
-  BaccTable.blnCardsPlaced = true;
-  intPlayerValue1[0] = 5;
-  pctCardBack_Click(0);
-  fncSetFocus(BaccTable.pctCardBack[1]);
-  BaccTable_MouseMove();
-  user::Settle();
-  prcKey(Qt::Key_Tab);
-  prcKey(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_EQ(BaccTable.Form.ActiveControl, &BaccTable.pctCardBack[1]);
-  EXPECT_TRUE(BaccTable.blnCardNeedShown && BaccTable.lblCardNeedP.Visible);
-}
-
 TEST_F(Input, EmptyPlacesOfAMaskShowThePromptWhileTyped) {
-  const auto ink = [this] {
-    user::Settle();
-    return fncWidget(box_)->grab().toImage();
-  };
-  user::Type(box_, "1");
-  const QImage prompted = ink();
-  box_.Prompt = ' ';
-  EXPECT_NE(prompted, ink());
-  user::Type(box_, "100");
-  const QImage full = ink();
-  box_.Prompt = '_';
-  EXPECT_EQ(full, ink()) << "no place is empty";
+  for (const auto& [typed, blnPrompted] : {std::pair{"1", true}, {"100", false}}) {
+    user::Type(box_, typed);
+    std::array<QImage, 2> shown;
+    for (const bool blnBlank : {false, true}) {
+      box_.Prompt = blnBlank ? ' ' : '_';
+      user::Settle();
+      shown.at(blnBlank ? 1 : 0) = fncWidget(box_)->grab().toImage();
+    }
+    EXPECT_EQ(shown[0] != shown[1], blnPrompted) << typed;
+  }
+}
+
+TEST_F(Input, KeysOfTheMenusAreHeardFromABoxAndFromAFloatingWindow) {
+  user::Type(box_, "5");
+  prcKey(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 900);
+  user::Click(box_);
+  prcKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 950) << "the box takes no key of the menus for itself";
+  prcShow(frmCardsDealt.Form);
+  user::Settle();
+  user::Click(frmCardsDealt.lstCardsDealt);
+  prcKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(dblPlayerTotal[0], 1000);
+}
+
+TEST_F(Input, AHandIsFollowedByEarAndPlayedByKeys) {
+  blnCardFaceUp = false;
+  auto* ear = fncView(BaccTable.Form).Ground->findChild<qt::EarView*>();
+  ASSERT_NE(ear, nullptr) << "the shuffle was not told of";
+  QObject::connect(ear, &qt::EarView::told,
+                   [](const QString& text) { strHeard += text.toStdString() + "\n"; });
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(ear)->role(), QAccessible::Notification);
+  NextSlots({12, 40, 17, 29, 41});
+  for (const auto& [boxes, chips] : {std::pair{"P", '5'}, {"T", '1'}, {"BB", '2'}}) {
+    for (const char* box = boxes; *box != 0; ++box) {
+      prcKey(static_cast<Qt::Key>(*box), Qt::AltModifier);
+    }
+    prcTypeCharacter(chips);
+  }
+  prcKey(Qt::Key_Tab);
+  user::After(200, TurnNext);
+  prcKey(Qt::Key_E, Qt::AltModifier);
+  EXPECT_EQ(strHeard, R"(
+Player 1, money $950
+Player 1, money $940
+Player 2, money $980
+Hidden Player first card
+Hidden Banker first card
+Hidden Player second card
+Hidden Banker second card
+Player first card, King of Spades
+Player advice: 8, 9 for NATURAL
+Player second card, 5 of Clubs. Player total 5
+Banker advice: At least 6 would be good, (2 card total)
+Banker first card, 2 of Hearts
+Banker advice: 6, 7 to WIN
+Banker second card, 4 of Diamonds. Banker total 6
+Hidden Player third card
+Player advice: 2, 3, 4 to WIN, 1 to TIE, 8, 9, 10, Picture to LOSE
+Player third card, 3 of Hearts. Player total 8
+Player 1, Tie bet LOSE. Player 1, Player bet WIN. Player 1, money $990. Player 2, Banker bet LOSE. Player WIN
+)");
 }
 
 }  // namespace

@@ -2,14 +2,13 @@
 
 #include <QApplication>
 #include <QImage>
-#include <QListWidget>
 #include <QPainter>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTest>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 #include "assets/Pictures.h"
@@ -18,16 +17,15 @@
 #include "platform/platform.h"
 #include "platform/qt/looks/Pictures.h"
 #include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/Boxes.h"
 #include "tests/qt/stage/Stage.h"
 
-// What only a real screen shows: pixels, cursors, tool tips, names, menus and bars.
+// What only pixels show.
 
 namespace {
 
 struct Felt {
   Window Form;
-  Control picGround, pctBack, pctFace, shpMat, lblChip;
+  Control picGround, pctBack, pctFace, lblChip;
 };
 Felt felt;
 
@@ -35,7 +33,6 @@ const Place plcFelt[] = {
     {&felt.picGround, "picGround", -1, ControlKind::Picture, 0, 0, 6000, 4500},
     {&felt.pctFace, "pctCardFace", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
     {&felt.pctBack, "pctCardBack", 0, ControlKind::Picture, 1500, 1500, 1065, 1440},
-    {&felt.shpMat, "shpCardDealBG", 0, ControlKind::Shape, 3000, 900, 2505, 3165},
     {&felt.lblChip, "lblChip", -1, ControlKind::Label, 600, 600, 225, 285},
 };
 
@@ -146,18 +143,6 @@ TEST_F(Looks, ACardTurnsOverUntilSomethingElseComes) {
   }
 }
 
-TEST_F(Looks, ACardAreaIsItsColourUpToItsRim) {
-  for (const Colour& colour : {Colour{0, 0, 255}, Colour{255, 64, 64}}) {
-    felt.shpMat.Dress = Look::Mat;
-    felt.shpMat.FillColor = colour;
-    user::Settle();
-    const QRect inside = qt::fncPixelRect(3000, 900, 2505, 3165).adjusted(6, 6, -6, -6);
-    QImage plain(inside.size(), QImage::Format_RGB32);
-    plain.fill(QColor(colour.Red, colour.Green, colour.Blue));
-    EXPECT_EQ(fncShot().copy(inside), plain);
-  }
-}
-
 TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
   const QWidget& shell = *stage::fncView(felt.Form).Shell;
   const auto shot = [] {
@@ -190,15 +175,13 @@ TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
 }
 
 TEST(Scale, FillsTheFrameWithTableCardAndLists) {
-  const struct {
-    double Width, Height, Title, Expected;
-  } frames[] = {{1024, 700, 0, 1},      {1024, 768, 25, 1.06},  {1366, 768, 25, 1.09},
-                {1366, 768, 40, 1.07},  {1920, 1080, 25, 1.54}, {3840, 2160, 0, 3.08},
-                {3440, 1440, 25, 2.05}, {1080, 1920, 25, 1.12}, {500, 400, 0, 0.52}};
-  for (const auto& frame : frames) {
-    EXPECT_DOUBLE_EQ(qt::fncFittingScale(QSizeF(frame.Width, frame.Height), frame.Title),
-                     frame.Expected)
-        << frame.Width << " by " << frame.Height;
+  for (const auto& [width, height, title, scale] : {std::tuple{1024, 700, 0, 1.0},
+                                                    {1366, 768, 25, 1.09},
+                                                    {1366, 768, 40, 1.07},
+                                                    {3440, 1440, 25, 2.05},
+                                                    {1080, 1920, 25, 1.12},
+                                                    {500, 400, 0, 0.52}}) {
+    EXPECT_DOUBLE_EQ(qt::fncFittingScale(QSizeF(width, height), title), scale) << width;
   }
 }
 
@@ -241,73 +224,6 @@ TEST(Palette, TextsStandOutFromTheirGrounds) {
           << "role " << text << " of group " << group;
     }
   }
-}
-
-struct Lists {
-  Window Form;
-  Control lstCount, lstCards;
-};
-Lists lists;
-
-TEST(Scale, AllRowsAndTheirEndsAreSeenAtEveryStep) {
-  const double before = qt::fncScale();
-  for (double scale = 0.75; scale <= 4; scale += 0.17) {
-    user::Reset();
-    qt::prcSetScale(scale);
-    lists.Form = Window{};
-    lists.Form.Kind = WindowKind::Float;
-    lists.Form.ScaleWidth = lists.Form.ScaleHeight = 5000;
-    lists.Form.FixedInner = true;
-    const Place rows[] = {
-        {&lists.lstCount, "lstCount", -1, ControlKind::ListBox, 75, 450, 2055, 2565},
-        {&lists.lstCards, "lstCards", -1, ControlKind::ListBox, 2500, 45, 1845, 2955}};
-    prcLayOut(lists.Form, rows);
-    lists.lstCount.Face = {.Size = 9.75F, .Fixed = true};
-    lists.lstCount.List.assign(13, "King 8  8  8  8");
-    lists.lstCards.ListTab = 14;
-    lists.lstCards.List.assign(40, "Queen Diamond  <-Burnt");
-    prcShow(lists.Form);
-    user::Settle();
-    const auto& count = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCount));
-    EXPECT_EQ(count.verticalScrollBar()->maximum(), 0) << "at scale " << scale;
-    const auto& cards = static_cast<QListWidget&>(*stage::fncWidget(lists.lstCards));
-    const int marks = static_cast<const qt::RowsView&>(cards).fncSecondColumn();
-    EXPECT_LE(marks + cards.fontMetrics().horizontalAdvance(QStringLiteral("<-Burnt")),
-              cards.viewport()->width())
-        << "at scale " << scale;
-  }
-  user::Reset();
-  qt::prcSetScale(before);
-}
-
-TEST_F(Looks, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
-  static Window frame, child;
-  frame = child = Window{};
-  frame.Kind = WindowKind::Frame;
-  frame.Width = frame.Height = 12000;
-  child.Width = child.Height = 3000;
-  child.Left = child.Top = 600;
-  child.TitleBar = true;
-  prcShow(frame);
-  prcShow(child);
-  user::Settle();
-  QWidget& shell = *stage::fncView(child).Ground->parentWidget();
-  QWindow* handle = shell.window()->windowHandle();
-  const auto drag = [&](QPoint way) {
-    const QPoint from = handle->mapFromGlobal(shell.mapToGlobal(QPoint(40, 10)));
-    QTest::mousePress(handle, Qt::LeftButton, {}, from);
-    QTest::mouseMove(handle, from + way);
-    QTest::mouseRelease(handle, Qt::LeftButton, {}, from + way);
-    user::Settle();
-  };
-  drag({30, 20});
-  EXPECT_EQ(qt::fncPixels(child.Left), qt::fncPixels(600) + 30);
-  EXPECT_EQ(qt::fncPixels(child.Top), qt::fncPixels(600) + 20);
-  drag({0, -400});
-  EXPECT_EQ(shell.y(), 0) << "a title stays within reach";
-  child.Left = -90;
-  user::Settle();
-  EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }
 
 }  // namespace

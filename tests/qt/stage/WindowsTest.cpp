@@ -89,13 +89,41 @@ TEST_F(Windows, AChildThatGoesLeavesTheInputToTheOther) {
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form);
 }
 
-TEST_F(Windows, TheMarkingCardIsPannedByItsBarAndByKeys) {
+TEST_F(Windows, TheMarkingCardIsPannedByItsBarByKeysAndByTheWheel) {
   MarkCardWindow& card = *fncMarkCard(0);
+  const double seen = card.Form.ScaleWidth / card.Picture1.Width;
+  const auto inSlider = static_cast<float>(0.9 * seen * card.HScroll1.Width);
+  user::Press(card.HScroll1, inSlider, 100);
+  user::Release(card.HScroll1, inSlider, 100);
+  EXPECT_EQ(card.HScroll1.Value, 0) << "the slider is as long as what is seen";
   user::Click(card.HScroll1);
   EXPECT_EQ(card.HScroll1.Value, card.HScroll1.LargeChange);
   user::Activate(card.Form);
   stage::prcKey(Qt::Key_Right);
-  EXPECT_EQ(card.Picture1.Left, -card.HScroll1.LargeChange - card.HScroll1.SmallChange);
+  user::Hover(card.Picture1);
+  stage::prcTurnWheel(*stage::fncWidget(card.HScroll1)->window(), -1);
+  EXPECT_EQ(card.Picture1.Left, -card.HScroll1.LargeChange - 2 * card.HScroll1.SmallChange);
+}
+
+TEST_F(Windows, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
+  Window& card = fncMarkCard(0)->Form;
+  QWidget& shell = Shell(card);
+  const auto drag = [&](QPoint way) {
+    const QPoint from = shell.mapToGlobal(QPoint(40, 10));
+    stage::prcPoint(shell, from);
+    stage::prcPress(shell, Qt::LeftButton);
+    stage::prcPoint(shell, from + way);
+    stage::prcLift(shell, Qt::LeftButton);
+  };
+  const QPoint place = shell.pos();
+  drag({30, 20});
+  EXPECT_EQ(shell.pos(), place + QPoint(30, 20));
+  EXPECT_EQ(QPoint(qt::fncPixels(card.Left), qt::fncPixels(card.Top)), shell.pos());
+  drag({0, -900});
+  EXPECT_EQ(shell.y(), 0) << "a title stays within reach";
+  card.Left = -90;
+  user::Settle();
+  EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }
 
 TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
