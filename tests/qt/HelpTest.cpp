@@ -3,14 +3,16 @@
 #include <QApplication>
 #include <QFile>
 #include <QImage>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 #include <set>
 
-#include "judges/Adapter.h"
+#include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/machine/HelpWindow.h"
 
@@ -29,19 +31,19 @@ qt::HelpWindow* fncShown() {
   return nullptr;
 }
 
-TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
-  user::Reset();
+/// The help at its first page.
+qt::HelpWindow& fncOpened() {
   platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
-  qt::HelpWindow* help = fncShown();
-  ASSERT_NE(help, nullptr);
-  EXPECT_GT(help->fncPages().toPlainText().size(), 100);
-  EXPECT_TRUE(help->fncPages().toPlainText().contains(QStringLiteral("Velmora")));
-  platform::ShowHelp(fncBuiltHelp().toStdString(), 1);
-  EXPECT_EQ(fncShown(), help);
+  return *fncShown();
+}
+
+TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
+  qt::HelpWindow& help = fncOpened();
+  EXPECT_TRUE(help.fncPages().toPlainText().contains(QStringLiteral("Velmora")));
   platform::ShowHelp(fncBuiltHelp().toStdString(), 2);
-  EXPECT_TRUE(help->fncPages().toPlainText().startsWith(QStringLiteral("Exact odds")));
-  EXPECT_TRUE(user::Boxes().empty());
-  delete help;
+  EXPECT_EQ(fncShown(), &help);
+  EXPECT_TRUE(help.fncPages().toPlainText().startsWith(QStringLiteral("Exact odds")));
+  delete &help;
 }
 
 QString fncTold(const qt::HelpWindow& help) {
@@ -52,8 +54,7 @@ QString fncTold(const qt::HelpWindow& help) {
 }
 
 TEST(Help, WordsAreFoundOnAllPagesMarkedAndGoneThroughByKeys) {
-  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
-  qt::HelpWindow& help = *fncShown();
+  qt::HelpWindow& help = fncOpened();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
   QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
   auto& find = *qobject_cast<QLineEdit*>(help.focusWidget());
@@ -88,8 +89,7 @@ TEST(Help, WordsAreFoundOnAllPagesMarkedAndGoneThroughByKeys) {
 
 TEST(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
   QTemporaryDir folder;
-  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
-  qt::HelpWindow& help = *fncShown();
+  qt::HelpWindow& help = fncOpened();
   qt::HelpPages& pages = help.fncPages();
   pages.setSource(pages.source().resolved(QUrl(QStringLiteral("rules.html"))));
   pages.verticalScrollBar()->setValue(pages.verticalScrollBar()->maximum() / 2);
@@ -116,16 +116,12 @@ TEST(Help, PicturesAreSmoothAtEveryScale) {
   const double before = qt::fncScale();
   for (const double scale : {1.0, 1.5}) {
     qt::prcSetScale(scale);
-    user::Reset();
-    platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
-    qt::HelpPages& pages = fncShown()->fncPages();
+    qt::HelpPages& pages = fncOpened().fncPages();
     const QUrl table(QStringLiteral("pictures/table.png"));
     const auto shown = pages.loadResource(QTextDocument::ImageResource, table).value<QImage>();
     std::set<QRgb> colours;
-    for (int y = 0; y < shown.height(); ++y) {
-      for (int x = 0; x < shown.width(); ++x) {
-        colours.insert(shown.pixel(x, y));
-      }
+    for (int at = 0; at < shown.width() * shown.height(); ++at) {
+      colours.insert(shown.pixel(at % shown.width(), at / shown.width()));
     }
     EXPECT_GT(colours.size(), 2000U) << "colours of a palette, dithered, at scale " << scale;
     delete fncShown();
@@ -135,29 +131,28 @@ TEST(Help, PicturesAreSmoothAtEveryScale) {
 
 TEST(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {
   QTemporaryDir folder;
-  QFile built(fncBuiltHelp());
+  QFile built(fncBuiltHelp()), damaged(folder.filePath(QStringLiteral("damaged")));
   ASSERT_TRUE(built.open(QIODevice::ReadOnly));
   const QByteArray whole = built.readAll();
-  const struct {
-    const char* Name;
-    QByteArray Content;
-  } rows[] = {{"missing", {}},
-              {"empty", ""},
-              {"text", "this is no help file"},
-              {"cut", whole.left(whole.size() / 3)},
-              {"header", whole.left(4096)}};
-  for (const auto& row : rows) {
-    user::Reset();
-    const QString path = folder.filePath(QString::fromLatin1(row.Name));
-    if (!row.Content.isNull()) {
-      QFile file(path);
-      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-      file.write(row.Content);
+  int boxes = 0;
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, [&boxes] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      ++boxes;
+      box->accept();
     }
-    platform::ShowHelp(path.toStdString(), 0);
-    EXPECT_EQ(user::Boxes().size(), 1U) << row.Name;
-    EXPECT_EQ(fncShown(), nullptr) << row.Name;
+  });
+  user.start(1);
+  platform::ShowHelp(folder.filePath(QStringLiteral("missing")).toStdString(), 0);
+  for (const QByteArray& content :
+       {QByteArray(), QByteArray("no help"), whole.left(whole.size() / 3), whole.left(4096)}) {
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write(content);
+    damaged.close();
+    platform::ShowHelp(damaged.fileName().toStdString(), 0);
+    EXPECT_EQ(fncShown(), nullptr) << content.size();
   }
+  EXPECT_EQ(boxes, 5);
 }
 
 }  // namespace

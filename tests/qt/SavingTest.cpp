@@ -10,13 +10,14 @@
 #include <QLineEdit>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
-#include <QTest>
+#include <QTimer>
 #include <csignal>
 
-#include "judges/Adapter.h"
 #include "platform/Chart.h"
 #include "platform/Layout.h"
+#include "platform/platform.h"
 #include "platform/qt/looks/Scale.h"
+#include "platform/qt/windows/Sync.h"
 
 // Files that the user saves, by real dialogs onto a real disk.
 
@@ -28,56 +29,77 @@ Control crtPaper;
 class Saving : public testing::Test {
  protected:
   void SetUp() override {
-    user::Reset();
     frmPaper = Window{};
-    frmPaper.Name = "Paper";
     frmPaper.Kind = WindowKind::Float;
     frmPaper.FixedInner = true;
     frmPaper.ScaleWidth = 7500;
     frmPaper.ScaleHeight = 4500;
     const Place rows[] = {{&crtPaper, "crtPaper", -1, ControlKind::Chart, 0, 0, 7500, 4500}};
     prcLayOut(frmPaper, rows);
-    auto data = std::make_shared<ChartData>();
-    data->Lines.push_back({.Name = "Player 1", .Width = 3, .Points = {{0, 0}, {10, 70}}});
-    crtPaper.Chart = data;
+    Draw({{0, 0}, {10, 70}});
     prcShow(frmPaper);
-    user::Settle();
+    qt::prcSyncAll();
+    QObject::connect(&user_, &QTimer::timeout, [this] { Answer(); });
+    user_.start(1);
   }
   void TearDown() override {
     prcForgetWindow(frmPaper);
-    user::Reset();
+    qt::prcSyncAll();
+  }
+
+  static void Draw(std::vector<ChartPoint> points) {
+    auto data = std::make_shared<ChartData>();
+    data->Lines.push_back({.Name = "Player 1", .Width = 3, .Points = std::move(points)});
+    crtPaper.Chart = data;
   }
 
   std::string fncPath(const char* name) const { return folder_.filePath(name).toStdString(); }
 
+  QByteArray fncRead(const char* name) const {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+
+  /// What the player gets who types this name and chooses this kind of file.
+  std::string fncAsked(const char* name, int kind) {
+    typed_ = folder_.filePath(name);
+    kind_ = kind;
+    constexpr platform::FileKind kinds[] = {{"Picture", "png"}, {"Drawing", "svg"}};
+    return platform::AskSavePath("Save", "Curve.png", kinds);
+  }
+
+ private:
+  /// The dialog is filled in once; whatever is open then is closed.
+  void Answer() {
+    QWidget* open = QApplication::activeModalWidget();
+    auto* dialog = qobject_cast<QFileDialog*>(open);
+    if (dialog != nullptr && !typed_.isEmpty()) {
+      dialog->selectNameFilter(dialog->nameFilters().at(kind_));
+      emit dialog->filterSelected(dialog->selectedNameFilter());
+      dialog->findChild<QLineEdit*>()->setText(std::exchange(typed_, QString()));
+      static_cast<QDialog*>(dialog)->accept();
+    } else if (open != nullptr) {
+      open->close();
+    }
+  }
+
   QTemporaryDir folder_;
+  QTimer user_;
+  QString typed_;
+  int kind_ = 0;
 };
 
-constexpr platform::FileKind kinds[] = {{"Picture", "png"}, {"Drawing", "svg"}};
-
 TEST_F(Saving, TheDialogNamesTheFileByItsKind) {
-  const auto type = [](const QString& name, int kind) {
-    user::WhileModal([name, kind] {
-      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      dialog->selectNameFilter(dialog->nameFilters().at(kind));
-      emit dialog->filterSelected(dialog->selectedNameFilter());
-      dialog->findChild<QLineEdit*>()->setText(name);
-      static_cast<QDialog*>(dialog)->accept();
-    });
-  };
-  for (const auto& [typed, kind, path] :
-       {std::tuple{"one", 0, "one.png"}, {"two", 1, "two.svg"}, {"three.svg", 0, "three.svg"}}) {
-    type(folder_.filePath(typed), kind);
-    EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), fncPath(path));
+  for (const auto& [typed, kind, path] : {std::tuple{"one", 0, "one.png"},
+                                          {"two", 1, "two.svg"},
+                                          {"three.svg", 0, "three.svg"},
+                                          {"four.jpg", 1, "four.jpg.svg"}}) {
+    EXPECT_EQ(fncAsked(typed, kind), fncPath(path));
   }
-  type(folder_.filePath("four.jpg"), 1);
-  EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), fncPath("four.jpg.svg"));
   ASSERT_EQ(platform::SaveFile(fncPath("five.jpg.png"), "kept"), "");
-  type(folder_.filePath("five.jpg"), 0);
-  EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), "")
+  EXPECT_EQ(fncAsked("five.jpg", 0), "")
       << "it is there already: the dialog stays, to ask, and is closed";
-  EXPECT_EQ(platform::AskSavePath("Save", "Curve.png", kinds), "") << "closed, and not accepted";
 }
 
 /// Lets files grow no further, as on a full disk, for as long as this lives.
@@ -100,7 +122,7 @@ TEST_F(Saving, AFileIsWrittenAsAWholeOrNotAtAll) {
   EXPECT_EQ(platform::SaveFile(path, "old"), "");
   const std::string pipe = fncPath("pipe");
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& bad : {fncPath("missing/all.csv"), folder_.path().toStdString(), pipe}) {
+  for (const std::string& bad : {fncPath("missing/all.csv"), fncPath(""), pipe}) {
     EXPECT_NE(platform::SaveFile(bad, "new"), "") << bad;
     EXPECT_NE(platform::SavePicture(crtPaper, bad), "") << bad;
   }
@@ -108,39 +130,30 @@ TEST_F(Saving, AFileIsWrittenAsAWholeOrNotAtAll) {
     const FullDisk full;
     EXPECT_NE(platform::SaveFile(path, std::string(100000, 'x')), "");
   }
-  QFile file(QString::fromStdString(path));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), "old");
+  EXPECT_EQ(fncRead("hands.csv"), "old");
   EXPECT_EQ(platform::SaveFile(path, "new"), "");
 }
 
 TEST_F(Saving, APictureIsTwiceAsFineAndADrawingIsNoPicture) {
   ASSERT_EQ(platform::SavePicture(crtPaper, fncPath("curve.png")), "");
-  const QImage picture(folder_.filePath("curve.png"));
+  const QImage picture(QString::fromStdString(fncPath("curve.png")));
   EXPECT_EQ(picture.size(), QSize(qt::fncScaled(500), qt::fncScaled(300)) * 2);
   ASSERT_EQ(platform::SavePicture(crtPaper, fncPath("curve.svg")), "");
-  QFile file(folder_.filePath("curve.svg"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray drawing = file.readAll();
+  const QByteArray drawing = fncRead("curve.svg");
   EXPECT_TRUE(drawing.contains("<polyline") && drawing.contains("Player 1"));
   EXPECT_FALSE(drawing.contains("<image"));
   EXPECT_TRUE(QSvgRenderer(drawing).isValid());
 }
 
 TEST_F(Saving, AStepOfACurveStandsUprightUpAsWellAsDown) {
+  const auto drawn = [this](std::vector<ChartPoint> points) {
+    Draw(std::move(points));
+    EXPECT_EQ(platform::SavePicture(crtPaper, fncPath("step.png")), "");
+    return QImage(QString::fromStdString(fncPath("step.png")));
+  };
   for (const float to : {70.F, 0.F}) {
-    std::array<QImage, 2> pictures;
-    for (const bool blnPointBetween : {false, true}) {
-      auto data = std::make_shared<ChartData>();
-      data->Lines.push_back({.Points = {{0, 35}, {10, 35}, {10, to}}});
-      if (blnPointBetween) {
-        data->Lines[0].Points.insert(data->Lines[0].Points.begin() + 1, {9, 35});
-      }
-      crtPaper.Chart = data;
-      ASSERT_EQ(platform::SavePicture(crtPaper, fncPath("step.png")), "");
-      pictures.at(blnPointBetween ? 1 : 0) = QImage(folder_.filePath("step.png"));
-    }
-    EXPECT_EQ(pictures[0], pictures[1]) << "level up to the step to " << to;
+    EXPECT_EQ(drawn({{0, 35}, {10, 35}, {10, to}}), drawn({{0, 35}, {9, 35}, {10, 35}, {10, to}}))
+        << "level up to the step to " << to;
   }
 }
 

@@ -2,22 +2,14 @@
 
 #include <QApplication>
 #include <cstdio>
+#include <string_view>
 
 #include "platform/platform.h"
 #include "platform/qt/windows/Session.h"
 
-// The window tests bring up one application object for all of them; each test resets what it shows.
-
-namespace {
-
-/// The part of the second process in OneInstanceTest.cpp.
-int fncActSecondInstance() {
-  std::putchar(platform::ActivateOtherInstance() ? 'o' : 'f');
-  std::fflush(stdout);
-  return QApplication::exec();
-}
-
-}  // namespace
+// The tests of the real machine bring up one application object for all of them. With the argument
+// "second" this is the second process in OneInstanceTest.cpp: it asks for the lock, tells by one
+// letter whether another instance runs, and keeps it until it is killed.
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -29,8 +21,10 @@ int main(int argc, char** argv) {
   }
   QApplication::setApplicationName(QStringLiteral("Velmora"));
   QApplication application(argc, argv);
-  if (qEnvironmentVariableIsSet("VELMORA_SECOND_INSTANCE")) {
-    return fncActSecondInstance();
+  if (argc > 1 && std::string_view(argv[1]) == "second") {
+    std::putchar(platform::ActivateOtherInstance() ? 'o' : 'f');
+    std::fflush(stdout);
+    return QApplication::exec();
   }
   qt::prcBringUpPlatform();
   const int result = RUN_ALL_TESTS();
