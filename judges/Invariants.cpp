@@ -1,5 +1,6 @@
 #include "judges/Invariants.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iterator>
@@ -11,6 +12,8 @@
 #include "platform/UserInput.h"
 #include "shell/CardsDealt.h"
 #include "shell/SettingsStore.h"
+#include "shell/Switches.h"
+#include "shell/ToolButtons.h"
 #include "table/Bets.h"
 #include "table/Cards.h"
 
@@ -28,26 +31,34 @@ std::string fncContents() {
 
 double fncAtUnit(BetSide side, int seat) { return fncBetChips(side, seat) * fncUnitValue(); }
 
-std::string fncOf(const char* what, int seat, double have, double want) {
-  return std::string(what) + " of seat " + std::to_string(seat) + ": " + std::to_string(have) +
-         ", not " + std::to_string(want);
-}
-
 std::string fncListed(Integer slot) {
-  const Integer face = slot % 13 + 1;
-  return fncCardValueName(face) + " " + CardSuite(slot);
+  return fncCardValueName(slot % 13 + 1) + " " + CardSuite(slot);
 }
 
 bool fncShuffling() { return blnBusy && BaccTable.lblShuffleInProgress[0].Visible; }
 
 }  // namespace
 
+void Watch::Must(bool blnHolds, std::string_view what, std::string_view details) {
+  if (!blnHolds && strFault_.empty()) {
+    strFault_ = what;
+    strFault_ += details;
+  }
+}
+
+void Watch::MustBe(double have, double want, const char* what, int of) {
+  if (!fncSame(have, want)) {
+    Must(false, std::string(what) + (of < 0 ? "" : " " + std::to_string(of)) + ": " +
+                    std::to_string(have) + ", not " + std::to_string(want));
+  }
+}
+
 void Watch::prcStart() {
   const std::int64_t hands = lngHandsSeen_, shoes = lngShoesSeen_;
   *this = Watch{};
   lngHandsSeen_ = hands;
   lngShoesSeen_ = shoes;
-  fncFile();
+  prcReadFile();
   dblHands_ = dblFileHands_;
   dblUnit_ = fncUnitValue();
 }
@@ -71,77 +82,63 @@ void Watch::prcNoteUnit() {
   }
 }
 
-std::string Watch::fncMoney(int seat) {
+void Watch::prcLookAtMoney(int seat) {
   Seat& state = seats_[static_cast<std::size_t>(seat)];
   const double own = dblStake_[static_cast<std::size_t>(seat)] + dblPlayerWin[seat];
   double have = dblPlayerTotal[seat];
-  std::vector<double> lost;
+  std::vector<double> nobodys{0};
   for (const BetSide side : betSides) {
     const double money = fncBet(side, seat).Money;
     have += money;
-    if (money != 0 && fncLoses(side, strResult[intShoeNumber])) {
-      lost.push_back(money);
+    // Between its settlement and the close of its round a hand's lost bets lie on the table as
+    // nobody's money; in a run they are paid for anew one after the other.
+    if (blnBusy && fncLoses(side, strResult[intShoeNumber])) {
+      const std::vector<double> others = nobodys;
+      std::ranges::transform(others, std::back_inserter(nobodys),
+                             [money](double other) { return other + money; });
     }
   }
   if (fncSame(have, own)) {
     state.Offset = 0;  // Also where the user has set the statistics to zero.
-    return "";
-  }
-  // Between its settlement and the close of its round a hand's lost bets lie on the table as
-  // nobody's money; in a run they are paid for anew one after the other.
-  for (std::size_t chosen = 0; chosen < (blnBusy ? std::size_t{1} << lost.size() : 1); ++chosen) {
-    double gone = 0;
-    for (std::size_t at = 0; at < lost.size(); ++at) {
-      gone += (chosen >> at & 1) != 0 ? lost[at] : 0;
+  } else if (std::ranges::none_of(nobodys, [&](double money) {
+               return fncSame(have - money, own + state.Offset);
+             })) {
+    if (!state.blnTouched) {
+      MustBe(have, own + state.Offset, "total and bets of seat", seat);
     }
-    if (fncSame(have - gone, own + state.Offset)) {
-      return "";
-    }
-  }
-  if (state.blnTouched) {
     state.Offset = have - own;
-    return "";
   }
-  return fncOf("total and bets", seat, have, own + state.Offset);
 }
 
 /// Box, money field and value label of a bet say the same, but for the box that is being typed in.
-std::string Watch::fncForms(int seat) {
+void Watch::prcLookAtBets(int seat) {
   for (const BetSide side : betSides) {
     const BetControls bet = fncBet(side, seat);
-    const bool blnTyping = BaccTable.Form.ActiveControl == &bet.Box;
     const bool blnRevalued =
         seats_[static_cast<std::size_t>(seat)].blnRevalued[static_cast<std::size_t>(side)];
-    if (!blnTyping && !blnRevalued && !fncSame(bet.Money, fncAtUnit(side, seat))) {
-      return fncOf("money of a bet", seat, bet.Money, fncAtUnit(side, seat));
+    if (BaccTable.Form.ActiveControl != &bet.Box && !blnRevalued) {
+      MustBe(bet.Money, fncAtUnit(side, seat), "money of a bet of seat", seat);
     }
-    const bool blnHidden = !bet.Value.Visible && !blnBusy;
-    if (bet.Money != 0 && (blnHidden || bet.Value.Text != fncCurrency(bet.Money))) {
-      return "value label of seat " + std::to_string(seat) + ": " + bet.Value.Text;
-    }
+    Must(bet.Money == 0 ||
+             ((bet.Value.Visible || blnBusy) && bet.Value.Text == fncCurrency(bet.Money)),
+         "value label: ", bet.Value.Text);
   }
-  if (BaccTable.lblPlayerTotal[seat].Text != fncCurrency(dblPlayerTotal[seat])) {
-    return fncOf("total shown", seat, fncVal(BaccTable.lblPlayerTotal[seat].Text.substr(1)),
-                 dblPlayerTotal[seat]);
-  }
-  return "";
+  const std::string& shown = BaccTable.lblPlayerTotal[seat].Text;
+  Must(shown == fncCurrency(dblPlayerTotal[seat]), "total shown: ", shown);
 }
 
-std::string Watch::fncClosed() const {
+void Watch::prcLookAtButtons() {
   if (!blnBusy) {
-    return "";
+    return;
   }
   for (const Control& button : BaccTable.duokkortos) {
-    if (fncSeen(button) && fncUsable(button)) {
-      return "a Deal button is open in the middle of a hand or shuffle";
-    }
+    Must(!fncSeen(button) || !fncUsable(button),
+         "a Deal button is open in the middle of a hand or shuffle");
   }
   // At the end of a shoe the next shuffle may cut the last flash short.
   const bool blnMayShuffle = blnEndOfShoe[intShoeNumber] && !fncShuffling();
-  if (!blnMayShuffle && fncSeen(BaccTable.maisyk) && fncUsable(BaccTable.maisyk)) {
-    return "the Shuffle button is open in the middle of a hand or shuffle";
-  }
-  return "";
+  Must(blnMayShuffle || !fncSeen(BaccTable.maisyk) || !fncUsable(BaccTable.maisyk),
+       "the Shuffle button is open in the middle of a hand or shuffle");
 }
 
 /// Where hands do not wait, a whole shuffle and its first hands may pass between two looks: another
@@ -162,142 +159,123 @@ void Watch::prcNoteShoe() {
 
 void Watch::prcCountHands() {
   const int dealt = intHandsDealt[intShoeNumber];
-  if (dealt > intHandsBefore_) {
-    dblHands_ += dealt - intHandsBefore_;
-    lngHandsSeen_ += dealt - intHandsBefore_;
-  }
+  const int more = std::max(dealt - intHandsBefore_, 0);
+  dblHands_ += more;
+  lngHandsSeen_ += more;
   intHandsBefore_ = dealt;
-  if (blnEndOfShoe[intShoeNumber] && !blnEndBefore_) {
-    ++lngShoesSeen_;
-  }
+  lngShoesSeen_ += blnEndOfShoe[intShoeNumber] && !blnEndBefore_ ? 1 : 0;
   blnEndBefore_ = blnEndOfShoe[intShoeNumber];
 }
 
 std::string Watch::fncLookAtSwitches() {
+  static const std::array rows{&swtLearn,          &swtCardFaceUp,          &swtShowCardValues,
+                               &swtShowCardsDealt, &swtShowCardsDealtCount, &swtShowScore,
+                               &swtShowNaturals,   &swtPlayerBlue,          &swtDelay,
+                               &swtAnimation};
+  strFault_.clear();
   if (user::Ended()) {
     return "";
   }
-  struct Row {
-    const char* Section;
-    const char* Key;
-    const bool& blnFlag;
-  };
-  static const std::array<Row, 8> rows{{{"File", "Learn", blnLearn},
-                                        {"Card Options", "Show Card Values", blnShowCardValues},
-                                        {"Card Options", "Card Face Up", blnCardFaceUp},
-                                        {"Marking Options", "Show Score", blnShowScore},
-                                        {"Marking Options", "Show Naturals", blnShowNaturals},
-                                        {"Player Blue", "PlayerBlue", blnPlayerBlue},
-                                        {"Deal", "Delay", blnDealDelay},
-                                        {"Deal", "Animation", blnDealAnimation}}};
+  prcReadFile();
   std::string chosen = strContents_ + std::to_string(intDecks[0]);
-  for (const Row& row : rows) {
-    chosen += row.blnFlag ? '1' : '0';
+  for (const Switch* row : rows) {
+    chosen += (row->Flag != nullptr ? *row->Flag : row->Entry.Value == 1) ? '1' : '0';
   }
   if (chosen == strChosen_) {
     return "";
   }
-  strChosen_ = chosen;  // The file is read only when either has changed.
-  for (const Row& row : rows) {
-    if (fncSwitchedOn(row.Section, row.Key) != row.blnFlag) {
-      return std::string("in the file and in memory differs: ") + row.Key;
-    }
+  strChosen_ = chosen;
+  for (const Switch* row : rows) {
+    const bool blnOn = row->Entry.Value == 1;
+    Must((row->Flag == nullptr || *row->Flag == blnOn) &&
+             fncToolButton(row->Button).Value == row->Entry.Value &&
+             fncSwitchedOn(row->Section, row->Key) == blnOn,
+         "the faces of a switch differ: ", row->Key);
   }
-  return fncGetSetting("Shoe Size", "Decks") == intDecks[0] ? "" : "decks in the file differ";
+  MustBe(fncGetSetting("Shoe Size", "Decks"), int{intDecks[0]}, "decks in the file");
+  return strFault_;
 }
 
-std::string Watch::fncFile() {
+void Watch::prcReadFile() {
   const std::string contents = fncContents();
-  if (contents != strContents_) {
-    strContents_ = contents;
-    for (int i = 0; i < intSeats; ++i) {
-      const auto seat = static_cast<std::size_t>(i);
-      dblStake_[seat] = std::nearbyint(fncGetSetting(fncSeatSection(i), "Stake"));
-      dblFileWin_[seat] = fncGetSetting(fncSeatSection(i), "Win");
-    }
-    const double hands = fncGetSetting("ShoesHandsPlayed", "Hands");
-    if (hands < dblFileHands_) {
-      if (hands != 0) {
-        return "hands in the file fell to " + std::to_string(hands);
-      }
-      // The user has set the statistics to zero; a hand on the table will still be counted.
-      dblHands_ -= dblFileHands_ - hands;
-    }
-    dblFileHands_ = hands;
+  if (contents == strContents_) {
+    return;
   }
+  strContents_ = contents;
   for (int i = 0; i < intSeats; ++i) {
-    const double file = dblFileWin_[static_cast<std::size_t>(i)];
-    if (!fncSame(file, dblPlayerWin[i])) {
-      return fncOf("win in the file", i, file, dblPlayerWin[i]);
-    }
+    const auto seat = static_cast<std::size_t>(i);
+    dblStake_[seat] = std::nearbyint(fncGetSetting(fncSeatSection(i), "Stake"));
+    dblFileWin_[seat] = fncGetSetting(fncSeatSection(i), "Win");
+  }
+  const double hands = fncGetSetting("ShoesHandsPlayed", "Hands");
+  if (hands < dblFileHands_) {
+    Must(hands == 0, "hands in the file fell");
+    // The user has set the statistics to zero; a hand on the table will still be counted.
+    dblHands_ -= dblFileHands_;
+  }
+  dblFileHands_ = hands;
+}
+
+void Watch::prcLookAtFile() {
+  for (int i = 0; i < intSeats; ++i) {
+    MustBe(dblFileWin_[static_cast<std::size_t>(i)], dblPlayerWin[i], "win in the file of seat", i);
   }
   // A hand in view is dealt at once and booked at its end.
   const bool blnInView = blnBusy && dblFileHands_ == dblHands_ - 1;
-  return dblFileHands_ == dblHands_ || blnInView
-             ? ""
-             : "hands in the file: " + std::to_string(dblFileHands_) + ", not " +
-                   std::to_string(dblHands_);
+  MustBe(dblFileHands_, blnInView ? dblFileHands_ : dblHands_, "hands in the file");
 }
 
-std::string Watch::fncCards() {
-  if (fncShuffling() || !blnShuffled[intShoeNumber]) {
-    return "";
-  }
-  const std::vector<std::string>& rows = frmCardsDealt.lstCardsDealt.List;
+void Watch::prcLookAtCards() {
   const int last = intLastCard[0];
   const bool blnEnded = intNextCard[0] == last && blnEndOfShoe[0];
-  const std::size_t gone = static_cast<std::size_t>(blnEnded ? last + 1 : int{intNextCard[0]});
   // The round that ends a shoe lists the rest when it closes.
-  if (blnEndOfShoe[0] && blnBusy && !blnEnded) {
-    return "";
+  const bool blnClosing = blnEndOfShoe[0] && blnBusy && !blnEnded;
+  if (fncShuffling() || !blnShuffled[intShoeNumber] || blnClosing) {
+    return;
   }
-  if (rows.size() != gone) {
-    return "cards listed: " + std::to_string(rows.size()) + ", not " + std::to_string(gone);
-  }
+  const std::vector<std::string>& rows = frmCardsDealt.lstCardsDealt.List;
+  const std::size_t gone = static_cast<std::size_t>(blnEnded ? last + 1 : int{intNextCard[0]});
+  MustBe(static_cast<double>(rows.size()), static_cast<double>(gone), "cards listed");
   std::vector<bool> blnSeen(static_cast<std::size_t>(last) + 1);
-  int counted = 0;
-  for (int p = 0; p <= last; ++p) {
-    const Integer slot = intShoeCards[0][p];
-    if (blnSeen[static_cast<std::size_t>(int{slot})]) {
-      return "slot " + std::to_string(int{slot}) + " stands twice in the shoe";
-    }
-    blnSeen[static_cast<std::size_t>(int{slot})] = true;
-    if (static_cast<std::size_t>(p) < gone &&
-        !rows[static_cast<std::size_t>(p)].starts_with(fncListed(slot))) {
-      return "row " + std::to_string(p) + " lists " + rows[static_cast<std::size_t>(p)];
+  for (std::size_t p = 0; p < blnSeen.size() && strFault_.empty(); ++p) {
+    const Integer slot = intShoeCards[0][static_cast<std::int64_t>(p)];
+    auto seen = blnSeen[static_cast<std::size_t>(int{slot})];
+    Must(!seen, "a slot stands twice in the shoe");
+    seen = true;
+    if (p < gone) {
+      Must(rows[p].starts_with(fncListed(slot)), "a row lists ", rows[p]);
     }
   }
+  Long counted = 0;
   for (const CardsDealtRow& row : varCardsDealtCount) {
-    counted += static_cast<int>(row.Suit[1] + row.Suit[2] + row.Suit[3] + row.Suit[4]);
+    counted += row.Suit[1] + row.Suit[2] + row.Suit[3] + row.Suit[4];
   }
-  return counted == static_cast<int>(gone)
-             ? ""
-             : "cards counted: " + std::to_string(counted) + ", not " + std::to_string(gone);
+  MustBe(static_cast<double>(std::int64_t{counted}), static_cast<double>(gone), "cards counted");
+}
+
+void Watch::prcLookAtBoxes() {
+  for (const user::Box& box : user::Boxes()) {
+    Must(!box.Text.starts_with("Serious"), box.Text);
+  }
+  user::ForgetBoxes();
 }
 
 std::string Watch::fncLook() {
-  // Before anything else: a fault ends the program.
-  for (const user::Box& box : user::Boxes()) {
-    if (box.Text.starts_with("Serious")) {
-      return box.Text;
-    }
-  }
-  user::ForgetBoxes();
-  if (user::Ended()) {
-    return "";
+  strFault_.clear();
+  prcLookAtBoxes();  // Before anything else: a fault ends the program.
+  if (!strFault_.empty() || user::Ended()) {
+    return strFault_;
   }
   prcNoteShoe();
   prcCountHands();
-  std::string fault = fncFile();
+  prcReadFile();
+  prcLookAtFile();
   prcNoteUnit();
-  for (int i = 0; fault.empty() && i < intSeats; ++i) {
-    fault = fncForms(i);
-    if (fault.empty()) {
-      fault = fncMoney(i);
-    }
+  for (int i = 0; i < intSeats; ++i) {
+    prcLookAtBets(i);
+    prcLookAtMoney(i);
   }
-  if (fault.empty()) {
-    fault = fncClosed();
-  }
-  return fault.empty() ? fncCards() : fault;
+  prcLookAtButtons();
+  prcLookAtCards();
+  return strFault_;
 }

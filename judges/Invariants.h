@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "table/TableState.h"
 
@@ -18,8 +19,8 @@ class Watch {
   /// asked of a program that has ended.
   std::string fncLook();
 
-  /// The same for what the user chooses in menus and toolbar: it is in the file as it is in memory.
-  /// Called behind fncLook.
+  /// The same for the user's switches: entry, buttons, flag and file say the same, and so do the
+  /// decks. Looks only where something has changed.
   std::string fncLookAtSwitches();
 
   std::int64_t Hands() const { return lngHandsSeen_; }
@@ -32,15 +33,22 @@ class Watch {
     bool blnTouched = false;            ///< Such a bet stands, or has just gone.
   };
 
-  std::string fncMoney(int seat);
-  std::string fncForms(int seat);
-  std::string fncClosed() const;
-  std::string fncFile();
-  std::string fncCards();
+  /// Notes what does not hold, unless something else has been found before.
+  void Must(bool blnHolds, std::string_view what, std::string_view details = {});
+  /// The same for two numbers that should be one.
+  void MustBe(double have, double want, const char* what, int of = -1);
+  void prcLookAtBoxes();
+  void prcLookAtFile();
+  void prcLookAtBets(int seat);
+  void prcLookAtMoney(int seat);
+  void prcLookAtButtons();
+  void prcLookAtCards();
   void prcNoteShoe();
   void prcCountHands();
+  void prcReadFile();
   void prcNoteUnit();
 
+  std::string strFault_;
   std::array<Seat, intSeats> seats_{};
   std::string strContents_;  ///< Of the settings file when last read.
   std::string strChosen_;    ///< File and flags when last compared.

@@ -21,17 +21,21 @@ class AutomaticDeal : public Game {
 };
 
 TEST_F(AutomaticDeal, ShufflesAnEndedShoeOnceAndDealsAHandATick) {
+  intMarkCardShoe[4] = 0;  // Another card shows the shoe.
+  varHandUnits[0] = Integer(5);
   tmrDeal_Timer(form_);
   EXPECT_EQ(form_.tmrDeal.Interval, 1000);
   ASSERT_EQ(intHandsDealt[0], 1);
+  EXPECT_EQ(varHandUnits[0], std::nullopt) << "nobody bets on it";
+  EXPECT_EQ(intRun[4], intRun[0]);
   form_.tmrDeal.Enabled = true;  // Its ticks come faster than the pause before the shuffle ends.
   blnEndOfShoe[0] = true;
   headless::Wait(3500);
   EXPECT_TRUE(blnShuffled[0]);
   EXPECT_EQ(intHandsDealt[0], 1);
-  EXPECT_EQ(varHandUnits[0], std::nullopt);
   headless::Wait(2000);
   EXPECT_EQ(form_.shpTBP.size(), 3U);
+  EXPECT_FALSE(blnShuffled[4]) << "a card that shows another's shoe has none of its own to deal";
 }
 
 TEST_F(AutomaticDeal, DealsNothingForAnotherShoeOrWhenOffOrClosedInThePause) {
@@ -40,21 +44,11 @@ TEST_F(AutomaticDeal, DealsNothingForAnotherShoeOrWhenOffOrClosedInThePause) {
   blnAutoDeal = true;
   intMarkCardShoe[0] = 2;
   tmrDeal_Timer(form_);
-  EXPECT_EQ(intHandsDealt[0], 0);
   EXPECT_FALSE(blnShuffled[0]);
   intMarkCardShoe[0] = 0;
   headless::After(500, [] { fncUnload(MarkCards[0].Form); });
   tmrDeal_Timer(form_);
   EXPECT_EQ(intHandsDealt[0], 0);
-}
-
-TEST_F(AutomaticDeal, MarksEveryCardThatShowsTheShoe) {
-  intMarkCardShoe[4] = 0;
-  varHandUnits[0] = Integer(5);
-  tmrDeal_Timer(form_);
-  EXPECT_EQ(intRun[4], intRun[0]);
-  EXPECT_EQ(varHandUnits[0], std::nullopt) << "nobody bets on it";
-  EXPECT_FALSE(blnShuffled[4]) << "a card that shows another's shoe has none of its own to deal";
 }
 
 TEST_F(AutomaticDeal, ACardOfAnotherShoeReadsThatShoesHandAndItsOwnUnits) {
@@ -77,17 +71,14 @@ TEST_F(AutomaticDeal, ACardOfAnotherShoeReadsThatShoesHandAndItsOwnUnits) {
 
 TEST_F(AutomaticDeal, ACardOutsideIsToldUnderTheNameOfItsProcedure) {
   const std::pair<const char*, void (*)()> rows[] = {
-      {"30 NewCardViewForm", [] { NewCardViewForm(0, 9); }},
-      {"10 ClearCardView", [] { ClearCardView(-1); }},
-      {"10 SetCardView", [] { SetCardView(9); }},
-      {"10 prcMarkCardResize", [] { prcMarkCardResize(9); }}};
+      {"30 Error - 9-Subscript out of range\r\n'NewCardViewForm'", [] { NewCardViewForm(0, 9); }},
+      {"10 Error - 9-Subscript out of range\r\n'ClearCardView'", [] { ClearCardView(-1); }},
+      {"10 Error - 9-Subscript out of range\r\n'SetCardView'", [] { SetCardView(9); }}};
   for (const auto& [told, call] : rows) {
     prcFreshGame(Folder());
     prcDispatch(call);
-    const std::string line(told, 2), label(told + 3);
-    std::string box("Serious Error Occurred - Line ");
-    box.append(line).append(" Error - 9-Subscript out of range\r\n'").append(label);
-    EXPECT_EQ(LastBox(), box + "'\r\nPLEASE RECORD ERROR MESSAGE");
+    EXPECT_EQ(LastBox(), std::string("Serious Error Occurred - Line ") + told +
+                             "\r\nPLEASE RECORD ERROR MESSAGE");
   }
 }
 

@@ -41,7 +41,7 @@ std::string fncRest(Words& words) {
 }
 
 /// A number, or what is switched on or off.
-int fncNumber(Words& words) {
+int fncSaid(Words& words) {
   const auto word = fncNext<std::string>(words);
   return word == "on" ? 1 : word == "off" ? 0 : std::stoi(word);
 }
@@ -264,48 +264,18 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     }
   }
 
-  /// What is switched on among the menu entries, buttons of the toolbar in use and flags whose
-  /// names begin so.
+  /// What is switched on among the frame's controls whose names begin so, of the toolbar in use.
   void On(const std::string& prefix) {
     std::string on = "on:";
     for (const Control* control : MDIForm1.Form.Controls) {
-      const bool blnButton = control->Kind == ControlKind::ToolButton;
       const std::string name = control->Name;
-      if (control->Value == 1 && (!blnButton || control->Container == tlbrRef) &&
-          name.starts_with(prefix)) {
-        on += (blnButton ? " [" : " ") + name +
-              (control->Index < 0 ? "" : std::to_string(int{control->Index})) +
-              (blnButton ? "]" : "");
+      const bool blnInUse =
+          control->Kind != ControlKind::ToolButton || control->Container == tlbrRef;
+      if (control->Value == 1 && blnInUse && name.starts_with(prefix)) {
+        on += " " + name + (control->Index < 0 ? "" : std::to_string(int{control->Index}));
       }
-    }
-    for (const auto& [name, flag] : flags) {
-      on += *flag && name.starts_with(prefix) ? " " + name : "";
     }
     prcAdd(Told(), on);
-  }
-
-  /// Turns a switch by its menu entry, then by its button, twice, and tells its state after each;
-  /// or its four faces, where they disagree.
-  void Switch(Words& words) {
-    const auto menu = fncNext<std::string>(words), button = fncNext<std::string>(words);
-    const auto flag = flags.find(fncNext<std::string>(words));  // One has none.
-    const std::string path = fncRest(words);
-    const std::size_t dot = path.find('.');
-    const auto blnOn = [](const std::string& name) {
-      return user::Seen(fncNamed(name)).Value == 1;
-    };
-    for (const std::string& face : {menu, button, button}) {
-      user::Click(fncNamed(face));
-      Tell("");
-      const std::array<bool, 4> faces{blnOn(menu), blnOn(button),
-                                      flag == flags.end() ? blnOn(menu) : *flag->second,
-                                      Stored(path.substr(0, dot), path.substr(dot + 1)) == "True"};
-      std::string state;
-      for (const bool blnFace : faces) {
-        state += blnFace == faces[0] && !state.empty() ? "" : blnFace ? "on" : "off";
-      }
-      prcAdd(Told(), state);
-    }
   }
 
   /// Lays six cards as 'f' face in view, 'b' under a back and ready for the user, 'B' so too with
@@ -341,9 +311,9 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
   static void Put(Words& words) {
     const auto name = fncNext<std::string>(words);
     if (flags.contains(name)) {
-      *flags.at(name) = fncNumber(words) != 0;
+      *flags.at(name) = fncSaid(words) != 0;
     } else {
-      *numbers.at(name) = fncNumber(words);
+      *numbers.at(name) = fncSaid(words);
     }
   }
 
@@ -352,16 +322,16 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     const auto name = fncNext<std::string>(words), property = fncNext<std::string>(words);
     if (name == MarkCards[0].Form.Name) {
       Window& form = MarkCards[0].Form;
-      property == "Top" ? void(form.Top = fncNumber(words)) : void(form.Visible = false);
+      property == "Top" ? void(form.Top = fncSaid(words)) : void(form.Visible = false);
       return;
     }
     Control& control = fncNamed(name);
     if (property == "Text") {
       control.Text = fncRest(words);
     } else if (property == "Left") {
-      control.Left = fncNumber(words);
+      control.Left = fncSaid(words);
     } else {
-      prcSetValue(control, fncNumber(words));
+      prcSetValue(control, fncSaid(words));
     }
   }
 
@@ -381,8 +351,8 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
          transcript_.WhatIsNew();
        }},
       {"boot", [this](Words&) { Begin(); }},
-      {"on", [this](Words& w) { On(fncNext<std::string>(w)); }},
-      {"switch", [this](Words& w) { Switch(w); }},
+      {"on", [this](Words& w) { On(fncNext<std::string>(w, "mnu")); }},
+      {"faces", [this](Words&) { prcAdd(Told(), books_.fncLookAtSwitches()); }},
       {"tells", [this](Words& w) { transcript_.Tells(fncRest(w)); }},
       {"start",
        [this](Words&) {
@@ -460,7 +430,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
        }},
       {"books",
        [this](Words& w) {
-         blnBooks_ = fncNumber(w) != 0;
+         blnBooks_ = fncSaid(w) != 0;
          books_.prcStart();
        }},
       {"put", Put},
