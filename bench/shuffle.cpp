@@ -14,7 +14,7 @@ namespace {
 /// on: in fewer the two end slots weigh too much.
 bool fncHolds(const ShuffleStatistics& s) {
   const auto likely = [](const ChiSquare& sum) { return std::abs(sum.fncDeviation()) < dblChance; };
-  return s.BrokenShoes == 0 && likely(s.FirstSlot) && likely(s.Burnt) && likely(s.MirroredValues) &&
+  return s.BrokenShoes == 0 && likely(s.FirstSlot) && likely(s.MirroredValues) &&
          likely(s.MirroredSteps) && (s.Decks < 4 || likely(s.ValueByPosition));
 }
 
@@ -30,7 +30,6 @@ void prcPrint(const ShuffleStatistics& s) {
     const ChiSquare& Sum;
   } sums[] = {{"first slot, ends at half", s.FirstSlot},
               {"values 2 to 12 by position", s.ValueByPosition},
-              {"cards burnt", s.Burnt},
               {"values and their mirror images", s.MirroredValues},
               {"steps and their mirror images", s.MirroredSteps}};
   for (const auto& [name, sum] : sums) {

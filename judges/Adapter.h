@@ -83,13 +83,4 @@ void After(std::uint32_t milliseconds, std::function<void()> handler);
 
 bool Ended();
 
-/// The screen's size in twips.
-void Screen(double width, double height);
-
-/// How a step of a replay begins that comes out otherwise on this platform, and why.
-struct Difference {
-  const char *Replay, *Step, *Reason;
-};
-const std::vector<Difference>& Differences();
-
 }  // namespace user

@@ -131,12 +131,8 @@ std::vector<UserEvent> fncShorten(const std::string& folder, std::uint64_t seed,
 }
 
 std::string fncFastFolder() {
-  const std::filesystem::path memory("/dev/shm");
-  std::error_code failed;
-  const bool blnMemory = std::filesystem::is_directory(memory, failed);
-  std::string name =
-      ((blnMemory ? memory : std::filesystem::temp_directory_path()) / "velmora-user-XXXXXX")
-          .string();
+  std::string name = std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp";
+  name += "/velmora-user-XXXXXX";
   if (mkdtemp(name.data()) == nullptr) {
     throw std::runtime_error("no folder for a settings file");
   }

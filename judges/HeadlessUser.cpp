@@ -76,11 +76,5 @@ void After(std::uint32_t milliseconds, std::function<void()> handler) {
   headless::After(milliseconds, std::move(handler));
 }
 bool Ended() { return headless::Ended(); }
-void Screen(double width, double height) { headless::Screen(width, height); }
-
-const std::vector<Difference>& Differences() {
-  static const std::vector<Difference> none;
-  return none;
-}
 
 }  // namespace user

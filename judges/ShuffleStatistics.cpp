@@ -1,6 +1,5 @@
 #include "judges/ShuffleStatistics.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "platform/headless/Headless.h"
@@ -10,13 +9,11 @@ namespace {
 
 constexpr int intSpareShoe = 1;  // The table plays shoe 0: what lies in this one is listed nowhere.
 constexpr int intValues = 13;
-constexpr std::size_t intLeastBurnt = 2, intMostBurnt = 11;
 
 struct Counts {
   explicit Counts(std::size_t slots) : First(slots), ValueAt(slots) {}
   std::vector<std::int64_t> First;                           // By slot.
   std::vector<std::array<std::int64_t, intValues>> ValueAt;  // By position.
-  std::array<std::int64_t, intMostBurnt + 1> Burnt{};
 };
 
 std::size_t fncSlot(std::size_t position) {
@@ -41,7 +38,6 @@ void prcCountShoe(Counts& counts, ShuffleStatistics& statistics) {
     before = value;
   }
   ++counts.First[fncSlot(0)];
-  ++counts.Burnt[static_cast<std::size_t>(int{intNextCard[intSpareShoe]})];
   statistics.BrokenShoes += blnBroken ? 1 : 0;
   statistics.Positions += static_cast<std::int64_t>(slots);
 }
@@ -55,17 +51,11 @@ double fncFirstChance(std::size_t slot, std::size_t slots) {
 void prcJudgeFirst(const Counts& counts, ShuffleStatistics& statistics) {
   const std::size_t slots = counts.First.size();
   const auto shoes = static_cast<double>(statistics.Shoes);
-  std::array<double, intMostBurnt + 1> burntChance{};
   for (std::size_t slot = 0; slot < slots; ++slot) {
-    const double chance = fncFirstChance(slot, slots);
-    statistics.FirstSlot.prcAdd(static_cast<double>(counts.First[slot]), chance * shoes);
-    burntChance[std::min(slot % intValues + intLeastBurnt, intMostBurnt)] += chance;
+    statistics.FirstSlot.prcAdd(static_cast<double>(counts.First[slot]),
+                                fncFirstChance(slot, slots) * shoes);
   }
   --statistics.FirstSlot.Degrees;
-  for (std::size_t burnt = intLeastBurnt; burnt <= intMostBurnt; ++burnt) {
-    statistics.Burnt.prcAdd(static_cast<double>(counts.Burnt[burnt]), burntChance[burnt] * shoes);
-  }
-  --statistics.Burnt.Degrees;
   statistics.LowEndFirst = counts.First.front();
   statistics.HighEndFirst = counts.First.back();
   statistics.InnerFirst =

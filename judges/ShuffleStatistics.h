@@ -33,8 +33,6 @@ struct ShuffleStatistics {
   /// Face values 2 to 12 at each position, each as often as the others. An Ace lies in slot 0 and a
   /// King in the last one: those two do not quite keep to it.
   ChiSquare ValueByPosition;
-  /// Cards burnt, 2 to 11, by the first card's exact chances.
-  ChiSquare Burnt;
   /// Steps from a card's face value to the next card's, 0 to 12, up and round.
   std::array<std::int64_t, 13> Steps{};
   /// Up and down are alike to the method: an Ace comes at each position as often as a King, a 2 as

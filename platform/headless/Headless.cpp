@@ -320,11 +320,6 @@ void SaveAs(std::string path) { state.SavePaths.push_back(std::move(path)); }
 std::vector<std::string>& Copied() { return state.Copied; }
 std::vector<std::string>& Printed() { return state.Printed; }
 
-void Screen(double width, double height) {
-  state.ScreenWidth = width;
-  state.ScreenHeight = height;
-}
-
 void PlaceWindows() {
   // A resize handler may load a window.
   const std::vector<Window*> loaded(fncWindows().begin(), fncWindows().end());

@@ -68,9 +68,6 @@ void SaveAs(std::string path);
 std::vector<std::string>& Copied();
 std::vector<std::string>& Printed();
 
-/// The screen's size in twips.
-void Screen(double width, double height);
-
 /// Gives windows that are up what a screen gives them: a place in the middle where they have none
 /// of their own, and the inner size; the resize handler runs where that has changed.
 void PlaceWindows();

@@ -501,6 +501,5 @@ void After(std::uint32_t milliseconds, std::function<void()> handler) {
 }
 bool Ended() { return qt::fncEnded(); }
 bool PaintedAtOnce() { return hand.blnPainted; }
-void Screen(double /*width*/, double /*height*/) {}
 
 }  // namespace user
