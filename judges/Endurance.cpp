@@ -36,9 +36,7 @@ struct Evening {
 
 void prcLook(Evening& evening, std::size_t at) {
   std::string fault = evening.Watching.fncLook();
-  if (fault.empty()) {
-    fault = evening.Watching.fncLookAtSwitches();
-  }
+  fault = fault.empty() ? evening.Watching.fncLookAtSwitches() : fault;
   if (!fault.empty() && evening.Result.Fault.empty()) {
     evening.Result.Fault = fault;
     evening.Result.Event = at;
@@ -112,20 +110,12 @@ EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
 
 std::vector<UserEvent> fncShorten(const std::string& folder, std::uint64_t seed,
                                   std::vector<UserEvent> events, const AfterEvent& after) {
-  for (std::size_t piece = std::max<std::size_t>(events.size() / 2, 1); piece > 0;) {
-    bool blnShorter = false;
-    for (std::size_t from = 0; from < events.size();) {
-      const std::size_t to = std::min(from + piece, events.size());
-      std::vector<UserEvent> fewer(events.begin(), events.begin() + static_cast<long>(from));
-      fewer.insert(fewer.end(), events.begin() + static_cast<long>(to), events.end());
-      if (fncPlay(folder, seed, fewer, after).Fault.empty()) {
-        from = to;
-      } else {
-        events = std::move(fewer);
-        blnShorter = true;
-      }
+  for (std::size_t at = events.size(); at-- > 0;) {
+    std::vector<UserEvent> fewer = events;
+    fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(at));
+    if (!fncPlay(folder, seed, fewer, after).Fault.empty()) {
+      events = std::move(fewer);
     }
-    piece = piece == 1 && blnShorter ? 1 : piece / 2;
   }
   return events;
 }

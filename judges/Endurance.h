@@ -23,7 +23,7 @@ using AfterEvent = std::function<void(const UserEvent&)>;
 EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
                         const std::vector<UserEvent>& events, const AfterEvent& after = {});
 
-/// The shortest list found that still ends in a fault, by leaving out ever smaller pieces.
+/// The shortest list found that still ends in a fault, by leaving out what it does without.
 std::vector<UserEvent> fncShorten(const std::string& folder, std::uint64_t seed,
                                   std::vector<UserEvent> events, const AfterEvent& after = {});
 

@@ -38,13 +38,6 @@ std::string fncIndexed(const std::string& name, int index) {
   return index < 0 ? name : name + "(" + std::to_string(index) + ")";
 }
 
-/// A seat's money as its label shows it, and as the books keep it where that says more.
-std::string fncMoney(const std::string& caption, double kept) {
-  std::string digits = caption;
-  std::erase_if(digits, [](char sign) { return sign == '$' || sign == ','; });
-  return caption + (digits == fncNumber(kept) ? "" : " = " + fncNumber(kept));
-}
-
 /// A tool button stands on both toolbars, each with a state of its own.
 std::string fncFullName(const Control& control) {
   return (control.Kind == ControlKind::ToolButton ? control.Container->Name + std::string(".")
@@ -306,28 +299,22 @@ void Transcript::prcTellFile() {
 void Transcript::prcTellMoney() {
   for (int i = 0; i < intSeats && blnTableLoaded; ++i) {
     const std::string seat = std::to_string(i + 1);
-    prcTell("money", "seat " + seat,
-            fncMoney(user::Seen(BaccTable.lblPlayerTotal[i]).Text, dblPlayerTotal[i]));
+    prcTell("money", "seat " + seat, user::Seen(BaccTable.lblPlayerTotal[i]).Text);
     std::string bets;
     for (const BetSide side : {betTie, betBanker, betPlayer}) {
-      const BetControls bet = fncBet(side, i);
-      const std::string chips = user::Seen(bet.Box).Text;
-      const Control value = user::Seen(bet.Value);
-      const bool blnUsual =
-          value.Visible ? chips != "0" && value.Text == fncCurrency(fncVal(chips) * fncUnitValue())
-                        : chips == "0";
-      bets += (bets.empty() ? "" : "/") + chips +
-              (blnUsual ? "" : "(" + (value.Visible ? value.Text : "") + ")");
+      const Control box = user::Seen(fncBet(side, i).Box),
+                    value = user::Seen(fncBet(side, i).Value);
+      const bool blnBet = box.Text != "0";
+      const std::string worth = fncCurrency(fncVal(box.Text) * fncUnitValue());
+      const bool blnUsual = value.Visible == blnBet && (!blnBet || value.Text == worth);
+      bets += (bets.empty() ? "" : "/") + box.Text;
+      bets += blnUsual ? "" : "(" + (value.Visible ? value.Text : "") + ")";
     }
     prcTell("money", "bets " + seat, bets);
-    const std::string won = fncNumber(dblPlayerWin[i]);
-    const std::string file = file_["[Player" + seat + "Stats]Win"];
-    const std::string turnover = file_["[Player" + seat + "Stats]Turnover"];
-    if (!file.empty() || !turnover.empty() || dblPlayerWin[i] != 0) {
+    if (const std::string turnover = file_["[Player" + seat + "Stats]Turnover"];
+        !turnover.empty()) {
       prcTell("money", "won " + seat,
-              fncMoney(user::Seen(BaccTable.lblPlayerWinnings[i]).Text, dblPlayerWin[i]) +
-                  (file == (won.starts_with('-') ? won : " " + won) ? "" : " (file" + file + ")") +
-                  " of" + turnover);
+              user::Seen(BaccTable.lblPlayerWinnings[i]).Text + " of" + turnover);
     }
   }
 }
