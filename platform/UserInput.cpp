@@ -6,10 +6,17 @@
 #include <optional>
 
 #include "platform/Chart.h"
+#include "platform/Crossing.h"
 #include "platform/Picking.h"
 #include "platform/Procedure.h"
 
 namespace {
+
+void prcTellWindow(Window& window, const Mouse& mouse) {
+  if (window.On->MouseMove != nullptr) {
+    window.On->MouseMove(window, mouse);
+  }
+}
 
 void prcReleaseFellows(Control& control) {
   if (control.Kind == ControlKind::ToolButton) {
@@ -151,6 +158,7 @@ bool fncUserReach(Control& control) {
 }
 
 bool fncUserPress(Control& control, const Mouse& mouse) {
+  prcNotePointer(control, mouse);
   if (!fncUserReach(control)) {
     return false;
   }
@@ -165,11 +173,22 @@ void prcUserMove(Control& control, const Mouse& mouse) {
     prcUserPick(control, fncChartPointAt(control, double{mouse.X}));
   }
   if (control.On->MouseMove != nullptr) {
+    const bool blnCrosses = fncCrossesGround(control, mouse);
+    prcNotePointer(control, mouse);
+    if (blnCrosses) {
+      prcTellWindow(*control.Form, mouse);
+    }
     control.On->MouseMove(control, mouse);
   }
 }
 
+void prcUserMove(Window& window, const Mouse& mouse) {
+  prcNoteGround();
+  prcTellWindow(window, mouse);
+}
+
 void prcUserRelease(Control& control, const Mouse& mouse, bool blnInside) {
+  prcNotePointer(control, mouse);
   if (control.On->MouseUp != nullptr) {
     control.On->MouseUp(control, mouse);
   }

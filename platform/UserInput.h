@@ -27,8 +27,11 @@ bool fncUserReach(Control& control);
 /// may follow.
 bool fncUserPress(Control& control, const Mouse& mouse);
 
-/// The pointer moves over a control, or anywhere while a press on it is held.
+/// The pointer moves over a control, or anywhere while a press on it is held. Its window is told
+/// first if it has come to the control across bare ground.
 void prcUserMove(Control& control, const Mouse& mouse);
+/// The pointer moves over a window's bare ground.
+void prcUserMove(Window& window, const Mouse& mouse);
 
 /// The button of a press comes up; blnInside says that it does over the control, which makes it a
 /// click: a check box or check button turns over, an option or group button goes down and its

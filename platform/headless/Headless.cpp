@@ -374,11 +374,7 @@ void Pick(Control& grid, int row) {
 }
 
 void Hover(Window& window) {
-  prcDispatch([&] {
-    if (window.On->MouseMove != nullptr) {
-      window.On->MouseMove(window, {});
-    }
-  });
+  prcDispatch([&] { prcUserMove(window, {}); });
 }
 
 bool Type(Control& box, const std::string& text) {

@@ -272,7 +272,7 @@ bool InputRouter::fncHovered(QWidget& widget, const QMouseEvent& event) {
   }
   if (window->On->MouseMove != nullptr) {
     const Mouse mouse = fncMouse(*home->Ground, event.globalPosition(), 0);
-    prcServe([&] { window->On->MouseMove(*window, mouse); });
+    prcServe([&] { prcUserMove(*window, mouse); });
   }
   return true;
 }
