@@ -19,11 +19,10 @@ bool fncHolds(const ShuffleStatistics& s) {
 }
 
 void prcPrint(const ShuffleStatistics& s) {
-  std::printf("%d deck(s): %" PRId64 " shoes, %" PRId64 " positions, %" PRId64
+  std::printf("%d deck(s): %" PRId64 " shoes, %.0f positions, %" PRId64
               " shoes with a slot missing\n",
               s.Decks, s.Shoes, s.Positions, s.BrokenShoes);
-  std::printf("  first slot out: low end %" PRId64 ", high end %" PRId64
-              ", mean of the others %.1f\n",
+  std::printf("  first slot out: low end %.0f, high end %.0f, mean of the others %.1f\n",
               s.LowEndFirst, s.HighEndFirst, s.InnerFirst);
   const struct {
     const char* Name;
@@ -38,9 +37,8 @@ void prcPrint(const ShuffleStatistics& s) {
   }
   std::printf("  steps from value to value, counted over expected:");
   for (int step = 0; step < 13; ++step) {
-    std::printf(
-        " %d: %.4f", step,
-        static_cast<double>(s.Steps[static_cast<std::size_t>(step)]) / fncStepExpected(s, step));
+    std::printf(" %d: %.4f", step,
+                s.Steps[static_cast<std::size_t>(step)] / fncStepExpected(s, step));
   }
   std::printf("\n");
 }

@@ -1,6 +1,9 @@
 #include "judges/ShuffleStatistics.h"
 
+#include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <vector>
 
 #include "platform/headless/Headless.h"
 #include "table/Shoe.h"
@@ -8,92 +11,62 @@
 namespace {
 
 constexpr int intSpareShoe = 1;  // The table plays shoe 0: what lies in this one is listed nowhere.
-constexpr int intValues = 13;
+constexpr std::size_t intValues = 13;
+
+using Values = std::array<double, intValues>;
 
 struct Counts {
-  explicit Counts(std::size_t slots) : First(slots), ValueAt(slots) {}
-  std::vector<std::int64_t> First;                           // By slot.
-  std::vector<std::array<std::int64_t, intValues>> ValueAt;  // By position.
+  std::vector<double> First;    // By slot.
+  std::vector<Values> ValueAt;  // By position.
 };
 
-std::size_t fncSlot(std::size_t position) {
-  return static_cast<std::size_t>(
-      int{intShoeCards[intSpareShoe][static_cast<std::int64_t>(position)]});
-}
-
 void prcCountShoe(Counts& counts, ShuffleStatistics& statistics) {
-  const std::size_t slots = counts.First.size();
-  std::vector<bool> blnSeen(slots);
-  bool blnBroken = false;
+  std::vector<bool> blnSeen(counts.First.size());
   std::size_t before = 0;
-  for (std::size_t p = 0; p < slots; ++p) {
-    const std::size_t slot = fncSlot(p);
-    blnBroken = blnBroken || blnSeen[slot];
-    blnSeen[slot] = true;
+  for (std::size_t p = 0; p < blnSeen.size(); ++p) {
+    const int drawn = intShoeCards[intSpareShoe][static_cast<std::int64_t>(p)];
+    const auto slot = static_cast<std::size_t>(drawn);
     const std::size_t value = slot % intValues;
-    ++counts.ValueAt[p][value];
-    if (p > 0) {
-      ++statistics.Steps[(value + intValues - before) % intValues];
-    }
+    blnSeen[slot] = true;
+    counts.ValueAt[p][value] += 1;
+    counts.First[slot] += p == 0 ? 1 : 0;
+    statistics.Steps[(value + intValues - before) % intValues] += p == 0 ? 0 : 1;
     before = value;
   }
-  ++counts.First[fncSlot(0)];
-  statistics.BrokenShoes += blnBroken ? 1 : 0;
-  statistics.Positions += static_cast<std::int64_t>(slots);
+  const bool blnWhole = std::ranges::find(blnSeen, false) == blnSeen.end();
+  statistics.BrokenShoes += blnWhole ? 0 : 1;
 }
 
-/// The chance that a slot comes out first: half a step of the random value is left for either end.
-double fncFirstChance(std::size_t slot, std::size_t slots) {
-  const bool blnEnd = slot == 0 || slot == slots - 1;
-  return (blnEnd ? 0.5 : 1.0) / static_cast<double>(slots - 1);
-}
-
-void prcJudgeFirst(const Counts& counts, ShuffleStatistics& statistics) {
-  const std::size_t slots = counts.First.size();
-  const auto shoes = static_cast<double>(statistics.Shoes);
-  for (std::size_t slot = 0; slot < slots; ++slot) {
-    statistics.FirstSlot.prcAdd(static_cast<double>(counts.First[slot]),
-                                fncFirstChance(slot, slots) * shoes);
+/// The two end slots come half as often: half a step of the random value is left for either.
+void prcJudgeFirst(const std::vector<double>& first, ShuffleStatistics& statistics) {
+  const double inner =
+      static_cast<double>(statistics.Shoes) / static_cast<double>(first.size() - 1);
+  for (std::size_t slot = 0; slot < first.size(); ++slot) {
+    const bool blnEnd = slot == 0 || slot == first.size() - 1;
+    statistics.FirstSlot.prcAdd(first[slot], blnEnd ? inner / 2 : inner);
   }
   --statistics.FirstSlot.Degrees;
-  statistics.LowEndFirst = counts.First.front();
-  statistics.HighEndFirst = counts.First.back();
-  statistics.InnerFirst =
-      static_cast<double>(statistics.Shoes - counts.First.front() - counts.First.back()) /
-      static_cast<double>(slots - 2);
-}
-
-void prcJudgeValues(const Counts& counts, ShuffleStatistics& statistics) {
-  for (const auto& values : counts.ValueAt) {
-    double inner = 0;
-    for (std::size_t value = 1; value < intValues - 1; ++value) {
-      inner += static_cast<double>(values[value]);
-    }
-    for (std::size_t value = 1; value < intValues - 1; ++value) {
-      statistics.ValueByPosition.prcAdd(static_cast<double>(values[value]),
-                                        inner / (intValues - 2));
-    }
-    --statistics.ValueByPosition.Degrees;
-  }
+  statistics.LowEndFirst = first.front();
+  statistics.HighEndFirst = first.back();
+  statistics.InnerFirst = std::accumulate(first.begin() + 1, first.end() - 1, 0.0) /
+                          static_cast<double>(first.size() - 2);
 }
 
 /// Two counts that should be alike: one degree.
-void prcAddPair(ChiSquare& sum, std::int64_t one, std::int64_t other) {
-  const double mean = static_cast<double>(one + other) / 2;
-  sum.prcAdd(static_cast<double>(one), mean);
-  sum.prcAdd(static_cast<double>(other), mean);
+void prcAddPair(ChiSquare& sum, double one, double other) {
+  sum.prcAdd(one, (one + other) / 2);
+  sum.prcAdd(other, (one + other) / 2);
   --sum.Degrees;
 }
 
-void prcJudgeMirrors(const Counts& counts, ShuffleStatistics& statistics) {
-  for (const auto& values : counts.ValueAt) {
-    for (std::size_t value = 0; value < intValues / 2; ++value) {
-      prcAddPair(statistics.MirroredValues, values[value], values[intValues - 1 - value]);
-    }
+void prcJudgeValues(const Values& values, ShuffleStatistics& statistics) {
+  const double inner = std::accumulate(values.begin() + 1, values.end() - 1, 0.0);
+  for (std::size_t value = 1; value < intValues - 1; ++value) {
+    statistics.ValueByPosition.prcAdd(values[value], inner / (intValues - 2));
   }
-  for (std::size_t step = 1; step <= intValues / 2; ++step) {
-    prcAddPair(statistics.MirroredSteps, statistics.Steps[step],
-               statistics.Steps[intValues - step]);
+  --statistics.ValueByPosition.Degrees;
+  for (std::size_t value = 0; value < intValues / 2; ++value) {
+    prcAddPair(statistics.MirroredValues, values[value], values[intValues - 1 - value]);
   }
 }
 
@@ -114,23 +87,30 @@ ShuffleStatistics fncShuffleStatistics(int decks, std::int64_t shoes, std::uint6
   headless::Reset({});
   headless::Seed(firstSeed);
   prcResetTableState();
+  intDecks[intSpareShoe] = decks;
+  const auto slots = static_cast<std::size_t>(decks * intSlotsOfDeck);
   ShuffleStatistics statistics;
   statistics.Decks = decks;
   statistics.Shoes = shoes;
-  intDecks[intSpareShoe] = decks;
-  Counts counts(static_cast<std::size_t>(decks * intSlotsOfDeck));
+  Counts counts{std::vector<double>(slots), std::vector<Values>(slots)};
   for (std::int64_t shoe = 0; shoe < shoes; ++shoe) {
     Shuffle(intSpareShoe);
     prcCountShoe(counts, statistics);
+    statistics.Positions += static_cast<double>(slots);
   }
-  prcJudgeFirst(counts, statistics);
-  prcJudgeValues(counts, statistics);
-  prcJudgeMirrors(counts, statistics);
+  prcJudgeFirst(counts.First, statistics);
+  for (const Values& values : counts.ValueAt) {
+    prcJudgeValues(values, statistics);
+  }
+  for (std::size_t step = 1; step <= intValues / 2; ++step) {
+    prcAddPair(statistics.MirroredSteps, statistics.Steps[step],
+               statistics.Steps[intValues - step]);
+  }
   return statistics;
 }
 
 double fncStepExpected(const ShuffleStatistics& statistics, int step) {
   const double cards = statistics.Decks * double{intSlotsOfDeck};
   const double alike = cards / intValues - (step == 0 ? 1 : 0);
-  return static_cast<double>(statistics.Positions - statistics.Shoes) * alike / (cards - 1);
+  return (statistics.Positions - static_cast<double>(statistics.Shoes)) * alike / (cards - 1);
 }

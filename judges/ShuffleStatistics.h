@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 #include "table/TableState.h"
 
@@ -21,20 +20,21 @@ struct ChiSquare {
   double fncDeviation() const;
 };
 
+/// All counts are whole numbers, held as doubles for the sums.
 struct ShuffleStatistics {
   int Decks = 0;
   std::int64_t Shoes = 0;
-  std::int64_t Positions = 0;
   std::int64_t BrokenShoes = 0;  ///< In which a slot was missing or stood twice.
+  double Positions = 0;
   /// The first slot out, the two end slots expected half as often as the others.
   ChiSquare FirstSlot;
-  std::int64_t LowEndFirst = 0, HighEndFirst = 0;
+  double LowEndFirst = 0, HighEndFirst = 0;
   double InnerFirst = 0;  ///< The mean of all other slots.
   /// Face values 2 to 12 at each position, each as often as the others. An Ace lies in slot 0 and a
   /// King in the last one: those two do not quite keep to it.
   ChiSquare ValueByPosition;
   /// Steps from a card's face value to the next card's, 0 to 12, up and round.
-  std::array<std::int64_t, 13> Steps{};
+  std::array<double, 13> Steps{};
   /// Up and down are alike to the method: an Ace comes at each position as often as a King, a 2 as
   /// a Queen, and so on, and a step as often as the same step down.
   ChiSquare MirroredValues, MirroredSteps;
