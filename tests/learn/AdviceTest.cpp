@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <map>
 #include <set>
+#include <sstream>
 #include <utility>
 
 #include "learn/Advice.h"
@@ -30,22 +32,19 @@ std::string fncAdviceOn(const std::string& looks, int Index, int v, int t) {
 using Promises = std::map<std::string, std::set<int>>;
 
 /// Reads "8, 9 to WIN|10, Picture to TIE".
-Promises fncPromised(const std::string& text) {
+Promises fncPromised(std::string text) {
+  static const std::set<std::string> fillers{"to", "is", "for", "Picture"};
+  std::ranges::replace_if(
+      text, [](char sign) { return std::isalnum(sign) == 0; }, ' ');
+  std::istringstream words(text);
   Promises promises;
   std::set<int> cards;
-  for (std::size_t at = 0; at < text.size();) {
-    std::size_t end = at;
-    while (end < text.size() && std::isalnum(text[end]) != 0) {
-      ++end;
-    }
-    const std::string word = text.substr(at, end - at);
-    const bool blnFiller = word == "to" || word == "is" || word == "for" || word == "Picture";
-    if (!word.empty() && std::isdigit(word[0]) != 0) {
+  for (std::string word; words >> word;) {
+    if (std::isdigit(word[0]) != 0) {
       cards.insert(std::stoi(word) % 10);
-    } else if (!word.empty() && !blnFiller && !cards.empty()) {
+    } else if (!fillers.contains(word) && !cards.empty()) {
       promises[word] = std::exchange(cards, {});
     }
-    at = end + 1;
   }
   return promises;
 }
