@@ -69,15 +69,13 @@ Window& fncWindowNamed(const std::string& name) {
 }
 
 Control& fncNamed(const std::string& name) {
-  const std::size_t dot = name.find('.');
-  const std::string form = dot == std::string::npos ? "" : name.substr(0, dot);
-  const std::string own = dot == std::string::npos ? name : name.substr(dot + 1);
   Control* found = nullptr;
   for (const Window* window : fncWindows()) {
     for (Control* control : window->Controls) {
-      const bool blnHere = (form.empty() || window->Name == form) &&
-                           fncIndexed(control->Name, control->Index) == own;
-      if ((blnHere || fncFullName(*control) == name) && (found == nullptr || fncSeen(*control))) {
+      const std::string own = fncIndexed(control->Name, control->Index);
+      const bool blnMeant =
+          name == own || name == window->Name + ("." + own) || name == fncFullName(*control);
+      if (blnMeant && (found == nullptr || fncSeen(*control))) {
         found = control;
       }
     }
