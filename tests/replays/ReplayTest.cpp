@@ -57,10 +57,7 @@ const std::map<std::string, bool*> flags{{"faceup", &blnCardFaceUp},
                                          {"last", &blnLastHand[0]},
                                          {"ended", &blnEndOfShoe[0]},
                                          {"natural-p", &blnPlayerNatural[0]},
-                                         {"auto", &blnAutoDeal},
                                          {"blue", &blnShoePlayerBlue[0]},
-                                         {"next-blue", &blnPlayerBlue},
-                                         {"count", &blnShowCardsDealtCount},
                                          {"shuffled", &blnShuffled[0]},
                                          {"clickable", &blnCardClickable[0]},
                                          {"placed", &BaccTable.blnCardsPlaced}};
@@ -317,21 +314,19 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     }
   }
 
-  /// A property of the marking card's window or of a control, put where no user puts it.
+  /// A property of a window or control, put where no user puts it.
   static void Make(Words& words) {
     const auto name = fncNext<std::string>(words), property = fncNext<std::string>(words);
-    if (name == MarkCards[0].Form.Name) {
-      Window& form = MarkCards[0].Form;
-      property == "Top" ? void(form.Top = fncSaid(words)) : void(form.Visible = false);
-      return;
-    }
-    Control& control = fncNamed(name);
-    if (property == "Text") {
-      control.Text = fncRest(words);
+    if (property == "Top") {
+      fncWindowNamed(name).Top = fncSaid(words);
+    } else if (property == "Visible") {
+      fncWindowNamed(name).Visible = fncSaid(words) != 0;
+    } else if (property == "Text") {
+      fncNamed(name).Text = fncRest(words);
     } else if (property == "Left") {
-      control.Left = fncSaid(words);
+      fncNamed(name).Left = fncSaid(words);
     } else {
-      prcSetValue(control, fncSaid(words));
+      prcSetValue(fncNamed(name), fncSaid(words));
     }
   }
 
