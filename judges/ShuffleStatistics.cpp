@@ -88,7 +88,7 @@ ShuffleStatistics fncShuffleStatistics(int decks, std::int64_t shoes, std::uint6
   headless::Seed(firstSeed);
   prcResetTableState();
   intDecks[intSpareShoe] = decks;
-  const auto slots = static_cast<std::size_t>(decks * intSlotsOfDeck);
+  const std::size_t slots = static_cast<std::size_t>(decks) * intSlotsOfDeck;
   ShuffleStatistics statistics;
   statistics.Decks = decks;
   statistics.Shoes = shoes;

@@ -438,7 +438,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       {"lay", [](Words& w) { Lay(fncNext<std::string>(w)); }},
       {"hands", [this](Words& w) { Hands(w); }},
       {"size",
-       [this](Words& w) {
+       [](Words& w) {
          Window& form = MarkCards[0].Form;
          form.Width += fncNext<double>(w) - form.ScaleWidth;
          form.Height += fncNext<double>(w) - form.ScaleHeight;

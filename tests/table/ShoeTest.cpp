@@ -38,10 +38,8 @@ TEST_F(ShoeTest, SeedsGiveTheirPinnedShoesWithEachSlotOnce) {
     intDecks[0] = want.Decks;
     Shuffle(want.Seed);
     const int slots = want.Decks * intSlotsOfDeck;
-    std::vector<int> order;
-    for (int p = 0; p < slots; ++p) {
-      order.push_back(intShoeCards[0][p]);
-    }
+    std::vector<int> order(static_cast<std::size_t>(slots));
+    std::ranges::generate(order, [p = 0]() mutable { return int{intShoeCards[0][p++]}; });
     EXPECT_EQ(fncSum(order), want.Sum) << want.Seed;
     EXPECT_EQ(std::set<int>(order.begin(), order.end()).size(), order.size());
     EXPECT_EQ(std::ranges::max(order), slots - 1);
