@@ -1,10 +1,10 @@
 #include <QAbstractButton>
-#include <QAbstractSlider>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QProgressBar>
+#include <QVariant>
+#include <cmath>
 #include <stdexcept>
 
 #include "judges/Adapter.h"
@@ -96,6 +96,16 @@ void prcSeeRows(Control& seen, const QListWidget& list) {
 /// What the widget of its kind shows of a control.
 void prcSeeKind(Control& seen, const qt::ControlView& view) {
   QWidget* widget = view.Widget;
+  const auto see = [widget](const char* property, double& known) {
+    const QVariant shown = widget->property(property);
+    known = !shown.isValid() || std::lround(known) == shown.toInt() ? known : shown.toInt();
+  };
+  see("value", seen.Value);
+  see("singleStep", seen.SmallChange);
+  see("pageStep", seen.LargeChange);
+  if (seen.Max > seen.Min) {  // A bar that goes nowhere has no end to show.
+    see("maximum", seen.Max);
+  }
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
     prcSeeText(seen, *edit, view.Home.Source->ActiveControl == view.Source);
   } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
@@ -103,17 +113,6 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
     seen.Value = button->isCheckable() ? (button->isChecked() ? 1 : 0) : seen.Value;
   } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
     prcSeeRows(seen, *list);
-  } else if (auto* bar = qobject_cast<QProgressBar*>(widget)) {
-    seen.Value = bar->value() == std::lround(seen.Value) ? seen.Value : bar->value();
-    seen.Max = bar->maximum() == std::lround(seen.Max) ? seen.Max : bar->maximum();
-  } else if (auto* range = qobject_cast<QAbstractSlider*>(widget)) {
-    const auto see = [](double& known, int shown) {
-      known = std::lround(known) == shown ? known : shown;
-    };
-    see(seen.Value, range->value());
-    seen.Max = std::max(seen.Max, seen.Min) == range->maximum() ? seen.Max : range->maximum();
-    see(seen.SmallChange, range->singleStep());
-    see(seen.LargeChange, range->pageStep());
   } else if (qobject_cast<qt::PaintedView*>(widget) != nullptr) {
     seen.MousePointer =
         widget->testAttribute(Qt::WA_SetCursor) ? fncPointer(widget->cursor()) : Pointer::Arrow;

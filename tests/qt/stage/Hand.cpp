@@ -51,17 +51,6 @@ QPoint pntPointer;  // The pointer stays where it is from test to test.
   throw std::logic_error("the user cannot reach " + what);
 }
 
-Qt::MouseButton fncButton(int button) {
-  switch (button) {
-    case intRightButton:
-      return Qt::RightButton;
-    case intMiddleButton:
-      return Qt::MiddleButton;
-    default:
-      return Qt::LeftButton;
-  }
-}
-
 QWindow& fncNative(const QWidget& widget) { return *widget.window()->windowHandle(); }
 
 /// Watches for a card that is painted while this lives.
@@ -97,16 +86,10 @@ void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
   prcFlush();
 }
 
-/// A pointer that comes to where it is already moves nothing: it goes a little aside.
-void prcMoveTo(const QWidget& widget, QPoint at) {
-  const QPoint to = widget.mapToGlobal(at);
-  prcMouse(fncNative(widget), QEvent::MouseMove, to == pntPointer ? to - QPoint(1, 0) : to);
-}
-
-void prcClickAt(QWindow& window, QPoint global, Qt::MouseButton button = Qt::LeftButton) {
-  prcMouse(window, QEvent::MouseMove, global);
-  prcMouse(window, QEvent::MouseButtonPress, global, button);
-  prcMouse(window, QEvent::MouseButtonRelease, global, button);
+void prcClickAt(const QWidget& window, QPoint global, Qt::MouseButton button = Qt::LeftButton) {
+  prcPoint(window, global);
+  prcPress(window, button);
+  prcLift(window, button);
 }
 
 /// Whether the pointer at a place within a widget is over it and not over another.
@@ -116,7 +99,8 @@ bool fncOver(const QWidget& widget, QPoint at) {
   return under == &widget || (under != nullptr && widget.isAncestorOf(under));
 }
 
-/// The middle of a widget, or where that is covered, a place of a raster at which it can be seen.
+/// On the screen the middle of a widget, or where that is covered, a place of a raster at which it
+/// can be seen.
 QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
   constexpr int intRaster = 24;
   QPoint at = widget.rect().center();
@@ -127,7 +111,7 @@ QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
     at = QPoint(widget.width() * (2 * (step % intRaster) + 1) / (2 * intRaster),
                 widget.height() * (2 * (step / intRaster) + 1) / (2 * intRaster));
   }
-  return at;
+  return widget.mapToGlobal(at);
 }
 
 /// A button that is still down comes up where the pointer is.
@@ -138,15 +122,13 @@ void prcLetGo() {
   hand.Held = nullptr;
 }
 
-/// What stands in the way of all input but its own.
-QWidget* fncInTheWay() {
-  QWidget* popup = QApplication::activePopupWidget();
-  return popup != nullptr ? popup : QApplication::activeModalWidget();
-}
-
-QWidget& fncReach(const Control& control) {
+/// The widget of a control that the user can get at, with no button down.
+QWidget& fncAtHand(const Control& control) {
+  prcLetGo();
+  user::Settle();
   QWidget* widget = fncWidget(control);
-  const QWidget* modal = fncInTheWay();
+  const QWidget* popup = QApplication::activePopupWidget();
+  const QWidget* modal = popup != nullptr ? popup : QApplication::activeModalWidget();
   if (widget == nullptr || !widget->isVisible() || !widget->isEnabled() ||
       (modal != nullptr && widget->window() != modal)) {
     prcOutOfReach(control.Name);
@@ -179,7 +161,7 @@ void prcClickEntry(const Control& entry) {
     auto* menu = qobject_cast<QMenu*>(holder);
     const QRect place = menu != nullptr ? menu->actionGeometry(action)
                                         : qobject_cast<QMenuBar*>(holder)->actionGeometry(action);
-    prcClickAt(fncNative(*holder), holder->mapToGlobal(place.center()));
+    prcClickAt(*holder, holder->mapToGlobal(place.center()));
     holder = action->menu();
   }
 }
@@ -269,7 +251,7 @@ void prcAnswer(QMessageBox& box) {
     prcKey(Qt::Key_Escape);
   } else {
     const QWidget& ok = *box.button(QMessageBox::Ok);
-    prcClickAt(fncNative(ok), ok.mapToGlobal(ok.rect().center()));
+    prcClickAt(ok, ok.mapToGlobal(ok.rect().center()));
   }
 }
 
@@ -357,65 +339,58 @@ void Settle() {
 }
 
 bool Press(Control& control, float x, float y, int button) {
-  prcLetGo();
-  Settle();
-  const QWidget& widget = fncReach(control);
+  const QWidget& widget = fncAtHand(control);
   const QPoint at = fncPlace(widget, x, y);
   if (!fncOver(widget, widget.mapFromGlobal(at))) {
     prcOutOfReach(control.Name);
   }
   hand.Held = &control;
-  prcMouse(fncNative(widget), QEvent::MouseMove, at);
-  prcMouse(fncNative(widget), QEvent::MouseButtonPress, at, fncButton(button));
+  prcPoint(widget, at);
+  prcPress(widget, Qt::MouseButton(button));
   return !Ended();
 }
 
 void Drag(Control& control, float x, float y) {
   Settle();
   if (hand.Held != &control) {
-    prcLetGo();
-    const QWidget& widget = fncReach(control);
-    const QPoint at = widget.mapToGlobal(fncMiddleSeen(widget, control.Name));
+    const QWidget& widget = fncAtHand(control);
     hand.Held = &control;
-    prcMouse(fncNative(widget), QEvent::MouseMove, at);
-    prcMouse(fncNative(widget), QEvent::MouseButtonPress, at, Qt::LeftButton);
+    prcPoint(widget, fncMiddleSeen(widget, control.Name));
+    prcPress(widget, Qt::LeftButton);
   }
-  const QWidget& widget = *fncWidget(control);
-  prcMouse(fncNative(widget), QEvent::MouseMove, fncPlace(widget, x, y));
+  prcPoint(*fncWidget(control), fncPlace(*fncWidget(control), x, y));
 }
 
 void Release(Control& control, float x, float y, int button) {
   hand.Held = nullptr;
-  const QWidget& widget = *fncWidget(control);
-  prcMouse(fncNative(widget), QEvent::MouseButtonRelease, fncPlace(widget, x, y),
-           fncButton(button));
+  prcMouse(fncNative(*fncWidget(control)), QEvent::MouseButtonRelease,
+           fncPlace(*fncWidget(control), x, y), Qt::MouseButton(button));
 }
 
 bool Click(Control& control, int button) {
-  prcLetGo();
-  Settle();
   if (control.Kind == ControlKind::MenuEntry) {
+    prcLetGo();
+    Settle();
     prcClickEntry(control);
-    return true;
+  } else {
+    const QWidget& widget = fncAtHand(control);
+    prcClickAt(widget, fncMiddleSeen(widget, control.Name), Qt::MouseButton(button));
   }
-  const QWidget& widget = fncReach(control);
-  prcClickAt(fncNative(widget), widget.mapToGlobal(fncMiddleSeen(widget, control.Name)),
-             fncButton(button));
   return true;
 }
 
 void Hover(Control& control) {
-  prcLetGo();
-  Settle();
-  const QWidget& widget = fncReach(control);
-  prcMoveTo(widget, fncMiddleSeen(widget, control.Name));
+  const QWidget& widget = fncAtHand(control);
+  const QPoint at = fncMiddleSeen(widget, control.Name);
+  // A pointer that comes to where it is already moves nothing: it goes a little aside.
+  prcPoint(widget, at == pntPointer ? at - QPoint(1, 0) : at);
 }
 
 void Hover(Window& window) {
   prcLetGo();
   Settle();
   const QWidget& ground = *fncView(window).Ground;
-  prcMoveTo(ground, QPoint(ground.width() - 2, ground.height() - 2));
+  prcPoint(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
 }
 
 bool Type(Control& box, const std::string& text) {
