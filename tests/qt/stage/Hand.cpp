@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
+#include <array>
 #include <cmath>
 #include <deque>
 #include <stdexcept>
@@ -112,6 +113,11 @@ QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
                 widget.height() * (2 * (step / intRaster) + 1) / (2 * intRaster));
   }
   return widget.mapToGlobal(at);
+}
+
+/// A pointer that comes to where it is already moves nothing: it goes a little aside.
+void prcMoveTo(const QWidget& window, QPoint global) {
+  prcPoint(window, global == pntPointer ? global - QPoint(1, 0) : global);
 }
 
 /// A button that is still down comes up where the pointer is.
@@ -220,24 +226,13 @@ void prcNeedInput(const Window& window) {
   }
 }
 
-platform::Icon fncIconOf(QMessageBox::Icon icon) {
-  switch (icon) {
-    case QMessageBox::Critical:
-      return platform::Icon::Stop;
-    case QMessageBox::Warning:
-      return platform::Icon::Exclamation;
-    case QMessageBox::Information:
-      return platform::Icon::Information;
-    default:
-      return platform::Icon::None;
-  }
-}
-
 void prcRead(const QMessageBox& box) {
+  using enum platform::Icon;
+  constexpr std::array icons{None, Information, Exclamation, Stop};  // In the toolkit's order.
   const bool blnCancel = box.standardButtons().testFlag(QMessageBox::Cancel);
   const bool blnStandard =
       box.defaultButton() != nullptr && box.defaultButton() == box.button(QMessageBox::Cancel);
-  hand.Boxes.push_back({fncTold(box.text()), box.windowTitle().toStdString(), fncIconOf(box.icon()),
+  hand.Boxes.push_back({fncTold(box.text()), box.windowTitle().toStdString(), icons.at(box.icon()),
                         blnCancel, blnStandard ? platform::Answer::Cancel : platform::Answer::Ok});
 }
 
@@ -381,16 +376,14 @@ bool Click(Control& control, int button) {
 
 void Hover(Control& control) {
   const QWidget& widget = fncAtHand(control);
-  const QPoint at = fncMiddleSeen(widget, control.Name);
-  // A pointer that comes to where it is already moves nothing: it goes a little aside.
-  prcPoint(widget, at == pntPointer ? at - QPoint(1, 0) : at);
+  prcMoveTo(widget, fncMiddleSeen(widget, control.Name));
 }
 
 void Hover(Window& window) {
   prcLetGo();
   Settle();
   const QWidget& ground = *fncView(window).Ground;
-  prcPoint(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
+  prcMoveTo(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
 }
 
 bool Type(Control& box, const std::string& text) {

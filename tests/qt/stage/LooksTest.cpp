@@ -65,6 +65,14 @@ class Looks : public testing::Test {
         .toImage()
         .convertToFormat(QImage::Format_RGB32);
   }
+  /// Where the card lies, and what is to be seen there.
+  static QRect fncCardPlace() {
+    return {QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize()};
+  }
+  static QImage fncCardShot() {
+    user::Settle();
+    return fncShot().copy(fncCardPlace());
+  }
   static QImage fncCard(int number) {
     QImage image(qt::fncCardSize(), QImage::Format_RGB32);
     image.fill(QColor(0, 80, 0));
@@ -80,7 +88,7 @@ int fncGrey(const QImage& area) {
 }
 
 TEST_F(Looks, ABackPulledOpenIsCutAndBendsThere) {
-  const QRect card(QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize());
+  const QRect card = fncCardPlace();
   const QImage back = fncCard(picCardBack), face = fncCard(22);
   for (const bool blnRight : {false, true}) {
     double& side = blnRight ? felt.pctBack.Width : felt.pctBack.Height;
@@ -112,34 +120,30 @@ TEST_F(Looks, ABackPulledOpenIsCutAndBendsThere) {
 }
 
 TEST_F(Looks, ACardTurnsOverUntilSomethingElseComes) {
-  const QRect card(QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize());
   const auto turn = [](bool blnFlips) {
     felt.pctBack.Visible = true;
     felt.pctBack.Flips = blnFlips;
     user::Settle();
     felt.pctBack.Visible = false;
     platform::RepaintNow(felt.pctBack);
-    return fncShot();
+    return fncShot().copy(fncCardPlace());
   };
-  const QImage hidden = fncShot(), face = turn(false);
-  EXPECT_EQ(face.copy(card), fncCard(22));
-  const QRect inner = card.adjusted(4, 4, -4, -4);
+  const QImage hidden = fncCardShot(), face = turn(false);
+  const QRect inner = face.rect().adjusted(4, 4, -4, -4);
+  EXPECT_EQ(face, fncCard(22));
   EXPECT_EQ(turn(true).copy(inner), hidden.copy(inner)) << "begins as the back";
   EXPECT_FALSE(user::Seen(felt.pctBack).Visible);
   user::Wait(130);
-  EXPECT_EQ(fncShot().copy(card).pixel(3, 48), qRgb(0, 80, 0)) << "narrow on its way";
+  EXPECT_EQ(fncCardShot().pixel(3, 48), qRgb(0, 80, 0)) << "narrow on its way";
   user::Wait(80);
-  EXPECT_EQ(fncShot(), face);
-  const std::function<void()> others[] = {[] { stage::prcKey(Qt::Key_F12); },
-                                          [] { felt.pctFace.Picture = 23; },
-                                          [] { felt.pctFace.Visible = false; }};
-  for (const auto& other : others) {
+  EXPECT_EQ(fncCardShot(), face);
+  for (void (*other)() : {+[] { stage::prcKey(Qt::Key_F12); }, +[] { felt.pctFace.Picture = 23; },
+                          +[] { felt.pctFace.Visible = false; }}) {
     turn(true);
     other();
-    user::Settle();
-    const QImage shot = fncShot();
+    const QImage shot = fncCardShot();
     user::Wait(20);
-    EXPECT_EQ(fncShot(), shot) << "cut off at once, and gone";
+    EXPECT_EQ(fncCardShot(), shot) << "cut off at once, and gone";
   }
 }
 
@@ -162,16 +166,15 @@ TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
 }
 
 TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
+  const auto expect = [](int picture) {
+    EXPECT_EQ(fncCardShot().pixel(35, 48), fncCard(picture).pixel(35, 48));
+  };
   prcControlToFront(felt.pctFace);
-  user::Settle();
-  const QRect card(QPoint(qt::fncPixels(1500), qt::fncPixels(1500)), qt::fncCardSize());
-  EXPECT_EQ(fncShot().copy(card).pixel(35, 48), fncCard(22).pixel(35, 48));
+  expect(22);
   prcRemoveControl(felt.pctFace);
-  user::Settle();
-  EXPECT_EQ(fncShot().copy(card).pixel(35, 48), fncCard(picCardBack).pixel(35, 48));
+  expect(picCardBack);
   prcAddControl(felt.Form, felt.pctFace);
-  user::Settle();
-  EXPECT_EQ(fncShot().copy(card).pixel(35, 48), fncCard(22).pixel(35, 48));
+  expect(22);
 }
 
 TEST(Scale, FillsTheFrameWithTableCardAndLists) {
