@@ -36,15 +36,16 @@ qt::WindowView& fncView(const Window& window) {
                          : throw std::logic_error(std::string("not on the screen: ") + window.Name);
 }
 
-double fncAgreed(double twips, int pixels) {
-  return qt::fncPixels(twips) == pixels ? twips : qt::fncTwips(pixels);
-}
-
 std::string fncTold(QString text) {
   return text.replace(QLatin1Char('\n'), QLatin1String("\r\n")).toStdString();
 }
 
 namespace {
+
+/// The model's number where the screen agrees with it to the pixel, else the screen's.
+double fncAgreed(double twips, int pixels) {
+  return qt::fncPixels(twips) == pixels ? twips : qt::fncTwips(pixels);
+}
 
 /// Two edges that are rounded to the pixel may differ by one from a length that is.
 template <class Placed>

@@ -19,9 +19,6 @@ QAction* fncAction(const Control& control);
 /// The widgets of a loaded window; an error where it is not on the screen.
 qt::WindowView& fncView(const Window& window);
 
-/// The model's number where the screen agrees with it to the pixel, else the screen's.
-double fncAgreed(double twips, int pixels);
-
 // The hand at whatever lies there, told of a place on the screen and the top-level window that gets
 // the event. Each serves what the toolkit posts meanwhile.
 
