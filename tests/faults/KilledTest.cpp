@@ -88,8 +88,10 @@ class Killed : public Game {
   /// Plays one evening after the other in a process of its own, and kills it after that long.
   void PlayAndKill(std::uint64_t seed, std::chrono::microseconds after) {
     const pid_t child = fork();
-    while (child == 0) {
-      PlayEvening(seed++);
+    if (child == 0) {
+      for (;;) {
+        PlayEvening(seed++);
+      }
     }
     usleep(static_cast<useconds_t>(after.count()));
     kill(child, SIGKILL);
