@@ -14,7 +14,7 @@
 namespace {
 
 /// Parts of a card drawn onto white at a scale.
-QImage fncDrawn(QSvgRenderer& card, std::initializer_list<const char*> parts, double scale) {
+QImage fncRendered(QSvgRenderer& card, std::initializer_list<const char*> parts, double scale) {
   QImage image(QSize(71, 96) * scale, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
@@ -64,8 +64,8 @@ TEST(CardArt, PatchesHideEveryMarkAndNothingElse) {
     for (int number = 1; number <= intSlotsOfDeck; ++number) {
       SCOPED_TRACE(number);
       QSvgRenderer card(QStringLiteral(":/cards/%1.svg").arg(number, 2, 10, QLatin1Char('0')));
-      const QImage whole = fncDrawn(card, {"face", "pips", "marks"}, scale);
-      const QImage unmarked = fncDrawn(card, {"face", "pips"}, scale);
+      const QImage whole = fncRendered(card, {"face", "pips", "marks"}, scale);
+      const QImage unmarked = fncRendered(card, {"face", "pips"}, scale);
       QImage patched = whole;
       QPainter painter(&patched);
       for (const QRect& patch : fncPatches(number, scale)) {
