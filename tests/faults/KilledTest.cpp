@@ -6,10 +6,11 @@
 #include <csignal>
 #include <filesystem>
 #include <random>
+#include <regex>
+#include <sstream>
 
 #include "betting/frmStatistics.h"
 #include "judges/Endurance.h"
-#include "platform/Texts.h"
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
@@ -17,25 +18,15 @@
 
 namespace {
 
-/// The sections and keys of a settings file, one a line. Fails where a line is neither, or where a
-/// value is neither a number nor a switch.
+/// The sections and keys of a settings file. Fails where a line is neither, or where a value is
+/// neither a number nor a switch.
 std::string fncKeys(const std::string& contents) {
-  std::string keys, section;
-  for (std::size_t at = 0, stop = 0; at < contents.size(); at = stop + 2) {
-    stop = contents.find("\r\n", at);
-    const std::string line = contents.substr(at, stop - at);
-    if (stop == std::string::npos) {
-      ADD_FAILURE() << "cut short: " << line;
-      break;
-    }
-    if (line.starts_with('[') && line.ends_with(']')) {
-      section = line;
-      continue;
-    }
-    const std::size_t equals = line.find('=');
-    const std::string value = equals == std::string::npos ? "" : line.substr(equals + 1);
-    EXPECT_TRUE(fncIsNumeric(value) || value == "True" || value == "False") << line;
-    keys += section + line.substr(0, equals) + "\n";
+  static const std::regex shape(R"((\[.+\]|[^=]+= ?(True|False|[-+.E0-9]+))\r)");
+  std::istringstream lines(contents);
+  std::string keys;
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_TRUE(std::regex_match(line, shape)) << line;
+    keys += line.substr(0, line.find('='));
   }
   return keys;
 }

@@ -29,17 +29,6 @@ class Input : public Game {
     Shuffle();
   }
 
-  /// Puts the cards of these slots of a deck out first, in this order.
-  static void NextSlots(std::initializer_list<int> next) {
-    SlotRow& order = intShoeCards[intShoeNumber];
-    int place = intNextCard[intShoeNumber];
-    for (const int slot : next) {
-      for (int at = place++; order[place - 1] % intSlotsOfDeck != slot; ++at) {
-        std::swap(order[place - 1], order[at]);
-      }
-    }
-  }
-
   /// Chooses each card that waits by its number and turns it by Enter, until the hand is over.
   static void TurnNext() {
     for (int n = 0; n < intPositions; ++n) {
@@ -115,7 +104,7 @@ TEST_F(Input, AHandIsFollowedByEarAndPlayedByKeys) {
   QObject::connect(ear, &qt::EarView::told,
                    [](const QString& text) { strHeard += text.toStdString() + "\n"; });
   EXPECT_EQ(QAccessible::queryAccessibleInterface(ear)->role(), QAccessible::Notification);
-  NextSlots({12, 40, 17, 29, 41});
+  NextCards({13, 2, 5, 4, 3});
   for (const auto& [boxes, chips] : {std::pair{"P", '5'}, {"T", '1'}, {"BB", '2'}}) {
     for (const char* box = boxes; *box != 0; ++box) {
       prcKey(static_cast<Qt::Key>(*box), Qt::AltModifier);
@@ -133,16 +122,16 @@ Hidden Player first card
 Hidden Banker first card
 Hidden Player second card
 Hidden Banker second card
-Player first card, King of Spades
+Player first card, King of Clubs
 Player advice: 8, 9 for NATURAL
-Player second card, 5 of Clubs. Player total 5
+Player second card, 5 of Hearts. Player total 5
 Banker advice: At least 6 would be good, (2 card total)
 Banker first card, 2 of Hearts
 Banker advice: 6, 7 to WIN
 Banker second card, 4 of Diamonds. Banker total 6
 Hidden Player third card
 Player advice: 2, 3, 4 to WIN, 1 to TIE, 8, 9, 10, Picture to LOSE
-Player third card, 3 of Hearts. Player total 8
+Player third card, 3 of Spades. Player total 8
 Player 1, Tie bet LOSE. Player 1, Player bet WIN. Player 1, money $990. Player 2, Banker bet LOSE. Player WIN
 )");
 }
