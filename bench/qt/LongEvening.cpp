@@ -31,6 +31,7 @@ namespace {
 
 constexpr int intHands = 10'000;
 constexpr int intOpenings = 9, intDrawings = 100;
+constexpr int intShoeStep = 6;  // From a shoe that is looked at to the next.
 constexpr int intChip = 10;
 
 /// A plain window of some size, which tells when it has been painted.
@@ -96,6 +97,7 @@ void prcPlayTo(int hands) {
       intDecksInPlay[0] = intDecks[0];
     }
     ZNEW_DealHand(0);
+    ++intHandsDealt[0];
     const std::array<double, 2> lying{fncBook(hand, 0), fncBook(hand, 1)};
     hooks.HandSettled();
     dblPlayerTotal[0] += lying[0];
@@ -118,6 +120,15 @@ double fncOpening(Window& form, const Control& seen, void (*show)()) {
   const double start = fncNow();
   prcWhenPainted(seen, [&] { blnPainted = true; });
   qt::prcServe(show);
+  prcTurnUntil([&] { return blnPainted; });
+  return fncNow() - start;
+}
+
+double fncTurning(ShoeChoice& choice, int shoe) {
+  bool blnPainted = false;
+  const double start = fncNow();
+  prcWhenPainted(choice.lblShoe, [&] { blnPainted = true; });
+  qt::prcServe([&] { prcSetValue(choice.sldShoe, shoe); });
   prcTurnUntil([&] { return blnPainted; });
   return fncNow() - start;
 }
@@ -153,7 +164,27 @@ void prcMeasureOpenings() {
   prcTellPair("course_open", course, bare);
 }
 
-void prcMeasureDrawing() {
+void prcWaitUntilFollowed() {
+  prcTurnUntil([] { return !frmCourse.tmrFollow.Enabled && !frmHands.tmrFollow.Enabled; });
+}
+
+/// From a shoe chosen by the slider to its painting, in both windows; in the course of the money
+/// until its luck is told, too.
+void prcMeasureShoes() {
+  std::vector<double> hands, course, told;
+  for (int shoe = 1; shoe <= fncEveningShoes(); shoe += intShoeStep) {
+    hands.push_back(fncTurning(frmHands.Shoe, shoe));
+    const double start = fncNow();
+    course.push_back(fncTurning(frmCourse.Shoe, shoe));
+    prcWaitUntilFollowed();
+    told.push_back(fncNow() - start);
+  }
+  prcTellScaled("hands_shoe", fncQuantile(hands, 0.5));
+  prcTellScaled("course_shoe", fncQuantile(course, 0.5));
+  prcTellScaled("course_shoe_told", fncQuantile(told, 0.5));
+}
+
+void prcMeasureDrawing(const std::string& name) {
   QWidget& chart = fncWidget(frmCourse.crtMoney);
   BareWindow bare(chart.size());
   bare.show();
@@ -167,16 +198,12 @@ void prcMeasureDrawing() {
     drawn.push_back(between - start);
     repainted.push_back(fncNow() - between);
   }
-  prcTellPair("chart_draw", drawn, repainted);
-}
-
-void prcWaitUntilFollowed() {
-  prcRest(500);
-  prcTurnUntil([] { return !frmCourse.tmrFollow.Enabled && !frmHands.tmrFollow.Enabled; });
+  prcTellPair(name, drawn, repainted);
 }
 
 /// What comes back when both open windows show an evening without hands again.
 void prcMeasureMemory() {
+  prcRest(500);
   prcWaitUntilFollowed();
   const double held = fncHeld();
   qt::prcServe([] {
@@ -185,6 +212,7 @@ void prcMeasureMemory() {
     prcFollowHands();
     prcFollowCourse();
   });
+  prcRest(500);
   prcWaitUntilFollowed();
   prcTellScaled("evening_memory", held - fncHeld());
 }
@@ -200,7 +228,9 @@ void prcLongEvening() {
   qt::prcServe(prcShowHands);
   qt::prcServe(prcShowCourse);
   prcMeasureOpenings();
-  prcMeasureDrawing();
+  prcMeasureDrawing("chart_draw");
+  prcMeasureShoes();
+  prcMeasureDrawing("chart_draw_shoe");
   prcMeasureMemory();
 }
 

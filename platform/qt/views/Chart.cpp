@@ -29,6 +29,8 @@ struct Sheet {
   QFontMetricsF Metrics;
 
   QPointF fncAt(const ChartPoint& point) const { return {Plot.fncX(point.X), Plot.fncY(point.Y)}; }
+  /// The middle of the column, a pixel broad, in which a place lies.
+  double fncMiddle(double x) const { return (std::floor(x / Pixel) + 0.5) * Pixel; }
   double fncRight() const { return Plot.Left + Plot.Width; }
   double fncBottom() const { return Plot.Top + Plot.Height; }
   QRectF fncField() const { return {Plot.Left, Plot.Top, Plot.Width, Plot.Height}; }
@@ -148,9 +150,11 @@ void prcDrawSteps(const Sheet& sheet) {
   }
 }
 
-/// A step that has its name below goes through all of the chart, the others only nick its edge.
+/// A step that has its name below goes through all of the chart, the others only nick its edge. All
+/// lie on whole pixels, which need no smoothing.
 void prcDrawTicks(const Sheet& sheet) {
   double free = 0;
+  sheet.Painter.setRenderHint(QPainter::Antialiasing, false);
   for (const ChartTick& tick : sheet.Data.Ticks) {
     const double x = std::floor(sheet.Plot.fncX(tick.X)) + 0.5;
     sheet.Painter.setPen(QColor::fromRgb(rgbInk));
@@ -159,6 +163,7 @@ void prcDrawTicks(const Sheet& sheet) {
     const double top = blnNamed ? sheet.Plot.Top : sheet.fncBottom() - 5 * sheet.Pixel;
     sheet.Painter.drawLine(QPointF(x, top), QPointF(x, sheet.fncBottom()));
   }
+  sheet.Painter.setRenderHint(QPainter::Antialiasing);
 }
 
 void prcDrawBand(const Sheet& sheet, const ChartBand& band) {
@@ -185,32 +190,39 @@ void prcStroke(QPainter& painter, const QPolygonF& row) {
   }
 }
 
-/// A line that goes up and down within most columns, as one field from its highest places to its
-/// lowest: it looks as if it had been stroked, in a small part of the time.
-void prcFillLine(const Sheet& sheet, const std::vector<Column>& columns, const ChartLine& line) {
-  const double half = line.Width * sheet.Pixel / 2;
-  QPolygonF field, below;
+/// Whether a line has a point in every column that it goes through.
+bool fncDense(const Sheet& sheet, const std::vector<Column>& columns) {
+  const double across = columns.back().First.x() - columns.front().First.x();
+  return columns.size() > 1 && across < static_cast<double>(columns.size()) * sheet.Pixel;
+}
+
+/// A dense line as an upright stroke in each column: it looks as if it had been drawn from point to
+/// point, in a small part of the time.
+void prcStrokeColumns(const Sheet& sheet, const std::vector<Column>& columns, double width) {
+  const double half = width / 2;
+  QList<QLineF> strokes;
+  strokes.reserve(std::ssize(columns));
   double before = columns.front().First.y();
   for (const Column& column : columns) {
-    field.append({column.First.x(), std::min(column.High.y(), before) - half});
-    below.append({column.First.x(), std::max(column.Low.y(), before) + half});
+    const double x = sheet.fncMiddle(column.First.x());
+    strokes.append(
+        {x, std::min(column.High.y(), before) - half, x, std::max(column.Low.y(), before) + half});
     before = column.Last.y();
   }
-  std::copy(below.rbegin(), below.rend(), std::back_inserter(field));
-  sheet.Painter.setPen(Qt::NoPen);
-  sheet.Painter.setBrush(fncColour(line.Ink));
-  sheet.Painter.drawPolygon(field, Qt::WindingFill);
+  sheet.Painter.drawLines(strokes);
 }
 
 void prcDrawLine(const Sheet& sheet, const ChartLine& line) {
   const std::vector<Column> columns =
       fncColumns(sheet, line.Points, [](const ChartPoint& point) { return point; });
-  if (line.Points.size() > 2 * columns.size() && columns.size() > 1) {
-    prcFillLine(sheet, columns, line);
+  QPen pen = fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed);
+  if (fncDense(sheet, columns)) {
+    pen.setCapStyle(Qt::FlatCap);
+    sheet.Painter.setPen(pen);
+    prcStrokeColumns(sheet, columns, pen.widthF());
     return;
   }
-  sheet.Painter.setPen(fncPen(sheet, fncColour(line.Ink), line.Width, line.blnDashed));
-  sheet.Painter.setBrush(Qt::NoBrush);
+  sheet.Painter.setPen(pen);
   prcStroke(sheet.Painter, fncThinned(columns));
 }
 
