@@ -130,6 +130,7 @@ TEST_F(Saving, AFileIsWrittenAsAWholeOrNotAtAll) {
     const FullDisk full;
     EXPECT_NE(platform::SaveFile(path, std::string(100000, 'x')), "");
   }
+  EXPECT_NE(platform::SavePicture(Control(), path), "") << "there is nothing to draw on";
   EXPECT_EQ(fncRead("hands.csv"), "old");
   EXPECT_EQ(platform::SaveFile(path, "new"), "");
 }

@@ -163,7 +163,9 @@ std::string SavePicture(const Control& control, const std::string& path) {
     picture.setDevicePixelRatio(intPictureFactor);
     picture.fill(QColor::fromRgb(qt::rgbPaper));
     prcPaintOn(picture, control, size);
-    picture.save(&buffer, "PNG");
+    if (!picture.save(&buffer, "PNG")) {
+      return "The picture could not be made.";
+    }
   }
   return fncSave(path, buffer.data());
 }
