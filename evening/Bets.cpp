@@ -12,6 +12,7 @@ namespace {
 using Bets = std::array<std::array<int, 3>, intSeats>;
 
 std::vector<Bets> colBefore;    ///< The bets before each change, since the last hand.
+double dblChipValue = 0;        ///< At which these stood.
 std::optional<Bets> betPlayed;  ///< Those of the last hand.
 bool blnPlacing = false;        ///< The changes under way are one, noted already.
 
@@ -29,7 +30,16 @@ Bets fncBetsNow() {
   return bets;
 }
 
+/// Bets that stood at another chip value cannot be brought back as they were.
+void prcForgetOtherChips() {
+  if (dblChipValue != fncUnitValue()) {
+    prcForgetBetChanges();
+    dblChipValue = fncUnitValue();
+  }
+}
+
 void prcNoteBefore(const Bets& bets) {
+  prcForgetOtherChips();
   if (!blnPlacing && (colBefore.empty() || colBefore.back() != bets)) {
     colBefore.push_back(bets);
   }
@@ -82,6 +92,9 @@ void prcNoteBetChange(BetSide side, Integer intSeat, double dblChips) {
   Bets bets = fncBetsNow();
   fncChipsOf(bets, intSeat, side) = fncInteger(dblChips);
   prcNoteBefore(bets);
+  if (fncBet(side, intSeat).Money != dblChips * fncUnitValue()) {
+    prcForgetBetChanges();  // This one was paid at another chip value.
+  }
 }
 
 void prcNoteBetsPlayed() {
@@ -107,6 +120,7 @@ void prcTakeBack() {
   if (!fncTableOpen()) {
     return;
   }
+  prcForgetOtherChips();
   // What was booked without a change leaves nothing to take back.
   while (!colBefore.empty() && colBefore.back() == fncBetsNow()) {
     colBefore.pop_back();
@@ -114,12 +128,10 @@ void prcTakeBack() {
   if (colBefore.empty()) {
     return;
   }
+  // What is refused is gone, too: the next step leads to the bets before it.
   const Bets before = colBefore.back();
+  colBefore.pop_back();
   prcPlace(before);
-  // What was refused can be tried again once there is money for it.
-  if (fncBetsNow() == before) {
-    colBefore.pop_back();
-  }
 }
 
 void prcDoubleBets() {

@@ -99,6 +99,25 @@ TEST_F(EveningBets, AreDoubledAsOneStepAndRefusedAsAClickIs) {
                                    "0/30/0 $5,380, 0/0/0 $1,000", "0/0/0 $5,680, 0/0/0 $1,000"}));
 }
 
+TEST_F(EveningBets, ThatCannotComeBackDoNotBlockThoseBefore) {
+  Bet(betBanker, 0, "90");
+  Bet(betBanker, 0, "5");
+  dblPlayerTotal[0] = 100;
+  TakeBack();
+  EXPECT_EQ(LastBox().substr(0, 33), "Sorry, not enough money for the b");
+  TakeBack();
+  EXPECT_EQ(Table(), "0/0/0 $150, 0/0/0 $1,000");
+}
+
+TEST_F(EveningBets, ThatStoodAtAnotherChipValueAreNotBroughtBack) {
+  Bet(betBanker, 0, "5");
+  user::Type(BaccTable.txtUnitValue, "20");
+  user::Tab(BaccTable.Form);
+  Bet(betPlayer, 1, "3");
+  Bet(betBanker, 0, "7");
+  EXPECT_EQ(AllTakenBack().back(), "0/7/0 $860, 0/0/3 $940");
+}
+
 TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
   Bet(betBanker, 0, "5");
   DealResult("P");
