@@ -16,7 +16,8 @@ int main(int argc, char** argv) {
   }
   const EveningProof proof = fncProveEvenings(evenings, seed, folder);
   std::filesystem::remove_all(folder);
-  std::printf("%d evenings, %d hands\n", proof.Evenings, proof.Hands);
+  std::printf("%d evenings, %d hands; the law of %d evenings on a grid\n", proof.Evenings,
+              proof.Hands, proof.Gridded);
   std::printf("  ends within the band of 50 %%: %.1f %% of seats, within that of 90 %%: %.1f %%\n",
               50.0 * proof.InHalf / proof.Evenings, 50.0 * proof.InNine / proof.Evenings);
   std::printf("  places in tenths: chi-square %.1f of 9 degrees\n", proof.fncTenthsSum());

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
 
 #include "evening/CourseChart.h"
 #include "evening/Hands.h"
@@ -24,7 +23,9 @@ namespace {
 constexpr int intOddsTopic = 2;  // The number of the page in the help's index.
 
 // Milliseconds until the window follows: the play, and the reckoning of a long evening.
-constexpr int intFollowPlay = 250, intFollowReckoning = 1;
+constexpr int intFollowPlay = 100, intFollowReckoning = 1;
+
+bool blnPlayed = false;  // Something has happened since the window was filled.
 
 Luck lckShown;  // Of the scope that the window shows.
 
@@ -45,16 +46,17 @@ constexpr GridColumn edgeColumns[] = {{" Bet", 1050},
 
 double fncOfRow(const std::array<double, 3>& amounts, std::int32_t row) {
   return row == rowAll
-             ? std::accumulate(amounts.begin(), amounts.end(), 0.0)
+             ? fncOfAll(amounts)
              : amounts.at(static_cast<std::size_t>(betRows.at(static_cast<std::size_t>(row)).Side));
 }
 
-/// A share as percent with two places, such as "1.06 %".
+/// A share as percent with two places, such as "1.06 %"; below 0 where a bet won by more than was
+/// paid for it.
 std::string fncPercent(double share) {
-  const auto hundredths = static_cast<long>(std::lround(share * 10000));
+  const long hundredths = std::lround(std::abs(share) * 10000);
   const long places = hundredths % 100;
-  return std::to_string(hundredths / 100) + (places < 10 ? ".0" : ".") + std::to_string(places) +
-         " %";
+  return (share < 0 ? "-" : "") + std::to_string(hundredths / 100) + (places < 10 ? ".0" : ".") +
+         std::to_string(places) + " %";
 }
 
 std::string fncEdgeCell(std::int32_t row, int column) {
@@ -94,20 +96,30 @@ Scope fncScope() {
   return {chosen < intSeats ? static_cast<int>(chosen) : -1, fncChosenShoe(w.Shoe)};
 }
 
-void prcShowPointed() {
+std::string fncPointedWords() {
   const Control& chart = frmCourse.crtMoney;
-  frmCourse.lblPointed.Text =
-      chart.Chart->Lines.empty() ? chart.Spoken
-      : chart.ListIndex < 0 ? "Point at the curve, or use the arrow keys, to be told of a hand."
-                            : fncHandSentence(fncHandOfPoint(*chart.Chart, chart.ListIndex));
+  if (chart.Chart->Lines.empty()) {
+    return chart.Spoken;
+  }
+  if (chart.ListIndex < 0) {
+    return "Point at the curve, or use the arrow keys, to be told of a hand.";
+  }
+  if (chart.ListIndex == 0) {
+    const int shoe = fncScope().Shoe;
+    return "Before the first hand" + (shoe == 0 ? "" : " of shoe " + std::to_string(shoe));
+  }
+  return fncHandSentence(fncHandOfPoint(*chart.Chart, chart.ListIndex));
 }
+
+void prcShowPointed() { frmCourse.lblPointed.Text = fncPointedWords(); }
 
 void prcFill() {
   CourseWindow& w = frmCourse;
   prcShowShoeChoice(w.Shoe);
   const Scope scope = fncScope();
   const bool blnReckoned = fncReckonOn(scope.Shoe);
-  w.tmrFollow.Interval = blnReckoned ? intFollowPlay : intFollowReckoning;
+  blnPlayed = false;
+  w.tmrFollow.Interval = intFollowReckoning;
   w.tmrFollow.Enabled = !blnReckoned;
   Control& chart = w.crtMoney;
   const int pointed = chart.ListIndex < 0 ? 0 : fncHandOfPoint(*chart.Chart, chart.ListIndex);
@@ -140,9 +152,8 @@ void prcPrintCourse() {
 
 void prcOpenPointed() {
   const Control& chart = frmCourse.crtMoney;
-  const int hand = chart.ListIndex < 0 ? 0 : fncHandOfPoint(*chart.Chart, chart.ListIndex);
-  if (hand > 0) {
-    prcShowHand(hand);
+  if (chart.ListIndex > 0) {
+    prcShowHand(fncHandOfPoint(*chart.Chart, chart.ListIndex));
   }
 }
 
@@ -158,9 +169,10 @@ constexpr ControlEvents evtPrint{
 constexpr ControlEvents evtOdds{
     .Click = [](Control&) { platform::ShowHelp(strHelpFile, intOddsTopic); }};
 constexpr ControlEvents evtClose{.Click = [](Control&) { fncUnload(frmCourse.Form); }};
-/// Reckons on until all hands are in it, and shows them then.
+
+/// Shows at once what was played, and the bands and the luck of it when all hands are reckoned.
 void prcFollow() {
-  if (fncReckonOn(fncScope().Shoe)) {
+  if (blnPlayed || fncReckonOn(fncScope().Shoe)) {
     prcFill();
   } else {
     frmCourse.tmrFollow.Enabled = true;
@@ -261,6 +273,8 @@ void prcShowCourse() {
 
 void prcFollowCourse() {
   if (frmCourse.Form.hWnd != 0) {
+    blnPlayed = true;
+    frmCourse.tmrFollow.Interval = intFollowPlay;
     frmCourse.tmrFollow.Enabled = true;
   }
 }

@@ -14,12 +14,11 @@ namespace {
 constexpr std::array<Colour, intSeats> clrSeats{Colour{20, 92, 60}, Colour{38, 74, 140}};
 constexpr Colour clrStake{138, 106, 16};
 constexpr double dblCurveWidth = 1.75, dblRunWidth = 3.5;
-constexpr int intMostSpans = 500;  // About, of a band.
+constexpr int intMostSpans = 250;  // About, of a band.
+constexpr double dblCent = 0.01;
 
 /// No play leads beyond it, only a settings file written by hand; there cents are lost.
 constexpr double dblMostDrawn = 1e12;
-
-bool fncHasSeat(const Scope& scope, int seat) { return scope.Seat < 0 || scope.Seat == seat; }
 
 ChartPoint fncAt(int hand, double money) { return {static_cast<double>(hand), money}; }
 
@@ -37,22 +36,19 @@ struct Sheet {
   /// Whether what has happened since the last hand belongs here.
   bool fncGoesOn() const { return Hands.To == std::ssize(colEveningHands); }
   ChartPoint fncMoney(int hand) const { return fncAt(hand, fncPoint(hand).Money); }
+  double fncWon(int hand) const { return fncPoint(hand).Money - fncPoint(hand).Base; }
 };
 
-std::vector<ChartPoint> fncMoneyOver(const Sheet& sheet, int from, int to) {
+void prcAddCurve(Sheet& sheet) {
   std::vector<ChartPoint> points;
-  points.reserve(static_cast<std::size_t>(to - from) + 1);
-  for (int hand = from; hand <= to; ++hand) {
+  points.reserve(sheet.Curve.size());
+  for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
     points.push_back(sheet.fncMoney(hand));
   }
-  return points;
-}
-
-void prcAddCurve(Sheet& sheet) {
   sheet.Chart.Lines.push_back({.Name = fncSeatName(sheet.Seat),
                                .Ink = clrSeats.at(static_cast<std::size_t>(sheet.Seat)),
                                .Width = dblCurveWidth,
-                               .Points = fncMoneyOver(sheet, sheet.Hands.From, sheet.Hands.To)});
+                               .Points = std::move(points)});
 }
 
 /// The base line, with a step behind the hand after which the stake changed.
@@ -105,23 +101,61 @@ void prcAddBands(Sheet& sheet, bool blnNamed) {
   }
 }
 
-void prcAddMarks(Sheet& sheet) {
+/// The line of a stretch at its winnings, with a step where money came from elsewhere than from
+/// bets, so that nobody takes that for a win or a loss. It bends at each hand, or at the steps
+/// alone.
+template <class Winnings>
+std::vector<ChartPoint> fncStepping(const Sheet& sheet, const Stretch& over, bool blnEachHand,
+                                    Winnings won) {
+  const auto base = [&](int hand) { return sheet.fncPoint(hand).Base; };
+  std::vector<ChartPoint> points{fncAt(over.From, won(over.From) + base(over.From))};
+  const auto go = [&](int hand, double to) {
+    if (const ChartPoint next = fncAt(hand, won(hand) + to); points.back() != next) {
+      points.push_back(next);
+    }
+  };
+  for (int hand = over.From + 1; hand <= over.To; ++hand) {
+    if (std::abs(base(hand) - base(hand - 1)) > dblCent / 2) {
+      go(hand - 1, base(hand - 1));
+      go(hand - 1, base(hand));
+    }
+    if (blnEachHand || hand == over.To) {
+      go(hand, base(hand));
+    }
+  }
+  return points;
+}
+
+void prcAddFall(Sheet& sheet) {
   const Stretch fall = fncDeepestFall(sheet.Seat, sheet.Shoe);
-  if (fall.Amount > 0) {
-    sheet.Chart.Lines.push_back({.Ink = clrLoss,
-                                 .Width = 1,
-                                 .blnDashed = true,
-                                 .Points = {sheet.fncMoney(fall.From), sheet.fncMoney(fall.To)}});
-    sheet.Chart.Marks.push_back(
-        {sheet.fncMoney(fall.To), clrLoss, "Deepest fall " + fncCurrency(fall.Amount)});
+  if (fall.Amount == 0) {
+    return;
   }
+  const double top = sheet.fncWon(fall.From), slope = fall.Amount / (fall.To - fall.From);
+  sheet.Chart.Lines.push_back({.Ink = clrLoss,
+                               .Width = 1,
+                               .blnDashed = true,
+                               .Points = fncStepping(sheet, fall, false, [&](int hand) {
+                                 return top - (hand - fall.From) * slope;
+                               })});
+  sheet.Chart.Marks.push_back(
+      {sheet.fncMoney(fall.To), clrLoss, "Deepest fall " + fncCurrency(fall.Amount)});
+}
+
+void prcAddRun(Sheet& sheet) {
   const Stretch run = fncLongestLosingRun(sheet.Seat, sheet.Shoe);
-  if (run.Amount > 0) {
-    sheet.Chart.Lines.push_back(
-        {.Ink = clrLoss, .Width = dblRunWidth, .Points = fncMoneyOver(sheet, run.From, run.To)});
-    sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
-                                 std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
+  if (run.Amount == 0) {
+    return;
   }
+  sheet.Chart.Lines.push_back(
+      {.Ink = clrLoss, .Width = dblRunWidth, .Points = fncStepping(sheet, run, true, [&](int hand) {
+                                               return sheet.fncWon(hand);
+                                             })});
+  sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
+                               std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
+}
+
+void prcAddResets(Sheet& sheet) {
   for (int hand = sheet.Hands.From; hand <= sheet.Hands.To; ++hand) {
     const bool blnReset = hand < sheet.Hands.To ? fncEveningHand(hand + 1).Reset
                                                 : sheet.fncGoesOn() && fncResetSince();
@@ -184,7 +218,7 @@ std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
   const Reach reach = fncReach(scope.Shoe);
   std::vector<Sheet> sheets;
   for (int seat = 0; seat < intSeats; ++seat) {
-    if (fncHasSeat(scope, seat)) {
+    if (scope.fncHas(seat)) {
       sheets.push_back({*chart, scope.Shoe, reach, seat, fncCurve(seat, scope.Shoe)});
     }
   }
@@ -195,7 +229,9 @@ std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope) {
     const bool blnFirst = &sheet == &sheets.front();
     prcAddStake(sheet, blnFirst);
     prcAddBands(sheet, blnFirst);
-    prcAddMarks(sheet);
+    prcAddFall(sheet);
+    prcAddRun(sheet);
+    prcAddResets(sheet);
   }
   prcAddShoes(*chart, reach);
   return chart;
@@ -212,7 +248,7 @@ std::string fncCourseSentence(const Scope& scope) {
   std::string sentence =
       "Course of the money over " + fncCounted(reach.To - reach.From, "hand") + ".";
   for (int seat = 0; seat < intSeats; ++seat) {
-    if (fncHasSeat(scope, seat)) {
+    if (scope.fncHas(seat)) {
       sentence += fncSeatSentence(scope, seat);
     }
   }
@@ -224,9 +260,6 @@ int fncHandOfPoint(const ChartData& chart, int point) {
 }
 
 std::string fncHandSentence(int number) {
-  if (number == 0) {
-    return "Before the first hand";
-  }
   const EveningHand& hand = fncEveningHand(number);
   const std::string totals = std::to_string(fncTotalOf(hand, Side::Player)) + " to " +
                              std::to_string(fncTotalOf(hand, Side::Banker));

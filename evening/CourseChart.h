@@ -15,8 +15,9 @@ std::shared_ptr<const ChartData> fncCourseChart(const Scope& scope);
 /// The same as it is spoken of.
 std::string fncCourseSentence(const Scope& scope);
 
-/// The hand of a point of the chart, numbered from 1; 0 for the point in front of the first hand.
+/// The hand behind which a point of the chart lies, numbered from 1; 0 for the start of the
+/// evening.
 int fncHandOfPoint(const ChartData& chart, int point);
 
-/// What is told of a hand that is pointed at, 0 for the start of the evening.
+/// What is told of a hand that is pointed at.
 std::string fncHandSentence(int number);

@@ -6,12 +6,12 @@
 
 namespace {
 
-/// A band lies around the money that the seat would own had its bets moved none.
 CurvePoint fncPoint(const EveningHand& hand, Integer intSeat, double won, const BandEdges& band) {
   const auto seat = static_cast<std::size_t>(intSeat);
-  CurvePoint point{.Money = hand.Money.at(seat), .Stake = hand.Stake.at(seat)};
+  const double money = hand.Money.at(seat);
+  CurvePoint point{.Money = money, .Stake = hand.Stake.at(seat), .Base = money - won};
   std::ranges::transform(band, point.Band.begin(),
-                         [&](float edge) { return point.Money - won + double{edge}; });
+                         [&](float edge) { return point.Base + double{edge}; });
   return point;
 }
 

@@ -13,6 +13,7 @@
 struct CurvePoint {
   double Money = 0;              ///< What it owns.
   double Stake = 0;              ///< The base line.
+  double Base = 0;               ///< What it would own had its bets moved nothing.
   std::array<double, 4> Band{};  ///< What it would own at the edges of the band, once reckoned.
 };
 

@@ -24,11 +24,6 @@ std::array<double, 3> fncChances(int decks) {
 
 std::int64_t fncLeast(const HandLaw& hand) { return *std::ranges::min_element(hand.Net); }
 
-/// How far the hand can reach on the grid from its least result, in twentieths.
-std::int64_t fncSpan(const HandLaw& hand) {
-  return *std::ranges::max_element(hand.Net) - fncLeast(hand);
-}
-
 // --- Results kept as they are ---
 
 /// Adds the hand to every result. The three lists of sums rise each, so they are merged.
@@ -94,7 +89,7 @@ void prcLayGrid(SumLaw& law) {
   for (const Atom& atom : law.Atoms) {
     prcLay(law.Share, atom.Sum - low, law.Step, atom.Share);
   }
-  law.Atoms.clear();
+  law.Atoms = {};
 }
 
 /// Doubles the step.
@@ -146,18 +141,21 @@ void prcTrim(SumLaw& law) {
   law.Share.erase(law.Share.begin(), first);
 }
 
-void prcAddMoments(SumLaw& law, const HandLaw& hand) {
+double fncVariance(const HandLaw& hand) {
   double mean = 0, square = 0;
   for (std::size_t n = 0; n < hand.Net.size(); ++n) {
     const double net = static_cast<double>(hand.Net.at(n)) / intTwentieths;
     mean += hand.Chance.at(n) * net;
     square += hand.Chance.at(n) * net * net;
   }
-  law.Mean += mean;
-  law.Variance += square - mean * mean;
+  return square - mean * mean;
 }
 
 }  // namespace
+
+std::int64_t fncSpan(const HandLaw& hand) {
+  return *std::ranges::max_element(hand.Net) - fncLeast(hand);
+}
 
 HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat) {
   HandLaw law{.Chance = fncChances(hand.Decks)};
@@ -165,6 +163,15 @@ HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat) {
     law.Net.at(n) = std::llround(fncNet(hand, intSeat, chrResults.at(n)) * intTwentieths);
   }
   return law;
+}
+
+double fncCost(const EveningHand& hand, Integer intSeat, BetSide side) {
+  const std::array<double, 3> chances = fncChances(hand.Decks);
+  double cost = 0;
+  for (std::size_t n = 0; n < chances.size(); ++n) {
+    cost -= chances.at(n) * fncNet(hand, intSeat, side, chrResults.at(n));
+  }
+  return cost;
 }
 
 HandLaw fncTogether(HandLaw seat, const HandLaw& other) {
@@ -176,7 +183,7 @@ void prcAddHand(SumLaw& law, const HandLaw& hand) {
   if (hand.fncEmpty()) {
     return;
   }
-  prcAddMoments(law, hand);
+  law.Variance += fncVariance(hand);
   if (law.fncExact()) {
     prcJoin(law, hand);
     if (law.Atoms.size() > law.Most) {

@@ -18,8 +18,14 @@ struct HandLaw {
   bool fncEmpty() const { return Net == decltype(Net){}; }  ///< No bet, or none that can move.
 };
 
+/// From the least result of a hand to its highest, in twentieths.
+std::int64_t fncSpan(const HandLaw& hand);
+
 /// What the bets of one seat 0..1 win, or lose, by the odds of a full shoe of the hand's size.
 HandLaw fncHandLaw(const EveningHand& hand, Integer intSeat);
+
+/// What one of those bets loses on average, in money.
+double fncCost(const EveningHand& hand, Integer intSeat, BetSide side);
 
 /// Bets of two seats, which win and lose on the same cards.
 HandLaw fncTogether(HandLaw seat, const HandLaw& other);
@@ -41,7 +47,7 @@ struct SumLaw {
   std::int64_t Low = 0;             ///< The first point of the grid, in twentieths.
   std::int64_t Step = 0;            ///< From point to point, in twentieths.
   std::vector<double> Share{};      ///< The chance of each point.
-  double Mean = 0, Variance = 0;    ///< Of the sum itself, in money; never rounded to the grid.
+  double Variance = 0;              ///< Of the sum itself, in money; never rounded to the grid.
   bool fncExact() const { return !Atoms.empty(); }
 };
 

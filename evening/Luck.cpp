@@ -2,18 +2,24 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include "evening/Reckoning.h"
-#include "table/Odds.h"
 
 namespace {
+
+constexpr double dblMostError = 0.005;  // Of the shares of players that are told.
+
+/// Results of the widest bets that are kept apart where a grid is off by more.
+constexpr std::size_t lngLeastWide = 1U << 10U, lngMostWide = 1U << 14U;
 
 void prcCountSeat(Luck& luck, const EveningHand& hand, int seat) {
   luck.Won += fncNet(hand, seat);
   for (const BetSide side : betSides) {
-    const double bet = fncBetMoney(hand, seat, side);
-    luck.Staked.at(static_cast<std::size_t>(side)) += bet;
-    luck.Cost.at(static_cast<std::size_t>(side)) += bet * fncEdge(fncOdds(hand.Decks), side);
+    if (const double bet = fncBetMoney(hand, seat, side); bet != 0) {
+      luck.Staked.at(static_cast<std::size_t>(side)) += bet;
+      luck.Cost.at(static_cast<std::size_t>(side)) += fncCost(hand, seat, side);
+    }
   }
 }
 
@@ -24,7 +30,7 @@ void prcCount(Luck& luck, const Scope& scope) {
     const EveningHand& hand = fncEveningHand(n + 1);
     double staked = 0;
     for (int seat = 0; seat < intSeats; ++seat) {
-      if (scope.Seat < 0 || scope.Seat == seat) {
+      if (scope.fncHas(seat)) {
         prcCountSeat(luck, hand, seat);
         staked += fncStaked(hand, seat);
       }
@@ -33,17 +39,35 @@ void prcCount(Luck& luck, const Scope& scope) {
   }
 }
 
-/// The places among those who bet the same. A grid is off by what it differs from one at least
-/// twice as coarse, and cannot tell who came out just the same from who came near.
-void prcCompare(Luck& luck, const BetLaw& law) {
+/// The places among those who bet the same, of whom the widest bets came to each of some results,
+/// and the rest follow a law. A grid is off by what it differs from one at least twice as coarse,
+/// and cannot tell who came out just the same from who came near.
+void prcCompare(Luck& luck, const SplitLaw& law) {
   const std::int64_t won = std::llround(luck.Won * intTwentieths);
-  luck.Worse = std::clamp(fncShareBelow(law.Sum, won), 0.0, 1.0);
-  luck.Better = std::max(1 - luck.Worse - fncShareAt(law.Sum, won), 0.0);
-  luck.Exact = law.Sum.fncExact();
-  if (!luck.Exact) {
-    luck.Error =
-        std::abs(luck.Worse - fncShareBelow(law.Coarse, won)) + fncShareNear(law.Sum, won) / 2;
+  double coarse = 0, same = 0, near = 0;
+  luck.Worse = 0;
+  for (const Atom& atom : law.Wide.Atoms) {
+    const std::int64_t rest = won - atom.Sum;
+    luck.Worse += atom.Share * fncShareBelow(law.Rest.Sum, rest);
+    coarse += atom.Share * fncShareBelow(law.Rest.Coarse, rest);
+    same += atom.Share * fncShareAt(law.Rest.Sum, rest);
+    near += atom.Share * fncShareNear(law.Rest.Sum, rest);
   }
+  luck.Exact = law.Rest.Sum.fncExact();
+  luck.Error = luck.Exact ? 0 : std::abs(luck.Worse - coarse) + near / 2;
+  luck.Worse = std::clamp(luck.Worse, 0.0, 1.0);
+  luck.Better = std::max(1 - luck.Worse - same, 0.0);
+}
+
+std::vector<HandLaw> fncHandLaws(const Scope& scope) {
+  std::vector<HandLaw> laws;
+  const Reach reach = fncReach(scope.Shoe);
+  for (int n = reach.From + 1; n <= reach.To; ++n) {
+    const EveningHand& hand = fncEveningHand(n);
+    laws.push_back(scope.Seat < 0 ? fncTogether(fncHandLaw(hand, 0), fncHandLaw(hand, 1))
+                                  : fncHandLaw(hand, scope.Seat));
+  }
+  return laws;
 }
 
 }  // namespace
@@ -58,10 +82,13 @@ Luck fncLuck(const Scope& scope) {
     return luck;
   }
   const BetLaw& law = reckoning.fncLaw(scope.Seat);
-  luck.Expected = law.Sum.Mean;
-  luck.Fortune = luck.Won - luck.Expected;
+  luck.Fortune = luck.Won + fncOfAll(luck.Cost);
   luck.Deviation = std::sqrt(law.Sum.Variance);
   luck.Deviations = luck.Deviation > 0 ? luck.Fortune / luck.Deviation : 0;
-  prcCompare(luck, law);
+  prcCompare(luck, {.Rest = law});
+  for (std::size_t wide = lngLeastWide; luck.Error > dblMostError && wide <= lngMostWide;) {
+    prcCompare(luck, fncSplitLaw(fncHandLaws(scope), wide));
+    wide *= 4;
+  }
   return luck;
 }

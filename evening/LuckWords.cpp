@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 #include "evening/EveningWindow.h"
 #include "platform/Texts.h"
@@ -57,14 +56,13 @@ std::string fncLuckWords(const Scope& scope, const Luck& luck) {
   if (luck.Hands == 0) {
     return fncWho(scope) + ": no bets.";
   }
-  const double staked = std::accumulate(luck.Staked.begin(), luck.Staked.end(), 0.0);
   const std::string hands = fncWho(scope) + ": " + fncCounted(luck.Hands, "hand") + " with a bet.";
   if (!luck.Reckoned) {
     return hands + strLineBreak + "The luck of that is being reckoned...";
   }
-  return hands + strLineBreak + "Staked " + fncCurrency(staked) + "; on average the house keeps " +
-         fncCurrency(-luck.Expected) + " of that." + strLineBreak + fncFortune(luck) +
-         strLineBreak + "Of 100 players with the same bets " + fncOfHundred(luck.Worse) +
-         " would have done worse, " + fncOfHundred(luck.Better) + " better." + strLineBreak +
-         fncExactness(luck);
+  return hands + strLineBreak + "Staked " + fncCurrency(fncOfAll(luck.Staked)) +
+         "; on average the house keeps " + fncCurrency(fncOfAll(luck.Cost)) + " of that." +
+         strLineBreak + fncFortune(luck) + strLineBreak + "Of 100 players with the same bets " +
+         fncOfHundred(luck.Worse) + " would have done worse, " + fncOfHundred(luck.Better) +
+         " better." + strLineBreak + fncExactness(luck);
 }

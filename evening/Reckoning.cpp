@@ -1,6 +1,7 @@
 #include "evening/Reckoning.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -9,10 +10,10 @@ Reckoning rckEvening, rckShoe;
 /// Points of a law times hands of a reckoning, and the least and most points that a law gets of
 /// them: the more hands there are, the less a coarser grid is off.
 constexpr std::size_t lngPointsAndHands = 1U << 23U;
-constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 16U;
+constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 13U;
 
-/// Points that are reckoned at a go.
-constexpr std::size_t lngPortion = 1U << 20U;
+/// Points that are reckoned at a go: some milliseconds' worth.
+constexpr std::size_t lngPortion = 1U << 18U;
 
 /// Shares of the players below the four edges of the band.
 constexpr std::array<double, 4> dblBandShares{0.05, 0.25, 0.75, 0.95};
@@ -64,6 +65,22 @@ Reckoning& fncKept(int shoe) {
 }
 
 }  // namespace
+
+SplitLaw fncSplitLaw(std::vector<HandLaw> hands, std::size_t lngWide) {
+  constexpr std::size_t lngResults = 3;  // Of a hand.
+  std::ranges::sort(hands, std::ranges::greater(), fncSpan);
+  SplitLaw law{.Wide = {.Most = lngWide}};
+  bool blnWide = true;
+  for (const HandLaw& hand : hands) {
+    blnWide = blnWide && law.Wide.Atoms.size() * lngResults <= lngWide;
+    if (blnWide) {
+      prcAddHand(law.Wide, hand);
+    } else {
+      prcAdd(law.Rest, hand);
+    }
+  }
+  return law;
+}
 
 const Reckoning& fncReckoning(int shoe) { return fncKept(shoe); }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <deque>
+#include <vector>
 
 #include "evening/Law.h"
 
@@ -15,6 +16,16 @@ struct BetLaw {
   SumLaw Sum{};
   SumLaw Coarse{};  ///< The same with a quarter of the points: how far they differ tells the error.
 };
+
+/// The bets of an evening in two parts, which add up: the results of the widest of them, each as it
+/// is, and the law of the rest.
+struct SplitLaw {
+  SumLaw Wide{};
+  BetLaw Rest{};
+};
+
+/// Splits bets so that at most lngWide results are kept. Takes a while where there are many.
+SplitLaw fncSplitLaw(std::vector<HandLaw> hands, std::size_t lngWide);
 
 /// What players who bet the same have won up to a hand, in money: half of all lie between the inner
 /// two edges, nine of ten between the outer two.
@@ -34,7 +45,7 @@ struct Reckoning {
 /// last are kept.
 const Reckoning& fncReckoning(int shoe);
 
-/// Reckons on for some hundredths of a second at most. Returns whether all hands are in it.
+/// Reckons on for some milliseconds. Returns whether all hands are in it.
 bool fncReckonOn(int shoe);
 
 /// Forgets all of it, as at the start of the program.

@@ -73,19 +73,21 @@ double fncStaked(const EveningHand& hand, Integer intSeat) {
   return staked;
 }
 
-double fncNet(const EveningHand& hand, Integer intSeat, char result) {
+double fncNet(const EveningHand& hand, Integer intSeat, BetSide side, char result) {
+  const std::int16_t chips = hand.Chips.at(fncAt(intSeat)).at(fncAt(side));
   const std::string letter(1, result);
+  if (chips == 0) {
+    return 0;
+  }
+  return fncWins(side, letter)    ? chips * hand.ChipValue * fncPays(side)
+         : fncLoses(side, letter) ? -fncBetMoney(hand, intSeat, side)
+                                  : 0;
+}
+
+double fncNet(const EveningHand& hand, Integer intSeat, char result) {
   double net = 0;
   for (const BetSide side : betSides) {
-    const std::int16_t chips = hand.Chips.at(fncAt(intSeat)).at(fncAt(side));
-    if (chips == 0) {
-      continue;
-    }
-    if (fncWins(side, letter)) {
-      net += chips * hand.ChipValue * fncPays(side);
-    } else if (fncLoses(side, letter)) {
-      net -= fncBetMoney(hand, intSeat, side);
-    }
+    net += fncNet(hand, intSeat, side, result);
   }
   return net;
 }
@@ -125,7 +127,7 @@ bool fncResetSince() { return blnResetSince; }
 
 double fncStakeNow(Integer intSeat) { return fncGetSetting(fncSeatSection(intSeat), keyStake); }
 
-void prcNoteReset() { blnResetSince = !colEveningHands.empty(); }
+void prcNoteReset() { blnResetSince = blnBusy || !colEveningHands.empty(); }
 
 void prcForgetHands() {
   colEveningHands.clear();

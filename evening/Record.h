@@ -47,9 +47,12 @@ inline int fncTotalOf(const EveningHand& hand, Side side) {
 double fncBetMoney(const EveningHand& hand, Integer intSeat, BetSide side);
 double fncStaked(const EveningHand& hand, Integer intSeat);
 
-/// What the bets of a seat win, less what they lose, in money: on a result 'B', 'P' or 'T', or as
-/// the hand came out. A bet wins by its chips, and loses what was paid for it; the two differ where
-/// the chip value changed in between.
+/// What a bet of a seat wins on a result 'B', 'P' or 'T', or loses, below 0, in money. It wins by
+/// its chips, and loses what was paid for it; the two differ where the chip value changed in
+/// between.
+double fncNet(const EveningHand& hand, Integer intSeat, BetSide side, char result);
+
+/// The same of its three bets, on a result or as the hand came out.
 double fncNet(const EveningHand& hand, Integer intSeat, char result);
 inline double fncNet(const EveningHand& hand, Integer intSeat) {
   return fncNet(hand, intSeat, hand.Result);
@@ -73,7 +76,8 @@ Reach fncReach(int shoe);
 /// settings file.
 void prcNoteHand();
 
-/// The next hand begins anew behind a reset of the statistics.
+/// The next hand, or the one that is being played, begins anew behind a reset of the statistics.
+/// One before all hands is none of the evening.
 void prcNoteReset();
 
 /// Whether the statistics were reset since the last hand.

@@ -67,6 +67,7 @@ void prcCount(EveningProof& proof) {
   }
   const Luck both = fncLuck({});
   proof.Deviation[2] += both.Deviations;
+  proof.Gridded += both.Exact ? 0 : 1;
   const double place = (both.Worse + 1 - both.Better) / 2;
   ++proof.Tenths.at(static_cast<std::size_t>(std::clamp(place * 10, 0.0, 9.0)));
   proof.Hands += static_cast<int>(colEveningHands.size());
@@ -91,7 +92,8 @@ bool EveningProof::fncHolds() const {
     return std::abs(count / seats - share) < 4 * std::sqrt(share * (1 - share) / Evenings);
   };
   constexpr double dblTenthsLikely = 33.7;
-  return likely(InHalf, 0.5) && likely(InNine, 0.9) && fncTenthsSum() < dblTenthsLikely &&
+  return Gridded > Evenings / 2 && likely(InHalf, 0.5) && likely(InNine, 0.9) &&
+         fncTenthsSum() < dblTenthsLikely &&
          std::ranges::all_of(Deviation, [](double luck) { return std::abs(luck) < 4; });
 }
 

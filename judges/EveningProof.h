@@ -10,12 +10,15 @@
 /// Where evenings lay among all that could have come of their bets.
 struct EveningProof {
   int Evenings = 0, Hands = 0;
+  int Gridded = 0;                    ///< Evenings whose law for both seats lay on a grid.
   int InHalf = 0, InNine = 0;         ///< Seats' ends within the bands of 50 % and of 90 %.
   std::array<int, 10> Tenths{};       ///< Evenings of both seats by their place among 100 players.
   std::array<double, 3> Deviation{};  ///< Mean luck of seat 1, seat 2 and both, in its own errors.
   /// Chi-square of Tenths, with nine degrees of freedom.
   double fncTenthsSum() const;
-  /// Whether all of this could well come by chance: one time in some thousands it could not.
+  /// Whether all of this could well come by chance: one time in some thousands it could not. The
+  /// law of most evenings must have lain on a grid, so that it is the grid's law that is held
+  /// against the table.
   bool fncHolds() const;
 };
 

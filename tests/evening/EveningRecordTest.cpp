@@ -5,6 +5,7 @@
 #include "evening/Csv.h"
 #include "evening/Curve.h"
 #include "evening/HandWords.h"
+#include "evening/Luck.h"
 #include "evening/Reasons.h"
 #include "evening/Reckoning.h"
 #include "shell/SettingsStore.h"
@@ -115,6 +116,7 @@ TEST_F(EveningRecord, LosesTheBetsOfAHandInWhichTheStatisticsAreReset) {
   DealResult("P");
   EXPECT_EQ(Money(0), "1000/1000 1000/1000 ") << "the bet went without a refund";
   EXPECT_EQ(fncNet(colEveningHands[0], 0), 0);
+  EXPECT_TRUE(colEveningHands[0].Reset);
 }
 
 TEST_F(EveningRecord, GoesByWhatWasPaidWhereTheChipValueChangedSince) {
@@ -126,7 +128,9 @@ TEST_F(EveningRecord, GoesByWhatWasPaidWhereTheChipValueChangedSince) {
   EXPECT_EQ(Money(0), "1000/1000 1095/1000 ") << "$50 win $95";
   EXPECT_EQ(Money(1), "1000/1000 950/1000 ") << "$50 lose $50";
   EXPECT_EQ(Stored("Player1Stats", "Turnover"), "50");
-  EXPECT_EQ(fncStaked(colEveningHands[0], 0), 50);
+  const Luck luck = fncLuck({.Seat = 0});
+  EXPECT_EQ(luck.Staked[betBanker], 50);
+  EXPECT_NEAR(luck.Cost[betBanker], 0.446247 * 50 - 0.458597 * 95, 0.001) << "as the words say";
 }
 
 TEST_F(EveningRecord, OfOddSettingsDoesNotEndTheGame) {

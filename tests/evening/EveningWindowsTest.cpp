@@ -215,6 +215,12 @@ TEST_F(EveningWindows, ALongEveningIsReckonedInPortionsWhileItsWindowIsOpen) {
   EXPECT_EQ(reckoned(), 4003);
   EXPECT_TRUE(frmCourse.lblLuck.Text.ends_with(" percent."));
   EXPECT_FALSE(frmCourse.tmrFollow.Enabled);
+  for (int n = 0; n < 300; ++n) {
+    colEveningHands.push_back(colEveningHands.back());
+  }
+  prcFollowCourse();
+  headless::Wait(150);
+  EXPECT_EQ(Line("Player 1").Points.back().X, 4303) << "the curve follows a run at once";
 }
 
 TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
@@ -229,7 +235,14 @@ TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
   prcStatistics();
   headless::Wait(300);
   EXPECT_EQ(Line("Stake").Points, (Points{{0, 1000}, {3, 1000}, {3, 1500}}));
+  Bet(betBanker, 0, "20");
   DealResult("P");
+  headless::Wait(300);
+  const auto& lines = frmCourse.crtMoney.Chart->Lines;
+  EXPECT_EQ(lines[2].Points, (Points{{1, 1095}, {3, 895}, {3, 1395}, {4, 1295}}))
+      << "the fall steps with the base line";
+  EXPECT_EQ(lines[3].Points, (Points{{1, 1095}, {2, 995}, {3, 995}, {3, 1495}, {4, 1295}}))
+      << "and so does the run";
   headless::Answer(platform::Answer::Ok);
   headless::WhileModal([] { headless::Click(frmStatistics.cmdResetStats); });
   prcStatistics();
@@ -243,10 +256,10 @@ TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
     }
     return places;
   };
-  EXPECT_EQ(resets(), (Points{{4, 1495}}));
+  EXPECT_EQ(resets(), (Points{{4, 1295}}));
   DealResult("P");
   headless::Wait(300);
-  EXPECT_EQ(resets(), (Points{{4, 1495}})) << "it stays where it was";
+  EXPECT_EQ(resets(), (Points{{4, 1295}})) << "it stays where it was";
   EXPECT_EQ(Line("Stake").Points, (Points{{0, 1000}, {3, 1000}, {3, 1500}, {5, 1500}}));
   EXPECT_EQ(Line("Player 1").Points.back(), (ChartPoint{5, 1500}));
 }
@@ -267,6 +280,8 @@ TEST_F(EveningWindows, AShoeIsTakenAsAnEveningOfItsOwn) {
             "Course of the money over 2 hands. Player 1 came with $500 and has $500, had most, "
             "$600 behind hand 2, and least, $500 behind hand 1. The deepest fall was $100, "
             "from hand 2 to 3. Most losses in a row: 1.");
+  headless::Pick(frmCourse.crtMoney, 0);
+  EXPECT_EQ(frmCourse.lblPointed.Text, "Before the first hand of shoe 2");
   const auto& band = frmCourse.crtMoney.Chart->Bands.front().Spans;
   EXPECT_EQ(band.front().Low, band.front().High) << "nothing has been bet yet";
   EXPECT_EQ((std::array{band.back().Low, band.back().High}), (std::array{300.0, 700.0}));
