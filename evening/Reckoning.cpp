@@ -10,7 +10,7 @@ Reckoning rckEvening, rckShoe;
 /// Points of a law times hands of a reckoning, and the least and most points that a law gets of
 /// them: the more hands there are, the less a coarser grid is off.
 constexpr std::size_t lngPointsAndHands = 1U << 23U;
-constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 13U;
+constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 12U;
 
 /// Points that are reckoned at a go: some milliseconds' worth.
 constexpr std::size_t lngPortion = 1U << 18U;
