@@ -103,27 +103,6 @@ TEST(Law, OnACoarseGridStaysNearTheExactOne) {
   }
 }
 
-TEST(Luck, IsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
-  // Seat 0 bets $100 on the Banker of three hands, seat 1 a chip on the first tie.
-  const std::vector<EveningHand> hands{fncHand('B', {0, 10, 0}, 10, 8, {1, 0, 0}),
-                                       fncHand('P', {0, 10, 0}), fncHand('B', {0, 10, 0})};
-  const Luck luck = fncLuckOf(hands, {.Seat = 0});
-  EXPECT_EQ(luck.Hands, 3);
-  EXPECT_EQ(luck.Staked[betBanker], 300);
-  EXPECT_NEAR(luck.Cost[betBanker], 3.17, 0.005);
-  EXPECT_DOUBLE_EQ(luck.Won, 90);
-  EXPECT_NEAR(luck.Fortune, 93.17, 0.005);
-  EXPECT_NEAR(luck.Deviation, 160.63, 0.005);
-  EXPECT_NEAR(luck.Deviations, 0.58, 0.005);
-  EXPECT_NEAR(luck.Worse, 0.549505, 1e-6);
-  EXPECT_NEAR(luck.Better, 0.168943, 1e-6);
-  EXPECT_TRUE(luck.Exact);
-  EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Hands, 1);
-  EXPECT_EQ(fncLuckOf(hands, {.Seat = 1}).Won, -10);
-  EXPECT_EQ(fncLuckOf(hands, {}).Won, 80);
-  EXPECT_EQ(fncLuckOf(hands, {.Seat = -1, .Shoe = 2}).Hands, 0);
-}
-
 /// Big bets on the Player and small ones on the Banker behind them, every second one won.
 std::vector<EveningHand> fncBigThenSmall(int big, std::int32_t bigUnit, int small,
                                          std::int32_t smallUnit, std::int16_t smallChips) {
