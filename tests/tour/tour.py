@@ -103,6 +103,11 @@ class Tour:
     def shows(self, pattern, sentence, seconds=10):
         return self.wait(lambda: self.find(pattern), sentence, seconds)
 
+    def frame_shows(self):
+        """Of a minimised window a screen reader is told as of any other."""
+        search = ["xdotool", "search", "--onlyvisible", "--name", "^Velmora$"]
+        return subprocess.run(search, stdout=subprocess.DEVNULL, check=False).returncode == 0
+
     def setting(self, section, key):
         """A value of the settings file, without its blanks."""
         text = self.ini.read_text("latin-1") if self.ini.exists() else ""
@@ -142,9 +147,12 @@ class Tour:
     def click_table(self, place):
         self.do("mousemove", *self.on_table(place), "sleep", "0.05", "click", 1)
 
+    def start_program(self, **streams):
+        return self.start(self.home / "velmora", stderr=open(self.pictures / "velmora.log", "a"), **streams)
+
     def enter_table(self, *way):
-        self.program = self.start(self.home / "velmora", stderr=open(self.pictures / "velmora.log", "w"))
-        self.shows("Click to START", "the start screen does not show", 20)
+        self.program = self.start_program()
+        self.shows("Click to START", "the start screen does not show", 60)
         self.picture("start-screen")
         self.click("Click to START" if not way else r"\|Version 1")
         self.do(*way)
@@ -233,6 +241,22 @@ class Tour:
         self.shows("Contents", "the help does not open")
         self.picture("help")
         self.do("key", "alt+F4")
+        self.wait(lambda: not self.find("Contents"), "the help does not close")
+
+    def start_again_and_crash(self):
+        """A second start brings the first to the front; another user has a program of their own; a crash locks nobody
+        out."""
+        self.do("getactivewindow", "windowminimize", "sleep", 1)
+        if self.frame_shows():
+            self.fail("the frame is not minimised")
+        if self.start_program().wait(60) != 0:
+            self.fail("a second start does not end well")
+        self.wait(self.frame_shows, "a second start does not bring the first to the front")
+        other = self.start_program(env={**os.environ, "XDG_DATA_HOME": str(self.home / "other")})
+        self.shows("Click to START", "another user cannot start the program")
+        for program in other, self.program:
+            program.kill()
+            program.wait()
 
     def play(self):
         self.enter_table()
@@ -241,7 +265,7 @@ class Tour:
         self.deal_ten_hands()
         self.squeeze_a_hand()
         self.use_the_menus()
-        self.leave()
+        self.start_again_and_crash()
         self.enter_table("key", "s")
         total = int(1000 + float(self.setting("Player1Stats", "Win")) + 0.5)
         self.shows(rf"\${total:,}\|Stake and winnings", f"the first seat does not find its {total} again")
