@@ -20,6 +20,7 @@ void prcPrepareEveningWindow(Window& form, const char* name, const char* caption
                              double height, const WindowEvents& events) {
   form.Name = name;
   form.Kind = WindowKind::Float;
+  form.BeforeFrame = true;
   form.On = &events;
   form.Caption = caption;
   form.FixedInner = true;

@@ -56,6 +56,7 @@ struct Window {
   bool CloseBox = true;
   bool Visible = false;
   bool Topmost = false;
+  bool BeforeFrame = false;  ///< Floating: the frame never covers it.
   bool Maximised = false;
   bool Centred = false;
   Colour BackColor = clrWhite;

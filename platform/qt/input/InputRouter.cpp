@@ -88,6 +88,12 @@ void prcShowDown(QWidget* widget, bool blnDown) {
   }
 }
 
+/// A card that was pulled from within its edges is no card that was clicked: who meant to squeeze
+/// it would see it turned.
+bool fncWandered(const Control& control, QPointF way) {
+  return control.Dress == Look::Card && way.manhattanLength() > QApplication::startDragDistance();
+}
+
 }  // namespace
 
 InputRouter::InputRouter(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
@@ -163,6 +169,13 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
         }
       }
       break;
+    case QEvent::WindowStateChange:
+      if (WindowView* frame = fncFrameView();
+          frame != nullptr && frame->Shell == &widget &&
+          static_cast<QWindowStateChangeEvent*>(event)->oldState() == Qt::WindowMaximized) {
+        prcRestoreFrame(*frame);
+      }
+      break;
     case QEvent::WindowActivate:
       // The toolkit passes it on to all children; none of them is meant.
       if (WindowView* view = fncWindowViewOf(&widget);
@@ -206,7 +219,7 @@ bool InputRouter::fncPressControl(Control& control, QWidget& widget, const QMous
   }
   // A box that selects its text as it gets the focus keeps it so: this press is not the toolkit's.
   const bool blnSelects = control.Form->ActiveControl != &control;
-  held_ = {&control, control.Serial, own, event.button(), false};
+  held_ = {&control, control.Serial, own, event.button(), false, event.globalPosition()};
   const Mouse mouse = fncMouse(*own, event.globalPosition(), fncButton(event.button()));
   bool blnStands = false;
   prcServe([&] { blnStands = fncUserPress(control, mouse); });
@@ -303,8 +316,8 @@ void InputRouter::prcRelease(QPointF global) {
   }
   QWidget* widget = held.Widget;
   prcShowDown(widget, false);
-  const bool blnInside =
-      widget->isVisible() && widget->rect().contains(widget->mapFromGlobal(global).toPoint());
+  const bool blnInside = widget->isVisible() && !fncWandered(*control, global - held.From) &&
+                         widget->rect().contains(widget->mapFromGlobal(global).toPoint());
   const Mouse mouse = fncMouse(*widget, global, fncButton(held.Button));
   prcServe([&] { prcUserRelease(*control, mouse, blnInside); });
 }

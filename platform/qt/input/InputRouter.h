@@ -38,6 +38,7 @@ class InputRouter : public QObject {
     QPointer<QWidget> Widget;
     Qt::MouseButton Button = Qt::NoButton;  ///< None while there is no press.
     bool blnNative = false;                 ///< The toolkit's widget follows the press by itself.
+    QPointF From;                           ///< Where on the screen it began.
   };
 
   // Each tells whether the event goes no further.

@@ -225,6 +225,17 @@ void prcTurnFullScreen() {
   }
 }
 
+/// For those who do not know the key that led there. A dialog keeps the frame as it is.
+bool fncLeaveFullScreen(const Window& window) {
+  const WindowView* frame = fncFrameView();
+  const bool blnFull =
+      frame != nullptr && frame->Shell->isFullScreen() && window.Kind != WindowKind::Dialog;
+  if (blnFull) {
+    prcTurnFullScreen();
+  }
+  return blnFull;
+}
+
 /// The keys for the program as a whole. A dialog keeps the frame behind it as it is.
 bool fncProgramKey(const Window& window, const QKeyEvent& event) {
   const bool blnBare = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -264,7 +275,9 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   }
   Control* focused = window.ActiveControl;
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
-    return event.isAutoRepeat() || fncAnswerKey(window, focused, key);  // One press, one hand.
+    // One press, one hand.
+    return event.isAutoRepeat() || fncAnswerKey(window, focused, key) ||
+           (key == Qt::Key_Escape && fncLeaveFullScreen(window));
   }
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
     return false;

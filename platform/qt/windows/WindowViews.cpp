@@ -30,6 +30,11 @@ QScrollArea& fncScrolled(const WindowView& frame) {
   return *static_cast<QScrollArea*>(static_cast<QMainWindow*>(frame.Shell.data())->centralWidget());
 }
 
+/// Of the desk in both directions: a frame that takes more has had no size but the largest, and
+/// gets the other one when it is restored.
+constexpr double dblWhole = 0.95;
+constexpr double dblRestored = 0.8;
+
 /// What may be used of the screen that the frame is on.
 QRect fncDesk() {
   const WindowView* frame = fncFrameView();
@@ -222,7 +227,7 @@ void prcPlaceWindow(WindowView& view) {
 void prcShowTop(WindowView& view) {
   const Window& window = *view.Source;
   const WindowView* frame = fncFrameView();
-  if (window.Kind == WindowKind::Dialog && frame != nullptr) {
+  if ((window.Kind == WindowKind::Dialog || window.BeforeFrame) && frame != nullptr) {
     view.Shell->winId();
     view.Shell->windowHandle()->setTransientParent(frame->Shell->windowHandle());
   }
@@ -418,6 +423,18 @@ void prcSyncWindow(WindowView& view) {
   prcKeepInner(view);
   view.Drawn = fncDrawn(view);
   view.blnFirst = false;
+}
+
+void prcRestoreFrame(WindowView& frame) {
+  const QRect desk = fncDesk();
+  const QRect now = frame.Shell->frameGeometry();
+  const bool blnAsLarge =
+      now.width() > desk.width() * dblWhole && now.height() > desk.height() * dblWhole;
+  if (frame.Shell->windowState() == Qt::WindowNoState && blnAsLarge) {
+    QRect place(QPoint(), desk.size() * dblRestored);
+    place.moveCenter(desk.center());
+    frame.Shell->setGeometry(place);
+  }
 }
 
 bool fncWindowMoved(WindowView& view) {

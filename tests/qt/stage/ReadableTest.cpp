@@ -45,6 +45,7 @@ class Readable : public Game {
     Start();
     QWindow& frame = *stage::fncView(MDIForm1.Form).Shell->windowHandle();
     frame.setWindowStates(Qt::WindowNoState);
+    user::Settle();
     frame.setGeometry(0, 0, static_cast<int>(std::ceil(960 * scale)),
                       static_cast<int>(std::ceil(700 * scale)));
     user::Settle();

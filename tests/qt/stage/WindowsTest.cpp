@@ -147,6 +147,7 @@ TEST_F(Windows, TheTableIsDrawnAsLargeAsTheFrameLets) {
   };
   const QWidget& shuffle = *stage::fncWidget(BaccTable.maisyk);
   frame.setWindowStates(Qt::WindowNoState);
+  user::Settle();
   size(1536, 1050);
   EXPECT_EQ(qt::fncScale(), 1.5);
   EXPECT_EQ(shuffle.geometry(), qt::fncPlace(BaccTable.maisyk));
