@@ -144,7 +144,7 @@ void prcAddFall(Sheet& sheet) {
 
 void prcAddRun(Sheet& sheet) {
   const Stretch run = fncLongestLosingRun(sheet.Seat, sheet.Shoe);
-  if (run.Amount == 0) {
+  if (run.Amount < 2) {
     return;
   }
   sheet.Chart.Lines.push_back(

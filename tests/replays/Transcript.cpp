@@ -29,9 +29,9 @@ std::string fncColour(const Colour& c) {
       {"0,0,0", "black"},       {"255,255,255", "white"}, {"192,0,0", "dark red"},
       {"0,0,128", "dark blue"}, {"0,192,0", "green"},     {"255,64,64", "red"},
       {"0,0,255", "blue"}};
-  const std::string numbers = fncPair(c.Red, ",", c.Green) + "," + fncNumber(c.Blue);
-  const auto known = names.find(numbers);
-  return c.Clear ? "clear" : known != names.end() ? known->second : numbers;
+  const std::string rgb = fncPair(c.Red, ",", c.Green) + "," + fncNumber(c.Blue);
+  const auto known = names.find(rgb);
+  return c.Clear ? "clear" : known != names.end() ? known->second : rgb;
 }
 
 std::string fncIndexed(const std::string& name, int index) {
@@ -203,8 +203,8 @@ void Transcript::prcTellBoxes() {
               choice + "]: " + fncPiped(box.Text));
   }
   user::ForgetBoxes();
-  for (auto* calls : {&headless::Opened(), &headless::HelpShown()}) {
-    for (const std::string& call : *calls) {
+  for (auto* opened : {&headless::Opened(), &headless::HelpShown()}) {
+    for (const std::string& call : *opened) {
       const std::size_t help = call.find("VELMORA.HLP");
       prcClause("opens " + call.substr(help == std::string::npos ? 0 : help));
     }

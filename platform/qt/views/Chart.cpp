@@ -232,27 +232,46 @@ void prcDrawDot(const Sheet& sheet, QPointF at, const QColor& ink) {
   sheet.Painter.drawEllipse(at, dblDot * sheet.Pixel, dblDot * sheet.Pixel);
 }
 
-/// A dot with its text to the right of it, or to the left where there is no room, on a plate of
-/// paper so that lines do not run through it.
-void prcDrawMark(const Sheet& sheet, const ChartMark& mark) {
-  const QPointF at = sheet.fncAt(mark.At);
-  const QColor ink = fncColour(mark.Ink);
-  prcDrawDot(sheet, at, ink);
-  const QString text = fncText(mark.Text);
-  const QSizeF size(sheet.Metrics.horizontalAdvance(text) + 8 * sheet.Pixel,
-                    sheet.Metrics.height() + 2 * sheet.Pixel);
+/// Where the text of a mark lies: to the right of its dot, or to the left where there is no room,
+/// and as little above or below as keeps it off the texts before it.
+QRectF fncPlate(const Sheet& sheet, QPointF at, QSizeF size, const std::vector<QRectF>& taken) {
   const double gap = 8 * sheet.Pixel;
   const bool blnRight = at.x() + gap + size.width() <= sheet.fncRight();
-  const double top =
-      std::clamp(at.y() - size.height() / 2, sheet.Plot.Top, sheet.fncBottom() - size.height());
-  const QRectF plate(QPointF(blnRight ? at.x() + gap : at.x() - gap - size.width(), top), size);
+  const double left = blnRight ? at.x() + gap : at.x() - gap - size.width();
+  const auto plate = [&](int row) {
+    const double top = at.y() + (row - 0.5) * size.height();
+    return QRectF(QPointF(left, std::clamp(top, sheet.Plot.Top, sheet.fncBottom() - size.height())),
+                  size);
+  };
+  for (const int row : {0, 1, -1, 2, -2, 3, -3}) {
+    if (std::ranges::none_of(taken,
+                             [&](const QRectF& other) { return other.intersects(plate(row)); })) {
+      return plate(row);
+    }
+  }
+  return plate(0);
+}
+
+/// Dots, and beside each its text on a plate of paper so that lines do not run through it.
+void prcDrawMarks(const Sheet& sheet) {
   QColor paper = QColor::fromRgb(rgbPaper);
   paper.setAlpha(225);
-  sheet.Painter.setPen(Qt::NoPen);
-  sheet.Painter.setBrush(paper);
-  sheet.Painter.drawRoundedRect(plate, 3 * sheet.Pixel, 3 * sheet.Pixel);
-  sheet.Painter.setPen(ink);
-  sheet.Painter.drawText(plate, Qt::AlignCenter, text);
+  std::vector<QRectF> taken;
+  for (const ChartMark& mark : sheet.Data.Marks) {
+    const QString text = fncText(mark.Text);
+    const QSizeF size(sheet.Metrics.horizontalAdvance(text) + 8 * sheet.Pixel,
+                      sheet.Metrics.height() + 2 * sheet.Pixel);
+    const QRectF plate = fncPlate(sheet, sheet.fncAt(mark.At), size, taken);
+    taken.push_back(plate);
+    sheet.Painter.setPen(Qt::NoPen);
+    sheet.Painter.setBrush(paper);
+    sheet.Painter.drawRoundedRect(plate, 3 * sheet.Pixel, 3 * sheet.Pixel);
+    sheet.Painter.setPen(fncColour(mark.Ink));
+    sheet.Painter.drawText(plate, Qt::AlignCenter, text);
+  }
+  for (const ChartMark& mark : sheet.Data.Marks) {
+    prcDrawDot(sheet, sheet.fncAt(mark.At), fncColour(mark.Ink));
+  }
 }
 
 /// What has a name, in a row above the lines: bands by a patch, lines by a stroke.
@@ -333,9 +352,7 @@ void prcDrawChart(QPainter& painter, const Control& control, const QRectF& rect)
     for (const ChartLine& line : sheet.Data.Lines) {
       prcDrawLine(sheet, line);
     }
-    for (const ChartMark& mark : sheet.Data.Marks) {
-      prcDrawMark(sheet, mark);
-    }
+    prcDrawMarks(sheet);
     prcDrawPicked(sheet, control.ListIndex);
     painter.setClipping(false);
     prcDrawLegend(sheet);
