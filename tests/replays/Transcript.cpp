@@ -208,7 +208,7 @@ void Transcript::prcTellBoxes() {
       const std::size_t help = call.find("VELMORA.HLP");
       prcClause("opens " + call.substr(help == std::string::npos ? 0 : help));
     }
-    calls->clear();
+    opened->clear();
   }
   prcTell("program", "program", user::Ended() ? "ended" : blnBusy ? "busy" : "waits");
 }
