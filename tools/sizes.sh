@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # Lines of tests for a hundred of code. The aim is 33; this is what has been reached, and only ever comes down.
-most_percent=55
+most_percent=42
 code=('*.cpp' '*.h' ':!tests' ':!judges' ':!bench' ':!fuzz')
 # Whatever judges is a test: also the fuzz targets, and the random user's program.
 judges=(judges fuzz bench/random_user.cpp)

@@ -56,6 +56,20 @@ TEST_F(Input, APressThatMovesALittleKeepsTheSelection) {
   EXPECT_EQ(box_.Text, "7");
 }
 
+TEST_F(Input, ACardThatIsPulledFromWithinItsEdgesIsNotTurned) {
+  blnCardFaceUp = false;
+  user::After(4000, [] {
+    Control& back = BaccTable.pctCardBack[0];
+    user::Press(back, 500, 700);
+    user::Drag(back, 500, 200);
+    user::Release(back, 500, 200);
+    EXPECT_TRUE(back.Visible && blnCardClickable[0]);
+    TurnNext();
+  });
+  user::Click(BaccTable.duokkortos[0]);
+  EXPECT_FALSE(BaccTable.pctCardBack[0].Visible);
+}
+
 TEST_F(Input, WhatAnAssistiveToolPutsIntoABoxIsCheckedAsItIsLeft) {
   const auto put = [](const Control& box, const char* text) {
     QAccessible::queryAccessibleInterface(fncWidget(box))
