@@ -61,18 +61,29 @@ struct Placing {
   Placing& operator=(const Placing&) = delete;
 };
 
+/// The chips that are missing to those of bets; below 0 where there are too many.
+std::int64_t fncMissing(Bets bets, Integer intSeat, BetSide side) {
+  return fncChipsOf(bets, intSeat, side) - fncInteger(fncBetChips(side, intSeat));
+}
+
+/// Banker or Player, where the bet on the other one goes up: that takes it off by itself, with its
+/// money, and leaves it where it is refused.
+bool fncGivesWay(const Bets& bets, Integer intSeat, BetSide side) {
+  return side != betTie && fncMissing(bets, intSeat, side == betBanker ? betPlayer : betBanker) > 0;
+}
+
 /// Clicks chips until the bets are these, as far as the tests let them. What goes down goes first:
-/// its money may be needed for what goes up.
-void prcPlace(Bets bets) {
+/// its money may be needed for what goes up; and for the tie that of a side that gives way.
+void prcPlace(const Bets& bets) {
   const Placing placing;
   if (bets == fncBetsNow() || !fncSetFocus(BaccTable.txtsetfocus)) {
     return;
   }
   for (const bool blnDown : {true, false}) {
     for (int i = 0; i < intSeats; ++i) {
-      for (const BetSide side : betSides) {
-        const std::int64_t more = fncChipsOf(bets, i, side) - fncInteger(fncBetChips(side, i));
-        if (blnDown ? more < 0 : more > 0) {
+      for (const BetSide side : {betBanker, betPlayer, betTie}) {
+        const std::int64_t more = fncMissing(bets, i, side);
+        if (blnDown ? more < 0 && !fncGivesWay(bets, i, side) : more > 0) {
           prcBetInc(side, i, more);
         }
       }

@@ -1,5 +1,7 @@
 #include "evening/Csv.h"
 
+#include <cmath>
+
 #include "evening/HandWords.h"
 #include "evening/Reasons.h"
 #include "evening/Record.h"
@@ -37,7 +39,7 @@ std::string fncSeatFields(const EveningHand& hand, int i) {
   for (const double money :
        {fncBetMoney(hand, i, betBanker), fncBetMoney(hand, i, betPlayer),
         fncBetMoney(hand, i, betTie), fncMoneyBefore(hand, i), hand.Money.at(seat)}) {
-    fields += fncPlainNumberText(money) + ',';
+    fields += fncPlainNumberText(std::round(money * 100) / 100) + ',';  // To the cent.
   }
   return fields + fncPlainNumberText(hand.Stake.at(seat)) + ',';
 }

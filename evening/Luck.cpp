@@ -87,7 +87,12 @@ Luck fncLuck(const Scope& scope) {
   luck.Deviations = luck.Deviation > 0 ? luck.Fortune / luck.Deviation : 0;
   prcCompare(luck, {.Rest = law});
   for (std::size_t wide = lngLeastWide; luck.Error > dblMostError && wide <= lngMostWide;) {
-    prcCompare(luck, fncSplitLaw(fncHandLaws(scope), wide));
+    Luck finer = luck;
+    prcCompare(finer, fncSplitLaw(fncHandLaws(scope), wide));
+    if (finer.Error >= luck.Error) {
+      break;
+    }
+    luck = finer;
     wide *= 4;
   }
   return luck;

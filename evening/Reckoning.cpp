@@ -7,10 +7,9 @@ namespace {
 
 Reckoning rckEvening, rckShoe;
 
-/// Points of a law times hands of a reckoning, and the least and most points that a law gets of
-/// them: the more hands there are, the less a coarser grid is off.
-constexpr std::size_t lngPointsAndHands = 1U << 23U;
-constexpr std::size_t lngLeastPoints = 1U << 11U, lngMostPoints = 1U << 12U;
+/// Results of a law, or points of its grid, and those of the coarser one that tells how far the
+/// first may be off. With half as many an evening of 4,000 hands would be off by half a percent.
+constexpr std::size_t lngPoints = 1U << 12U, lngCoarsePoints = lngPoints / 4;
 
 /// Points that are reckoned at a go: some milliseconds' worth.
 constexpr std::size_t lngPortion = 1U << 18U;
@@ -23,9 +22,8 @@ void prcAdd(BetLaw& law, const HandLaw& hand) {
     return;
   }
   ++law.Hands;
-  const auto hands = static_cast<std::size_t>(law.Hands);
-  law.Sum.Most = std::clamp(lngPointsAndHands / hands, lngLeastPoints, lngMostPoints);
-  law.Coarse.Most = law.Sum.Most / 4;
+  law.Sum.Most = lngPoints;
+  law.Coarse.Most = lngCoarsePoints;
   prcAddHand(law.Sum, hand);
   prcAddHand(law.Coarse, hand);
 }

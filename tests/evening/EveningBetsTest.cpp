@@ -113,6 +113,15 @@ TEST_F(EveningBets, ThatCannotComeBackDoNotBlockThoseBefore) {
   EXPECT_EQ(Table(), "0/0/0 $150, 0/0/0 $1,000");
 }
 
+TEST_F(EveningBets, ThatAreRefusedLeaveTheOneOnTheOtherSide) {
+  Bet(betPlayer, 0, "60");
+  DealResult("B");
+  Bet(betBanker, 0, "5");
+  Repeat();
+  EXPECT_EQ(LastBox().substr(0, 33), "Sorry, not enough money for the b");
+  EXPECT_EQ(Table(), "0/5/0 $350, 0/0/0 $1,000");
+}
+
 TEST_F(EveningBets, ThatStoodAtAnotherChipValueAreNotBroughtBack) {
   Bet(betBanker, 0, "5");
   user::Type(BaccTable.txtUnitValue, "20");
