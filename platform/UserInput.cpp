@@ -158,7 +158,6 @@ bool fncUserReach(Control& control) {
 }
 
 bool fncUserPress(Control& control, const Mouse& mouse) {
-  prcNotePointer(control, mouse);
   if (!fncUserReach(control)) {
     return false;
   }

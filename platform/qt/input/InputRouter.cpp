@@ -173,7 +173,7 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       if (WindowView* frame = fncFrameView();
           frame != nullptr && frame->Shell == &widget &&
           static_cast<QWindowStateChangeEvent*>(event)->oldState() == Qt::WindowMaximized) {
-        prcRestoreFrame(*frame);
+        prcRestoreFrame(*frame->Shell);
       }
       break;
     case QEvent::WindowActivate:

@@ -225,6 +225,10 @@ void prcTurnFullScreen() {
   }
 }
 
+bool fncBare(const QKeyEvent& event) {
+  return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 /// For those who do not know the key that led there. A dialog keeps the frame as it is.
 bool fncLeaveFullScreen(const Window& window) {
   const WindowView* frame = fncFrameView();
@@ -238,10 +242,9 @@ bool fncLeaveFullScreen(const Window& window) {
 
 /// The keys for the program as a whole. A dialog keeps the frame behind it as it is.
 bool fncProgramKey(const Window& window, const QKeyEvent& event) {
-  const bool blnBare = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-  if (blnBare && event.key() == Qt::Key_F1) {
+  if (fncBare(event) && event.key() == Qt::Key_F1) {
     prcServe([&] { prcUserHelp(window); });
-  } else if (blnBare && event.key() == Qt::Key_F11 && window.Kind != WindowKind::Dialog) {
+  } else if (fncBare(event) && event.key() == Qt::Key_F11 && window.Kind != WindowKind::Dialog) {
     prcTurnFullScreen();
   } else {
     return false;
@@ -277,7 +280,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
     // One press, one hand.
     return event.isAutoRepeat() || fncAnswerKey(window, focused, key) ||
-           (key == Qt::Key_Escape && fncLeaveFullScreen(window));
+           (key == Qt::Key_Escape && fncBare(event) && fncLeaveFullScreen(window));
   }
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
     return false;

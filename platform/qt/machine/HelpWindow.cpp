@@ -13,7 +13,6 @@
 #include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
-#include <QWindow>
 #include <algorithm>
 #include <memory>
 
@@ -69,7 +68,7 @@ void prcTellNoHelp(const std::string& file) {
 /// A dialog keeps the input from every other window, and may stand above all: help that is asked
 /// for in one comes up as a dialog before it, until it is closed.
 void prcFaceDialogs(QWidget& window) {
-  QWidget* dialog = QApplication::activeModalWidget();
+  const QWidget* dialog = QApplication::activeModalWidget();
   const Qt::WindowModality wanted = dialog == nullptr ? Qt::NonModal : Qt::ApplicationModal;
   if (dialog == &window || window.windowModality() == wanted) {
     return;
@@ -77,8 +76,6 @@ void prcFaceDialogs(QWidget& window) {
   window.hide();
   window.setWindowModality(wanted);
   window.setWindowFlag(Qt::WindowStaysOnTopHint, dialog != nullptr);
-  window.winId();  // Makes the window of the display, which is to stand before the dialog's.
-  window.windowHandle()->setTransientParent(dialog == nullptr ? nullptr : dialog->windowHandle());
 }
 
 }  // namespace

@@ -57,12 +57,13 @@ bool fncLooksChanged(const Control& drawn, const Control& next) {
 }
 
 void prcUpdatePainted(ControlView& view, const Control& next, bool blnFirst) {
-  if (blnFirst) {
-    return;
-  }
   auto* widget = static_cast<PaintedView*>(view.Widget.data());
   const bool blnBent = next.Visible && fncIsBent(next);
-  if (blnBent != (view.Drawn.Visible && fncIsBent(view.Drawn))) {
+  if (blnFirst && !blnBent) {
+    return;
+  }
+  // What lies below a bent back is another picture at another scale.
+  if (blnFirst || blnBent != (view.Drawn.Visible && fncIsBent(view.Drawn))) {
     widget->prcKeepBelow(blnBent ? fncBelow(view, fncPlace(next)) : QPixmap());
   } else if (fncLooksChanged(view.Drawn, next)) {
     widget->update();

@@ -30,10 +30,13 @@ QScrollArea& fncScrolled(const WindowView& frame) {
   return *static_cast<QScrollArea*>(static_cast<QMainWindow*>(frame.Shell.data())->centralWidget());
 }
 
-/// Of the desk in both directions: a frame that takes more has had no size but the largest, and
-/// gets the other one when it is restored.
+/// Of the desk in both directions: a restored frame that takes more has had no size but the
+/// largest, and gets the other one.
 constexpr double dblWhole = 0.95;
 constexpr double dblRestored = 0.8;
+
+/// Milliseconds in which a window manager has told the size of what it restores.
+constexpr int intRestored = 100;
 
 /// What may be used of the screen that the frame is on.
 QRect fncDesk() {
@@ -42,6 +45,14 @@ QRect fncDesk() {
                               ? frame->Shell->screen()
                               : QGuiApplication::primaryScreen();
   return screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 700);
+}
+
+bool fncTakesDesk(const QWidget& shell) {
+  const auto takes = [](int length, int all) {
+    return length > all * dblWhole && length * dblWhole < all;
+  };
+  const QSize now = shell.frameGeometry().size(), desk = fncDesk().size();
+  return takes(now.width(), desk.width()) && takes(now.height(), desk.height());
 }
 
 /// A dialog and the start screen have no entry in the task bar.
@@ -55,7 +66,9 @@ Qt::WindowFlags fncFlags(const Window& window) {
       flags |= Qt::Tool;
       break;
     default:
-      flags |= Qt::Window;
+      // A window manager hears of a plain window's frame from the toolkit only where it is a
+      // dialog.
+      flags |= window.BeforeFrame ? Qt::Dialog : Qt::Window;
   }
   return flags.setFlag(Qt::WindowCloseButtonHint, window.CloseBox);
 }
@@ -425,16 +438,17 @@ void prcSyncWindow(WindowView& view) {
   view.blnFirst = false;
 }
 
-void prcRestoreFrame(WindowView& frame) {
-  const QRect desk = fncDesk();
-  const QRect now = frame.Shell->frameGeometry();
-  const bool blnAsLarge =
-      now.width() > desk.width() * dblWhole && now.height() > desk.height() * dblWhole;
-  if (frame.Shell->windowState() == Qt::WindowNoState && blnAsLarge) {
-    QRect place(QPoint(), desk.size() * dblRestored);
-    place.moveCenter(desk.center());
-    frame.Shell->setGeometry(place);
+void prcRestoreFrame(QWidget& shell) {
+  if (!fncTakesDesk(shell)) {
+    return;
   }
+  QTimer::singleShot(intRestored, &shell, [&shell] {
+    if (shell.windowState() == Qt::WindowNoState && fncTakesDesk(shell)) {
+      QRect place(QPoint(), fncDesk().size() * dblRestored);
+      place.moveCenter(fncDesk().center());
+      shell.setGeometry(place);
+    }
+  });
 }
 
 bool fncWindowMoved(WindowView& view) {

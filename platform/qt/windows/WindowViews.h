@@ -24,7 +24,7 @@ void prcFitField();
 void prcKeepPlaces(double before);
 
 /// The frame is no longer maximised: one that has never had a smaller size gets one that shows it.
-void prcRestoreFrame(WindowView& frame);
+void prcRestoreFrame(QWidget& shell);
 
 /// The user or the window manager has moved or sized a window: its place goes into the model.
 /// Returns whether the screen is to follow: its resize handler is due, or it is the frame.
