@@ -6,7 +6,9 @@
 
 namespace {
 
-constexpr double dblStep = 45;  ///< Twips: less than any gap that lets the ground be seen.
+constexpr double dblStep = 15;  ///< Twips.
+/// Steps on bare ground that one sees and aims through: a card and its strip are one step apart.
+constexpr int intBareSteps = 3;
 
 /// Where the pointer was told of last: a place of the window, in twips. Over is compared only.
 struct Pointed {
@@ -56,10 +58,11 @@ bool fncCrossesGround(const Control& control, const Mouse& mouse) {
   const double x = to.X - from.X;
   const double y = to.Y - from.Y;
   const int steps = static_cast<int>(std::max(std::abs(x), std::abs(y)) / dblStep);
-  for (int step = 1; step < steps; ++step) {
-    if (fncBare(*control.Form, from.X + x * step / steps, from.Y + y * step / steps)) {
-      return true;
-    }
+  int bare = 0;
+  for (int step = 1; step < steps && bare < intBareSteps; ++step) {
+    const bool blnBare =
+        fncBare(*control.Form, from.X + x * step / steps, from.Y + y * step / steps);
+    bare = blnBare ? bare + 1 : 0;
   }
-  return false;
+  return bare == intBareSteps;
 }
