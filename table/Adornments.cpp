@@ -1,6 +1,7 @@
 #include "table/Adornments.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "table/Bets.h"
 
@@ -41,13 +42,14 @@ void prcAdornCards() {
   }
 }
 
-/// The chips of a bet beside its money: hollow while the hand that lost them is told. The money of
-/// a lost bet is struck out as long as it stands there.
+/// The chips of a bet beside its money, not those that are just being typed: hollow while the hand
+/// that lost them is told. The money of a lost bet is struck out as long as it stands there.
 void prcAdornBet(BetSide side, int intSeat) {
   const BetControls bet = fncBet(side, intSeat);
-  const bool blnStands = fncBetStands(side, intSeat);
+  const bool blnStands = bet.Money != 0;
   const bool blnLost = BaccTable.Timer1.Enabled && fncLoses(side, strResult[intShoeNumber]);
-  bet.Stack.Value = fncBetChips(side, intSeat);
+  const double unit = fncUnitValue();
+  bet.Stack.Value = unit > 0 ? std::round(bet.Money / unit) : 0;
   bet.Stack.Visible = bet.Value.Visible && blnStands;
   bet.Stack.Enabled = !blnLost;
   bet.Value.Face.Struck = blnLost || !blnStands;

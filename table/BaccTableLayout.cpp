@@ -262,13 +262,12 @@ void prcLaySeat(int seat) {
   for (const BetRow& row : rowBets) {
     prcLayBet(row, seat);
   }
-  constexpr double dblMargin = 60;
-  const double wide = dblSeatEdges.at(static_cast<std::size_t>(seat) + 1) - left - 2 * dblMargin;
-  prcAdd({&t.lblPlayerTotal[seat], "lblPlayerTotal", seat, Label, left + dblMargin, 4020, wide, 255,
-          "", "Stake and winnings"});
+  const double money = seat == 0 ? 4110 : 5490;
+  prcAdd({&t.lblPlayerTotal[seat], "lblPlayerTotal", seat, Label, money, 4020, 1095, 255, "",
+          "Stake and winnings"});
   prcDress(t.lblPlayerTotal[seat], {.Size = 10.5F, .Bold = true}, clrIvory, Alignment::Right);
-  prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, left + dblMargin, 4350,
-          wide, 255, "", "Winnings"});
+  prcAdd({&t.lblPlayerWinnings[seat], "lblPlayerWinnings", seat, Label, money, 4350, 1095, 255, "",
+          "Winnings"});
   prcDress(t.lblPlayerWinnings[seat], tpeText, clrQuiet, Alignment::Right);
   t.lblPlayerTotal[seat].Dress = t.lblPlayerWinnings[seat].Dress = Look::Money;
   t.lblPlayerTotal[seat].Spoken = fncSpokenSeat(seat) + "money";
