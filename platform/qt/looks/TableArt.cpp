@@ -20,8 +20,11 @@ struct ChipColours {
   int Chips;
   QRgb Rim, Stripe;
 };
-constexpr ChipColours clrChips[] = {
-    {5, 0xFF1C8A4E, 0xFFF7E2A4}, {2, 0xFFD8456B, 0xFFFFEFF2}, {1, 0xFF2F74D6, 0xFFFFFFFF}};
+/// Tens stand for two of the fives that one clicks: the largest bet then fits in three columns.
+constexpr ChipColours clrChips[] = {{10, 0xFF34343E, 0xFFECCB78},
+                                    {5, 0xFF1C8A4E, 0xFFF7E2A4},
+                                    {2, 0xFFD8456B, 0xFFFFEFF2},
+                                    {1, 0xFF2F74D6, 0xFFFFFFFF}};
 
 // Of a chip in a stack, seen from above at a slant, at scale 1.
 constexpr double dblChipWide = 11;

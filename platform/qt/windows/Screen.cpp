@@ -15,7 +15,9 @@ bool fncLoaded(const Window* window, std::int32_t handle) {
 
 }  // namespace
 
-ScreenState scrNow;
+// Never destroyed: where the display goes away, the toolkit ends the process from within an event,
+// and nothing on the screen may be touched on the way out.
+ScreenState& scrNow = *new ScreenState;
 
 ControlView::ControlView(WindowView& home, Control& source)
     : Home(home), Source(&source), Drawn(source), Scale(fncScale()) {}

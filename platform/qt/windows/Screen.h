@@ -82,7 +82,7 @@ struct ScreenState {
   Window* LastChild = nullptr;  ///< The child that had it last.
   bool blnSyncing = false;
 };
-extern ScreenState scrNow;
+extern ScreenState& scrNow;
 
 WindowView* fncViewOf(const Window& window);
 /// The view of a loaded control; none while it is not on the screen.
