@@ -94,6 +94,60 @@ bool fncWandered(const Control& control, QPointF way) {
   return control.Dress == Look::Card && way.manhattanLength() > QApplication::startDragDistance();
 }
 
+/// The toolkit has given a widget the focus: an assistive tool asked for it, if not the model.
+void prcReached(const QWidget& widget) {
+  ControlView* view = fncControlViewOf(&widget);
+  if (view != nullptr && !fncSyncing() && view->Source != view->Home.Source->ActiveControl) {
+    prcAct(*view, [](Control& control) { fncUserReach(control); });
+  }
+}
+
+void prcAskToClose(const WindowView& view) {
+  if (Window* window = fncLive(view); window != nullptr && !fncSyncing()) {
+    prcServe([window] { prcUserClose(*window); });
+  }
+}
+
+void prcHasBecomeActive(const WindowView& view) {
+  Window* window = view.Source->Kind == WindowKind::Frame ? fncFrameInput() : view.Source;
+  if (window != nullptr) {
+    prcActivate(*window);
+  }
+}
+
+/// What the window system does to a window; whether that is none of the toolkit's business.
+bool fncWindowEvent(WindowView& view, QWidget& widget, QEvent* event) {
+  const bool blnShell = view.Shell == &widget;
+  switch (event->type()) {
+    case QEvent::Close:
+      if (blnShell) {
+        event->ignore();
+        prcAskToClose(view);
+      }
+      return blnShell;
+    case QEvent::Move:
+    case QEvent::Resize:
+      if ((blnShell || view.Ground == &widget) && fncWindowMoved(view)) {
+        prcSyncAll();
+      }
+      return false;
+    case QEvent::WindowStateChange:
+      if (blnShell && &view == fncFrameView() &&
+          static_cast<QWindowStateChangeEvent*>(event)->oldState() == Qt::WindowMaximized) {
+        prcRestoreFrame(widget);
+      }
+      return false;
+    case QEvent::WindowActivate:
+      // The toolkit passes it on to all children; none of them is meant.
+      if (blnShell && widget.isWindow() && !fncSyncing()) {
+        prcHasBecomeActive(view);
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
 }  // namespace
 
 InputRouter::InputRouter(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
@@ -141,53 +195,15 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
       blnTaken = fncWheeled(widget, *static_cast<QWheelEvent*>(event));
       break;
     case QEvent::FocusIn:
-      // Not by the model: an assistive tool has set it, or the toolkit.
-      if (ControlView* view = fncControlViewOf(&widget); view != nullptr && !fncSyncing()) {
-        if (view->Source != view->Home.Source->ActiveControl) {
-          prcAct(*view, [](Control& control) { fncUserReach(control); });
-        }
-      }
+      prcReached(widget);
       break;
     case QEvent::KeyPress:
       blnTaken = fncKeyPressed(widget, *static_cast<QKeyEvent*>(event));
       break;
-    case QEvent::Close:
-      if (WindowView* view = fncWindowViewOf(&widget); view != nullptr && view->Shell == &widget) {
-        event->ignore();
-        if (Window* window = fncLive(*view); window != nullptr && !fncSyncing()) {
-          prcServe([window] { prcUserClose(*window); });
-        }
-        return true;
-      }
-      break;
-    case QEvent::Move:
-    case QEvent::Resize:
-      if (WindowView* view = fncWindowViewOf(&widget);
-          view != nullptr && (view->Shell == &widget || view->Ground == &widget)) {
-        if (fncWindowMoved(*view)) {
-          prcSyncAll();
-        }
-      }
-      break;
-    case QEvent::WindowStateChange:
-      if (WindowView* frame = fncFrameView();
-          frame != nullptr && frame->Shell == &widget &&
-          static_cast<QWindowStateChangeEvent*>(event)->oldState() == Qt::WindowMaximized) {
-        prcRestoreFrame(*frame->Shell);
-      }
-      break;
-    case QEvent::WindowActivate:
-      // The toolkit passes it on to all children; none of them is meant.
-      if (WindowView* view = fncWindowViewOf(&widget);
-          view != nullptr && widget.isWindow() && view->Shell == &widget && !fncSyncing()) {
-        Window* window = view->Source->Kind == WindowKind::Frame ? fncFrameInput() : view->Source;
-        if (window != nullptr) {
-          prcActivate(*window);
-        }
-      }
-      break;
-    default:
-      break;
+    default: {
+      WindowView* view = fncWindowViewOf(&widget);
+      return view != nullptr && fncWindowEvent(*view, widget, event);
+    }
   }
   if (blnTaken) {
     event->accept();
