@@ -252,23 +252,53 @@ bool fncProgramKey(const Window& window, const QKeyEvent& event) {
   return true;
 }
 
-/// The keys that mean the same in every window. Returns whether the key was one.
-bool fncCommonKey(Window& window, const QKeyEvent& event) {
+/// The keys that go to the next of the frame's children, or close one.
+bool fncChildKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
-  const bool blnCtrl = event.modifiers().testFlag(Qt::ControlModifier);
-  if (blnCtrl && (key == Qt::Key_Tab || key == Qt::Key_F6)) {
-    const bool blnModal = window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Start;
+  if (!event.modifiers().testFlag(Qt::ControlModifier) ||
+      (key != Qt::Key_Tab && key != Qt::Key_F6 && key != Qt::Key_F4)) {
+    return false;
+  }
+  const bool blnModal = window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Start;
+  if (key != Qt::Key_F4) {
     if (Window* next = blnModal ? nullptr : fncNextChild(); next != nullptr) {
       prcBringUp(*next);
     }
+  } else if (window.Kind == WindowKind::Child && window.CloseBox) {
+    prcServe([&] { prcUserClose(window); });
+  }
+  return true;
+}
+
+/// The keys that click, pick or choose at the control that has the focus.
+bool fncFocusedKey(Control& focused, const QKeyEvent& event) {
+  if (fncPickKey(focused, event)) {
     return true;
   }
-  if (blnCtrl && key == Qt::Key_F4) {
-    if (window.Kind == WindowKind::Child && window.CloseBox) {
-      prcServe([&] { prcUserClose(window); });
+  const int key = event.key();
+  if (key == Qt::Key_Space && fncClickedBySpace(focused.Kind)) {
+    if (!event.isAutoRepeat()) {
+      prcAct(focused, prcUserClick);
     }
     return true;
   }
+  const bool blnBack = key == Qt::Key_Left || key == Qt::Key_Up;
+  if (focused.Kind != ControlKind::OptionButton ||
+      (!blnBack && key != Qt::Key_Right && key != Qt::Key_Down)) {
+    return false;
+  }
+  if (Control* fellow = fncFellow(focused, blnBack); fellow != nullptr) {
+    prcAct(*fellow, prcUserClick);
+  }
+  return true;
+}
+
+/// The keys that mean the same in every window. Returns whether the key was one.
+bool fncCommonKey(Window& window, const QKeyEvent& event) {
+  if (fncChildKey(window, event)) {
+    return true;
+  }
+  const int key = event.key();
   if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
     prcServe([&] { fncUserTab(window, key == Qt::Key_Backtab); });
     return true;
@@ -285,28 +315,7 @@ bool fncCommonKey(Window& window, const QKeyEvent& event) {
   if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0) {
     return false;
   }
-  if (focused == nullptr) {
-    return fncScrollKey(window, key);
-  }
-  if (fncPickKey(*focused, event)) {
-    return true;
-  }
-  if (key == Qt::Key_Space && fncClickedBySpace(focused->Kind)) {
-    if (!event.isAutoRepeat()) {
-      prcAct(*focused, prcUserClick);
-    }
-    return true;
-  }
-  if (focused->Kind == ControlKind::OptionButton) {
-    const bool blnBack = key == Qt::Key_Left || key == Qt::Key_Up;
-    if (blnBack || key == Qt::Key_Right || key == Qt::Key_Down) {
-      if (Control* fellow = fncFellow(*focused, blnBack); fellow != nullptr) {
-        prcAct(*fellow, prcUserClick);
-      }
-      return true;
-    }
-  }
-  return false;
+  return focused == nullptr ? fncScrollKey(window, key) : fncFocusedKey(*focused, event);
 }
 
 }  // namespace
