@@ -200,10 +200,16 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
     case QEvent::KeyPress:
       blnTaken = fncKeyPressed(widget, *static_cast<QKeyEvent*>(event));
       break;
-    default: {
+    case QEvent::Close:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowStateChange:
+    case QEvent::WindowActivate: {
       WindowView* view = fncWindowViewOf(&widget);
       return view != nullptr && fncWindowEvent(*view, widget, event);
     }
+    default:
+      break;
   }
   if (blnTaken) {
     event->accept();

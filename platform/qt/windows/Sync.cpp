@@ -294,7 +294,7 @@ void prcPaintNow(Control& control) {
 
 void prcClearScreen() {
   scrNow.blnSyncing = true;  // The focus that goes round among what is left is no user's.
-  scrNow.Windows.clear();
+  std::exchange(scrNow.Windows, {}).clear();  // Whoever looks while a view goes finds no window.
   scrNow.ByWidget.clear();
   scrNow.Active = nullptr;
   scrNow.LastChild = nullptr;
