@@ -1,7 +1,6 @@
 #include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 
 #include "judges/Adapter.h"
 #include "judges/Endurance.h"
@@ -15,9 +14,7 @@ namespace {
 int fncEndureAll(int argc, char** argv) {
   const std::uint64_t seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
   const std::int64_t shoes = argc > 2 ? std::atoll(argv[2]) : 10'000;
-  const std::string folder = fncFastFolder();
-  const EnduranceResult result = fncEndure(folder, seed, shoes);
-  std::filesystem::remove_all(folder);
+  const EnduranceResult result = fncEndure(seed, shoes);
   std::printf("%" PRId64 " shoes, %" PRId64 " hands, %" PRId64 " starts of the program\n",
               result.Shoes, result.Hands, result.Starts);
   if (!result.Fault.empty()) {

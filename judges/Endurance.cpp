@@ -1,6 +1,5 @@
 #include "judges/Endurance.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -9,8 +8,9 @@
 #include "judges/Invariants.h"
 #include "marking/MarkState.h"
 #include "shell/Program.h"
-#include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
+
+std::function<void(const UserEvent&)> prcAfterEvent = [](const UserEvent&) {};
 
 namespace {
 
@@ -26,98 +26,85 @@ constexpr const char* strFirstFile =
 /// An evening under way: the events come one after the other, in whatever wait the program is in.
 struct Evening {
   const std::vector<UserEvent>& Events;
-  const AfterEvent& After;
   std::size_t Next = 0;
-  Watch Watching{};
-  EnduranceResult Result{};
+  std::string Fault{};
 
-  bool fncOver() const { return Next >= Events.size() || !Result.Fault.empty(); }
+  bool fncOver() const { return Next >= Events.size() || !Fault.empty(); }
 };
 
-void prcLook(Evening& evening, std::size_t at) {
-  std::string fault = evening.Watching.fncLook();
-  fault = fault.empty() ? evening.Watching.fncLookAtSwitches() : fault;
-  if (!fault.empty() && evening.Result.Fault.empty()) {
-    evening.Result.Fault = fault;
-    evening.Result.Event = at;
-    if (!user::Ended()) {
-      // Nobody will turn the cards that the program may be waiting for.
-      platform::End();
-    }
+void prcLook(Evening& evening) {
+  if (!evening.Fault.empty()) {
+    return;
+  }
+  evening.Fault = fncLook();
+  if (user::Ended()) {
+    return;
+  }
+  if (evening.Fault.empty()) {
+    evening.Fault = fncLookAtSwitches();
+  }
+  if (!evening.Fault.empty()) {
+    platform::End();  // Nobody will turn the cards that the program may be waiting for.
   }
 }
 
 /// When all events have been done, the hand on the table is brought to its end.
-void prcSeeOut(Evening& evening) {
-  if (blnBusy) {
-    user::After(500, [&evening] { prcSeeOut(evening); });
-    prcTurnAll();
-    prcLook(evening, evening.Events.size());
-  }
-}
-
 void prcNext(Evening& evening) {
-  if (evening.fncOver()) {
-    return prcSeeOut(evening);
+  if (evening.fncOver() && !blnBusy) {
+    return;
   }
-  const std::size_t at = evening.Next++;
-  const UserEvent& event = evening.Events[at];
   // The one after it is under way before it begins: it may come in the middle of it.
+  const std::size_t at = evening.Next++;
   const std::uint32_t delay =
-      evening.fncOver() ? 0 : evening.Events[evening.Next].Delay * lngDelayStep;
+      evening.fncOver() ? 500 : evening.Events[evening.Next].Delay * lngDelayStep;
   user::After(delay, [&evening] { prcNext(evening); });
-  prcDo(event);
-  if (evening.After) {
-    evening.After(event);
+  if (at < evening.Events.size()) {
+    prcDo(evening.Events[at]);
+    prcAfterEvent(evening.Events[at]);
+  } else {
+    prcTurnAll();
   }
-  prcLook(evening, at);
-}
-
-void prcStartGame(const std::string& folder, std::uint64_t seed) {
-  user::Reset(folder);
-  headless::Seed(seed);
-  prcResetTableState();
-  prcResetMarkState();
-  user::Run(fncStartProgram);
+  prcLook(evening);
 }
 
 void prcRun(Evening& evening) {
-  evening.Watching.prcStart();
+  prcStartWatch();
   user::After(1, [&evening] { prcNext(evening); });
   do {
     user::Wait(1000);
   } while (!user::Ended() && (!evening.fncOver() || blnBusy));
-  prcLook(evening, evening.Next == 0 ? 0 : evening.Next - 1);  // At what may have ended it.
+  prcLook(evening);  // At what may have ended it.
 }
 
 }  // namespace
 
 EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
-                        const std::vector<UserEvent>& events, const AfterEvent& after) {
+                        const std::vector<UserEvent>& events) {
   std::filesystem::remove_all(folder);
   std::filesystem::create_directories(folder);
   std::ofstream(folder + "/VELMORA.INI", std::ios::binary) << strFirstFile;
-  Evening evening{.Events = events, .After = after};
+  Evening evening{events};
+  EnduranceResult result;
+  lngHandsSeen = lngShoesSeen = 0;
   do {
-    prcStartGame(folder, seed + 1000 * static_cast<std::uint64_t>(evening.Result.Starts++));
+    user::Reset(folder);
+    headless::Seed(seed + 1000 * static_cast<std::uint64_t>(result.Starts++));
+    prcResetTableState();
+    prcResetMarkState();
+    user::Run(fncStartProgram);
     prcRun(evening);
   } while (!evening.fncOver());
-  evening.Result.Hands = evening.Watching.Hands();
-  evening.Result.Shoes = evening.Watching.Shoes();
   user::Reset(folder);
-  return evening.Result;
-}
-
-std::vector<UserEvent> fncShorten(const std::string& folder, std::uint64_t seed,
-                                  std::vector<UserEvent> events, const AfterEvent& after) {
-  for (std::size_t at = events.size(); at-- > 0;) {
-    std::vector<UserEvent> fewer = events;
-    fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(at));
-    if (!fncPlay(folder, seed, fewer, after).Fault.empty()) {
-      events = std::move(fewer);
+  result.Hands = lngHandsSeen;
+  result.Shoes = lngShoesSeen;
+  if (!evening.Fault.empty()) {
+    result.Fault = evening.Fault + "\nseed " + std::to_string(seed) + ", " +
+                   std::to_string(events.size()) + " events:";
+    for (const UserEvent& event : events) {
+      result.Fault += "\n  " + fncDescribe(event);
     }
   }
-  return events;
+  return result;
 }
 
 std::string fncFastFolder() {
@@ -129,34 +116,26 @@ std::string fncFastFolder() {
   return name;
 }
 
-std::vector<UserEvent> fncRandomEvents(std::uint64_t seed, std::size_t count) {
-  std::mt19937_64 random(seed);
-  std::vector<UserEvent> events(count);
-  std::ranges::generate(events, [&] { return fncRandomEvent(random); });
-  return events;
-}
-
-EnduranceResult fncEndure(const std::string& folder, std::uint64_t firstSeed, std::int64_t shoes,
-                          const AfterEvent& after) {
+EnduranceResult fncEndure(std::uint64_t firstSeed, std::int64_t shoes) {
+  const std::string folder = fncFastFolder();
   EnduranceResult all;
-  for (std::uint64_t seed = firstSeed; all.Shoes < shoes; ++seed) {
+  for (std::uint64_t seed = firstSeed; all.Shoes < shoes && all.Fault.empty(); ++seed) {
     std::vector<UserEvent> events = fncRandomEvents(seed, intEventsOfAnEvening);
-    const EnduranceResult one = fncPlay(folder, seed, events, after);
+    const EnduranceResult one = fncPlay(folder, seed, events);
     all.Hands += one.Hands;
     all.Shoes += one.Shoes;
     all.Starts += one.Starts;
-    if (one.Fault.empty()) {
-      continue;
+    all.Fault = one.Fault;
+    // What it does without is left out.
+    for (std::size_t at = all.Fault.empty() ? 0 : events.size(); at-- > 0;) {
+      std::vector<UserEvent> fewer = events;
+      fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(at));
+      if (const std::string fault = fncPlay(folder, seed, fewer).Fault; !fault.empty()) {
+        events = std::move(fewer);
+        all.Fault = fault;
+      }
     }
-    events.resize(std::min(one.Event + 1, events.size()));
-    events = fncShorten(folder, seed, events, after);
-    all.Event = events.size();
-    all.Fault = fncPlay(folder, seed, events, after).Fault + "\nseed " + std::to_string(seed) +
-                ", " + std::to_string(events.size()) + " events:";
-    for (const UserEvent& event : events) {
-      all.Fault += "\n  " + fncDescribe(event);
-    }
-    break;
   }
+  std::filesystem::remove_all(folder);
   return all;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 
 #include "betting/frmStatistics.h"
@@ -29,20 +30,17 @@ constexpr std::array strKeys{"1",    "2",     "3",     "4",     "5",  "6",
 
 auto fncPick(const auto& choices, Byte at) { return choices[at % choices.size()]; }
 
-bool fncReached(const Control& control) {
-  return control.Style != ButtonStyle::Separator && fncSeen(control) && fncUsable(control);
+/// What cannot be reached, lies behind something else or has not got the keyboard is left alone.
+void prcTry(const std::function<void()>& act) {
+  try {
+    act();
+  } catch (const std::logic_error&) {
+    return;
+  }
 }
 
 void prcClick(Control& control, int button = intLeftButton) {
-  if (fncReached(control)) {
-    user::Click(control, button);
-  }
-}
-
-void prcType(Control& box, const std::string& text) {
-  if (fncReached(box)) {
-    user::Type(box, text);
-  }
+  prcTry([&control, button] { user::Click(control, button); });
 }
 
 /// The next box gets this answer, if any: 0 leaves it its standard button.
@@ -58,12 +56,7 @@ void prcChip(Byte which, Byte how) {
 }
 
 void prcTypeBet(Byte which, Byte how) {
-  prcType(fncBet(fncPick(betSides, which / 2), which % intSeats).Box, fncPick(strBets, how));
-}
-
-void prcShuffle(Byte /*which*/, Byte how) {
-  prcAnswer(how);
-  prcClick(BaccTable.maisyk);
+  user::Type(fncBet(fncPick(betSides, which / 2), which % intSeats).Box, fncPick(strBets, how));
 }
 
 void prcTurn(Byte which, Byte how) {
@@ -71,10 +64,10 @@ void prcTurn(Byte which, Byte how) {
 }
 
 void prcSqueeze(Byte which, Byte how) {
-  const int n = which % intPositions;
   const bool blnBottom = how % 2 == 0;
-  Control& strip = blnBottom ? BaccTable.lblCardBottom[n] : BaccTable.lblCardRight[n];
-  if (!fncReached(strip) || !user::Press(strip, 0, 0)) {
+  Control& strip =
+      (blnBottom ? BaccTable.lblCardBottom : BaccTable.lblCardRight)[which % intPositions];
+  if (!user::Press(strip, 0, 0)) {
     return;
   }
   for (int pull = 1; pull <= 4; ++pull) {
@@ -84,26 +77,24 @@ void prcSqueeze(Byte which, Byte how) {
   user::Release(strip, -1, -1);
 }
 
+/// Shuffle, an entry of a menu or a button of the toolbar, any of which may ask.
+void prcCommand(Control& control, Byte how) {
+  prcAnswer(how);
+  prcClick(control);
+}
+
 void prcMenu(Byte which, Byte how) {
   std::vector<Control*> entries;
   std::ranges::copy_if(MDIForm1.Form.Controls, std::back_inserter(entries), [](const Control* c) {
     return c->Kind == ControlKind::MenuEntry && c->On->Click != nullptr && c != &MDIForm1.mnuExit;
   });
-  prcAnswer(how);
-  prcClick(*fncPick(entries, which));
-}
-
-void prcToolButton(Byte which, Byte how) {
-  const bool blnLarge = tlbrRef == &MDIForm1.tlbrMDIForm1;
-  prcAnswer(how);
-  prcClick((blnLarge ? MDIForm1.tlbrButtons1 : MDIForm1.tlbrButtons2)[which % intToolButtons]);
+  prcCommand(*fncPick(entries, which), how);
 }
 
 /// Mostly the lists: the other two may end the program.
 void prcCloseWindow(Byte which, Byte /*how*/) {
-  const std::array<Window*, 8> windows{
-      &frmCardsDealt.Form, &frmCardsDealtCount.Form, &frmCardsDealt.Form, &frmCardsDealtCount.Form,
-      &frmCardsDealt.Form, &frmCardsDealtCount.Form, &BaccTable.Form,     &MDIForm1.Form};
+  const std::array windows{&frmCardsDealt.Form, &frmCardsDealtCount.Form, &frmCardsDealt.Form,
+                           which < 128 ? &BaccTable.Form : &MDIForm1.Form};
   if (Window& window = *fncPick(windows, which); window.Visible) {
     user::Close(window);
   }
@@ -111,32 +102,17 @@ void prcCloseWindow(Byte which, Byte /*how*/) {
 
 /// Works in the statistics, which are open while this runs.
 void prcUseStatistics(Byte which, Byte how) {
-  if (!frmStatistics.Form.Visible) {
-    return;
-  }
-  prcType(frmStatistics.mskSteak[which % intSeats], fncPick(strStakes, how));
+  Control& stake = frmStatistics.mskSteak[which % intSeats];
+  user::Type(stake, fncPick(strStakes, how));
   if (how % 2 == 0) {
     user::Tab(frmStatistics.Form);
   }
   if (how % 5 == 0) {
-    prcAnswer(how);
-    prcClick(frmStatistics.cmdResetStats);
+    prcCommand(frmStatistics.cmdResetStats, how);
   }
   prcClick(frmStatistics.Command1);
-  if (frmStatistics.Form.Visible) {  // A stake that is refused holds its user until it is mended.
-    prcType(frmStatistics.mskSteak[which % intSeats], "10000000");
-    prcClick(frmStatistics.Command1);
-  }
-}
-
-/// Where something covers what is meant, or another window has the keyboard, the rest is left
-/// alone.
-void prcTry(const std::function<void()>& act) {
-  try {
-    act();
-  } catch (const std::logic_error&) {
-    return;
-  }
+  user::Type(stake, "10000000");  // A stake that is refused holds its user until it is mended.
+  prcClick(frmStatistics.Command1);
 }
 
 void prcStatistics(Byte which, Byte how) {
@@ -152,11 +128,8 @@ void prcScroll(Byte which, Byte how) {
 }
 
 void prcHover(Byte which, Byte /*how*/) {
-  if (which % 7 == intPositions) {
-    user::Hover(BaccTable.Form);
-  } else if (Control& back = BaccTable.pctCardBack[which % 7]; fncReached(back)) {
-    user::Hover(back);
-  }
+  const int n = which % (intPositions + 1);
+  n == intPositions ? user::Hover(BaccTable.Form) : user::Hover(BaccTable.pctCardBack[n]);
 }
 
 /// What a user does, and how often a random one does it, out of the sum of all.
@@ -172,20 +145,23 @@ const std::array kinds{
     Kind{"Tab", 4, [](Byte, Byte) { user::Tab(BaccTable.Form); }},
     Kind{"Deal", 48, [](Byte which, Byte) { prcClick(BaccTable.duokkortos[which % 4]); }},
     Kind{"TypeHands", 8,
-         [](Byte, Byte how) { prcType(BaccTable.mskHandsAtaTime, fncPick(strHands, how)); }},
-    Kind{"Shuffle", 9, prcShuffle},
+         [](Byte, Byte how) { user::Type(BaccTable.mskHandsAtaTime, fncPick(strHands, how)); }},
+    Kind{"Shuffle", 9, [](Byte, Byte how) { prcCommand(BaccTable.maisyk, how); }},
     Kind{"Turn", 12, prcTurn},
     Kind{"Squeeze", 5, prcSqueeze},
     Kind{"Key", 5, [](Byte, Byte how) { user::Key(BaccTable.Form, fncPick(strKeys, how)); }},
     Kind{"Menu", 2, prcMenu},
-    Kind{"ToolButton", 2, prcToolButton},
+    Kind{"ToolButton", 2,
+         [](Byte which, Byte how) {
+           prcCommand(fncButtons(*tlbrRef)[which % intToolButtons], how);
+         }},
     Kind{"CloseWindow", 1, prcCloseWindow},
     Kind{"KeepOnTop", 1,
          [](Byte which, Byte) {
            prcClick(which % 2 == 0 ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
          }},
     Kind{"UnitValue", 2,
-         [](Byte, Byte how) { prcType(BaccTable.txtUnitValue, fncPick(strUnits, how)); }},
+         [](Byte, Byte how) { user::Type(BaccTable.txtUnitValue, fncPick(strUnits, how)); }},
     Kind{"Statistics", 2, prcStatistics},
     Kind{"Scroll", 1, prcScroll},
     Kind{"Hover", 3, prcHover},
@@ -195,16 +171,20 @@ const std::array kinds{
 
 }  // namespace
 
-UserEvent fncRandomEvent(std::mt19937_64& random) {
+std::vector<UserEvent> fncRandomEvents(std::uint64_t seed, std::size_t count) {
+  std::mt19937_64 random(seed);
   std::array<int, kinds.size()> weights{};
   std::ranges::transform(kinds, weights.begin(), &Kind::Weight);
   std::discrete_distribution<int> kind(weights.begin(), weights.end());
   std::uniform_int_distribution<int> bytes(0, 255);
   const auto byte = [&] { return static_cast<Byte>(bytes(random)); };
-  // A third of the events come close behind the one before, in the middle of what it began.
-  const bool blnSoon = byte() % 3 == 0;
-  return {static_cast<Byte>(kind(random)), byte(), byte(),
-          static_cast<Byte>(byte() / (blnSoon ? 16 : 2))};
+  std::vector<UserEvent> events(count);
+  for (UserEvent& event : events) {
+    // A third of the events come close behind the one before, in the middle of what it began.
+    const int intHaste = byte() % 3 == 0 ? 16 : 2;
+    event = {static_cast<Byte>(kind(random)), byte(), byte(), static_cast<Byte>(byte() / intHaste)};
+  }
+  return events;
 }
 
 std::string fncDescribe(const UserEvent& event) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <random>
 #include <string>
+#include <vector>
 
 // What a user may do at the table, as plain data: lists of events can be made up at random, read
 // from arbitrary bytes, shortened and played again.
@@ -17,8 +17,8 @@ struct UserEvent {
 
 inline constexpr std::uint32_t lngDelayStep = 20;
 
-/// An event as a player would do it: mostly bets and hands, now and then the rest.
-UserEvent fncRandomEvent(std::mt19937_64& random);
+/// Events of a seed as a player would do them: mostly bets and hands, now and then the rest.
+std::vector<UserEvent> fncRandomEvents(std::uint64_t seed, std::size_t count);
 
 /// "Chip 13 1 0": kind by name, then Which, How and Delay.
 std::string fncDescribe(const UserEvent& event);

@@ -31,9 +31,8 @@ class Faults : public Game {
       ShowNoCardsSlowly();
     }
     ASSERT_FALSE(headless::Ended()) << LastBox();
-    Watch books;
     if (blnKept) {
-      books.prcStart();
+      prcStartWatch();
     }
     Shuffle();
     headless::Type(BaccTable.txtUnitValue, "10");
@@ -41,7 +40,7 @@ class Faults : public Game {
     DealResult("P");
     EXPECT_EQ(strResult[0], "P");
     EXPECT_FALSE(blnBusy);
-    EXPECT_EQ(blnKept ? books.fncLook() : "", "");
+    EXPECT_EQ(blnKept ? fncLook() : "", "");
   }
 
   const std::string good_ =

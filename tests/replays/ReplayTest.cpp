@@ -201,7 +201,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
     const std::string news = transcript_.WhatIsNew();
     prcAdd(Told(), news.empty() ? "" : before + news);
     if (blnBooks_ && intLastCard[0] > 0) {
-      EXPECT_EQ(books_.fncLook(), "") << records_[static_cast<std::size_t>(at_)].Steps;
+      EXPECT_EQ(fncLook(), "") << records_[static_cast<std::size_t>(at_)].Steps;
     }
   }
 
@@ -213,7 +213,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
   void Begin() {
     user::Run(fncStartProgram);
     user::Wait(10);
-    books_.prcStart();
+    prcStartWatch();
   }
 
   static int fncButton(const std::string& name) {
@@ -347,7 +347,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
        }},
       {"boot", [this](Words&) { Begin(); }},
       {"on", [this](Words& w) { On(fncNext<std::string>(w, "mnu")); }},
-      {"faces", [this](Words&) { prcAdd(Told(), books_.fncLookAtSwitches()); }},
+      {"faces", [this](Words&) { prcAdd(Told(), fncLookAtSwitches()); }},
       {"tells", [this](Words& w) { transcript_.Tells(fncRest(w)); }},
       {"start",
        [this](Words&) {
@@ -426,7 +426,7 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
       {"books",
        [this](Words& w) {
          blnBooks_ = fncSaid(w) != 0;
-         books_.prcStart();
+         prcStartWatch();
        }},
       {"put", Put},
       {"make", Make},
@@ -450,7 +450,6 @@ class Replay : public Game, public testing::WithParamInterface<std::string> {
   std::vector<Record> records_;
   int at_ = -1;  ///< The record that is played.
   Transcript transcript_;
-  Watch books_;
   bool blnBooks_ = true;
   std::uint32_t start_ = 0;
 };
