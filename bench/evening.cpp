@@ -1,6 +1,5 @@
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 
 #include "judges/EveningProof.h"
 
@@ -10,17 +9,12 @@
 int main(int argc, char** argv) {
   const int evenings = argc > 1 ? std::atoi(argv[1]) : 1100;
   const std::uint64_t seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : 1;
-  std::string folder = (std::filesystem::temp_directory_path() / "velmora-evening-XXXXXX").string();
-  if (mkdtemp(folder.data()) == nullptr) {
-    return EXIT_FAILURE;
-  }
-  const EveningProof proof = fncProveEvenings(evenings, seed, folder);
-  std::filesystem::remove_all(folder);
+  const EveningProof proof = fncProveEvenings(evenings, seed);
   std::printf("%d evenings, %d hands; the law of %d evenings on a grid\n", proof.Evenings,
               proof.Hands, proof.Gridded);
   std::printf("  ends within the band of 50 %%: %.1f %% of seats, within that of 90 %%: %.1f %%\n",
               50.0 * proof.InHalf / proof.Evenings, 50.0 * proof.InNine / proof.Evenings);
-  std::printf("  places in tenths: chi-square %.1f of 9 degrees\n", proof.fncTenthsSum());
+  std::printf("  places in tenths: chi-square %.1f of 9 degrees\n", proof.fncPlaces().Sum);
   std::printf("  mean luck in its errors: seat 1 %+.2f, seat 2 %+.2f, both %+.2f\n",
               proof.Deviation[0], proof.Deviation[1], proof.Deviation[2]);
   std::printf(proof.fncHolds() ? "All that is told holds.\n" : "What is told does not hold.\n");

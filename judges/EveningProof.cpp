@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 #include "betting/BetEntry.h"
 #include "evening/Curve.h"
 #include "evening/Evening.h"
 #include "evening/Luck.h"
 #include "evening/Reckoning.h"
+#include "judges/Endurance.h"
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "shell/SettingsStore.h"
@@ -20,19 +22,14 @@ constexpr int intHandsOfBlock = 10;
 
 void prcStartTable(const std::string& folder) {
   headless::Reset(folder);
+  prcResetTableState();
   strIniFile = folder + "/VELMORA.INI";
-  prcWriteSetting("Misc", "Nerodik", 1);
-  prcWriteSetting("Player1Stats", "Stake", 10'000'000);
-  prcWriteSetting("Player2Stats", "Stake", 10'000'000);
+  prcWriteSetting(secMisc, keyNerodik, 1);
+  for (int seat = 0; seat < intSeats; ++seat) {
+    prcWriteSetting(fncSeatSection(seat), keyStake, 10'000'000);
+  }
   platform::Run(0, nullptr, fncStartProgram);
   headless::Wait(10);
-}
-
-void prcShuffleWhereEnded() {
-  if (blnEndOfShoe[intShoeNumber]) {
-    headless::Click(BaccTable.maisyk);
-    headless::Wait(3000);
-  }
 }
 
 void prcMakeBet(BetSide side, int seat, int chips) {
@@ -41,7 +38,10 @@ void prcMakeBet(BetSide side, int seat, int chips) {
 
 /// Seat 1 goes up and down on Banker and Player, seat 2 keeps to the Player and tries ties.
 void prcPlayBlock(int block) {
-  prcShuffleWhereEnded();
+  if (blnEndOfShoe[intShoeNumber]) {
+    headless::Click(BaccTable.maisyk);
+    headless::Wait(3000);
+  }
   prcMakeBet(block % 3 == 0 ? betPlayer : betBanker, 0, 1 + block * block % 17);
   prcMakeBet(betPlayer, 1, 5);
   prcMakeBet(betTie, 1, block % 4 == 1 ? 2 : 0);
@@ -49,58 +49,48 @@ void prcPlayBlock(int block) {
   duokkortos_Click(0);
 }
 
-void prcCountBands(EveningProof& proof, int seat) {
-  const CurvePoint end = fncCurve(seat).back();
-  const auto within = [&](std::size_t low, std::size_t high) {
-    return end.Money >= end.Band.at(low) && end.Money <= end.Band.at(high) ? 1 : 0;
-  };
-  proof.InHalf += within(1, 2);
-  proof.InNine += within(0, 3);
-}
-
 void prcCount(EveningProof& proof) {
   while (!fncReckonOn(0)) {
   }
-  for (int seat = 0; seat < 2; ++seat) {
-    prcCountBands(proof, seat);
-    proof.Deviation.at(static_cast<std::size_t>(seat)) += fncLuck({.Seat = seat}).Deviations;
+  for (int seat = 0; seat < intSeats; ++seat) {
+    const CurvePoint end = fncCurve(seat).back();
+    const auto [low, lowHalf, highHalf, high] = end.Band;
+    proof.InHalf += end.Money >= lowHalf && end.Money <= highHalf ? 1 : 0;
+    proof.InNine += end.Money >= low && end.Money <= high ? 1 : 0;
+    proof.Deviation[seat] += fncLuck({.Seat = seat}).Deviations / std::sqrt(proof.Evenings);
   }
   const Luck both = fncLuck({});
-  proof.Deviation[2] += both.Deviations;
+  proof.Deviation[2] += both.Deviations / std::sqrt(proof.Evenings);
   proof.Gridded += both.Exact ? 0 : 1;
   const double place = (both.Worse + 1 - both.Better) / 2;
   ++proof.Tenths.at(static_cast<std::size_t>(std::clamp(place * 10, 0.0, 9.0)));
   proof.Hands += static_cast<int>(colEveningHands.size());
-  ++proof.Evenings;
 }
 
 }  // namespace
 
-double EveningProof::fncTenthsSum() const {
-  const double expected = Evenings / 10.0;
-  double sum = 0;
-  for (const int count : Tenths) {
-    sum += (count - expected) * (count - expected) / expected;
-  }
-  return sum;
+ChiSquare EveningProof::fncPlaces() const {
+  ChiSquare places;
+  places.prcAddAlike(Tenths);
+  return places;
 }
 
 bool EveningProof::fncHolds() const {
   // Errors as of as many seats as evenings: the two seats of one bet on the same cards.
   const auto likely = [this](int count, double share) {
-    const double seats = 2.0 * Evenings;
-    return std::abs(count / seats - share) < 4 * std::sqrt(share * (1 - share) / Evenings);
+    return std::abs(count / 2.0 / Evenings - share) <
+           dblChance * std::sqrt(share * (1 - share) / Evenings);
   };
-  constexpr double dblTenthsLikely = 33.7;
   return Gridded > Evenings / 2 && likely(InHalf, 0.5) && likely(InNine, 0.9) &&
-         fncTenthsSum() < dblTenthsLikely &&
-         std::ranges::all_of(Deviation, [](double luck) { return std::abs(luck) < 4; });
+         fncPlaces().fncLikely() &&
+         std::ranges::all_of(Deviation, [](double luck) { return std::abs(luck) < dblChance; });
 }
 
-EveningProof fncProveEvenings(int evenings, std::uint64_t seed, const std::string& folder) {
+EveningProof fncProveEvenings(int evenings, std::uint64_t seed) {
+  const std::string folder = fncFastFolder();
   prcStartTable(folder);
   headless::Seed(seed);
-  EveningProof proof;
+  EveningProof proof{.Evenings = evenings};
   for (int evening = 0; evening < evenings; ++evening) {
     prcForgetHands();
     prcForgetReckoning();
@@ -109,8 +99,6 @@ EveningProof fncProveEvenings(int evenings, std::uint64_t seed, const std::strin
     }
     prcCount(proof);
   }
-  for (double& deviation : proof.Deviation) {
-    deviation /= std::sqrt(evenings);
-  }
+  std::filesystem::remove_all(folder);
   return proof;
 }

@@ -1,15 +1,7 @@
-#include "judges/EveningProof.h"
-#include "tests/Game.h"
+#include <gtest/gtest.h>
 
-namespace {
+#include "judges/EveningProof.h"
 
 TEST(EveningProofTest, EveningsAtTheRunningTableComeOutAsTheLawSays) {
-  const TestFolder folder;
-  prcFreshGame(folder.Path());
-  const EveningProof proof = fncProveEvenings(50, 1, folder.Path());
-  EXPECT_EQ(proof.Evenings, 50);
-  EXPECT_TRUE(proof.fncHolds()) << proof.InHalf << ' ' << proof.InNine << ' '
-                                << proof.fncTenthsSum() << ' ' << proof.Deviation[2];
+  EXPECT_TRUE(fncProveEvenings(50, 1).fncHolds()) << "velmora_evening 50 tells what does not";
 }
-
-}  // namespace
