@@ -207,7 +207,6 @@ std::vector<double> fncMarkTimes(const std::vector<int>& marks) {
     while (!blnEndOfShoe[0]) {
       ZNEW_DealHand(0);
       ++intHandsDealt[0];
-      headless::Repaints().clear();
       const double time = fncSeconds(fncDay, 1, [] { SetCardView(0); });
       const auto at = std::ranges::find(marks, int{intHandsDealt[0]});
       if (at != marks.end()) {

@@ -25,12 +25,13 @@ struct State {
   std::uint32_t Start = 0;
   std::uint64_t Turns = 0;
   bool blnEnded = false;
+  bool blnPaintedAtOnce = false;  // By the last drag.
   std::deque<Scripted> Script;
   std::deque<std::function<void()>> NextTurn, Modal;
   std::deque<platform::Answer> Answers;
-  std::vector<headless::Box> Boxes;
+  std::vector<user::Box> Boxes;
   std::map<std::uint32_t, std::uint64_t> TimerDue;  // By the timer's serial.
-  std::vector<std::string> Repaints, Copied, Printed;
+  std::vector<std::string> Copied, Printed;
   std::deque<std::string> SavePaths;
   double ScreenWidth = 15360, ScreenHeight = 10500;
 };
@@ -200,7 +201,7 @@ std::uint32_t TickCount() { return state.Start + static_cast<std::uint32_t>(stat
 Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Buttons buttons,
               Answer standard) {
   prcThrowIfEnded();
-  state.Boxes.push_back({text, title, icon, buttons, standard});
+  state.Boxes.push_back({text, title.empty() ? "Velmora" : title, icon, buttons, standard});
   prcRunModalScript();
   if (state.Answers.empty()) {
     return standard;
@@ -210,10 +211,7 @@ Answer MsgBox(const std::string& text, Icon icon, const std::string& title, Butt
   return answer;
 }
 
-void RepaintNow(Control& control) {
-  state.Repaints.push_back(std::string(control.Name) + "(" + std::to_string(int{control.Index}) +
-                           ")");
-}
+void RepaintNow(Control& /*control*/) { state.blnPaintedAtOnce = true; }
 
 void RunModal(Window& window) {
   prcThrowIfEnded();
@@ -274,23 +272,9 @@ void End() {
 
 }  // namespace platform
 
-namespace headless {
-
-void Reset(const std::string& folder, std::uint32_t start) {
-  while (!fncWindows().empty()) {
-    prcForgetWindow(*fncWindows().back());
-  }
-  state = State{};
-  state.Start = start;
-  ResetMachine(folder);
-  prcSetCurrency(CurrencyStyle{});
-}
+namespace user {
 
 std::uint32_t Now() { return static_cast<std::uint32_t>(state.Clock); }
-
-void StepTicks(std::int32_t milliseconds) {
-  state.Start += static_cast<std::uint32_t>(milliseconds);
-}
 
 void Wait(std::uint32_t milliseconds) {
   const std::uint64_t limit = state.Clock + milliseconds;
@@ -308,19 +292,14 @@ void After(std::uint32_t milliseconds, std::function<void()> event) {
   state.Script.push_back({state.Clock + milliseconds, std::move(event)});
 }
 
-void AtNextTurn(std::function<void()> event) { state.NextTurn.push_back(std::move(event)); }
 void WhileModal(std::function<void()> event) { state.Modal.push_back(std::move(event)); }
 void Answer(platform::Answer answer) { state.Answers.push_back(answer); }
 const std::vector<Box>& Boxes() { return state.Boxes; }
 void ForgetBoxes() { state.Boxes.clear(); }
-std::uint64_t Turns() { return state.Turns; }
-std::vector<std::string>& Repaints() { return state.Repaints; }
 bool Ended() { return state.blnEnded; }
-void SaveAs(std::string path) { state.SavePaths.push_back(std::move(path)); }
-std::vector<std::string>& Copied() { return state.Copied; }
-std::vector<std::string>& Printed() { return state.Printed; }
+bool PaintedAtOnce() { return state.blnPaintedAtOnce; }
 
-void PlaceWindows() {
+void Settle() {
   // A resize handler may load a window.
   const std::vector<Window*> loaded(fncWindows().begin(), fncWindows().end());
   for (Window* window : loaded) {
@@ -353,12 +332,13 @@ bool Click(Control& control, int button) {
 }
 
 void Drag(Control& control, float x, float y) {
+  state.blnPaintedAtOnce = false;
   prcDispatch([&] { prcUserMove(control, {intLeftButton, x, y}); });
 }
 
-void Release(Control& control, float x, float y) {
+void Release(Control& control, float x, float y, int button) {
   const bool blnInside = x >= 0 && y >= 0 && x < control.Width && y < control.Height;
-  prcDispatch([&] { prcUserRelease(control, {intLeftButton, x, y}, blnInside); });
+  prcDispatch([&] { prcUserRelease(control, {button, x, y}, blnInside); });
 }
 
 void Hover(Control& control) {
@@ -366,11 +346,6 @@ void Hover(Control& control) {
   const Mouse middle{.X = static_cast<float>(control.Width / 2),
                      .Y = static_cast<float>(control.Height / 2)};
   prcDispatch([&] { prcUserMove(control, middle); });
-}
-
-void Pick(Control& grid, int row) {
-  prcNeedUsable(grid);
-  prcDispatch([&] { prcUserPick(grid, row); });
 }
 
 void Hover(Window& window) {
@@ -416,6 +391,35 @@ void Key(Window& window, const std::string& key, int shift) {
 
 void Close(Window& window) {
   prcDispatch([&] { prcUserClose(window); });
+}
+
+}  // namespace user
+
+namespace headless {
+
+void Reset(const std::string& folder, std::uint32_t start) {
+  while (!fncWindows().empty()) {
+    prcForgetWindow(*fncWindows().back());
+  }
+  state = State{};
+  state.Start = start;
+  ResetMachine(folder);
+  prcSetCurrency(CurrencyStyle{});
+}
+
+void StepTicks(std::int32_t milliseconds) {
+  state.Start += static_cast<std::uint32_t>(milliseconds);
+}
+
+void AtNextTurn(std::function<void()> event) { state.NextTurn.push_back(std::move(event)); }
+std::uint64_t Turns() { return state.Turns; }
+void SaveAs(std::string path) { state.SavePaths.push_back(std::move(path)); }
+std::vector<std::string>& Copied() { return state.Copied; }
+std::vector<std::string>& Printed() { return state.Printed; }
+
+void Pick(Control& grid, int row) {
+  prcNeedUsable(grid);
+  prcDispatch([&] { prcUserPick(grid, row); });
 }
 
 }  // namespace headless

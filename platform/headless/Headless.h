@@ -9,9 +9,10 @@
 #include "platform/platform.h"
 
 // The platform without a screen: a virtual clock that moves only while the program waits, a
-// scripted user, and a record of what was shown. Tests speak this vocabulary.
+// scripted user, and a record of what was shown. Tests speak this vocabulary; that of the user is
+// also understood on the real widgets of the tests' stage, whose time is virtual too.
 
-namespace headless {
+namespace user {
 
 /// A message box that was shown.
 struct Box {
@@ -21,16 +22,8 @@ struct Box {
   platform::Answer Standard;
 };
 
-/// Puts the platform back to its start: clock at start milliseconds, no script, no records, no
-/// loaded windows, the dollar currency, and folder as the folder of the settings file. The game's
-/// own tables are left alone.
-void Reset(const std::string& folder, std::uint32_t start = 0);
-
-/// Milliseconds that have passed on the virtual clock since Reset.
+/// Milliseconds that have passed on the virtual clock since the reset of the platform.
 std::uint32_t Now();
-
-/// Steps the counter of TickCount forward or back, against its contract. No time passes.
-void StepTicks(std::int32_t milliseconds);
 
 /// Lets virtual time pass while the program is idle: timers tick and scripted events run in their
 /// order.
@@ -40,26 +33,65 @@ void Wait(std::uint32_t milliseconds);
 /// then in.
 void After(std::uint32_t milliseconds, std::function<void()> event);
 
-/// Runs event at the next turn of the event loop, which may be in the middle of a shuffle.
-void AtNextTurn(std::function<void()> event);
-
 /// Runs event while the next message box or modal window is open.
 void WhileModal(std::function<void()> event);
 
 /// Answers the next unanswered message box; without one the box's standard button is taken.
 void Answer(platform::Answer answer);
 
-/// The boxes shown since Reset, oldest first.
+/// The boxes shown since the reset, oldest first.
 const std::vector<Box>& Boxes();
 void ForgetBoxes();
 
-/// Turns of the event loop since Reset, and controls that were repainted at once, by name and index
-/// ("pctCardBack(0)").
-std::uint64_t Turns();
-std::vector<std::string>& Repaints();
-
 /// The program has ended.
 bool Ended();
+
+/// Brings the screen up to date with the model: windows that are up get their places and sizes,
+/// and resize handlers run where a size has changed.
+void Settle();
+
+// The hand. Where it cannot reach a control it throws a logic error that says so. The press may be
+// refused; what the control's handlers saw tells. False is returned where this user sees that it
+// was.
+
+/// A whole click: press, release, click.
+bool Click(Control& control, int button = intLeftButton);
+bool Press(Control& control, float x = 0, float y = 0, int button = intLeftButton);
+/// A move while the press is held; the place counts from the control that was pressed.
+void Drag(Control& control, float x, float y);
+/// Whether the last drag was painted before its handlers returned.
+bool PaintedAtOnce();
+void Release(Control& control, float x = 0, float y = 0, int button = intLeftButton);
+/// The pointer moves over a control, or over bare ground near the window's bottom right corner.
+void Hover(Control& control);
+void Hover(Window& window);
+/// Clicks into a box, selects all of it and types. Returns whether the focus got there.
+bool Type(Control& box, const std::string& text);
+/// Moves the focus as the Tab key does. Returns whether it moved.
+bool Tab(Window& window);
+/// A key by its name or letter: "Left", "F12", "5".
+void Key(Window& window, const std::string& key, int shift = 0);
+void Close(Window& window);
+
+}  // namespace user
+
+namespace headless {
+
+using namespace user;
+
+/// Puts the platform back to its start: clock at start milliseconds, no script, no records, no
+/// loaded windows, the dollar currency, and folder as the folder of the settings file. The game's
+/// own tables are left alone.
+void Reset(const std::string& folder, std::uint32_t start = 0);
+
+/// Steps the counter of TickCount forward or back, against its contract. No time passes.
+void StepTicks(std::int32_t milliseconds);
+
+/// Runs event at the next turn of the event loop, which may be in the middle of a shuffle.
+void AtNextTurn(std::function<void()> event);
+
+/// Turns of the event loop since Reset.
+std::uint64_t Turns();
 
 /// Where the user wants the next file saved; without it AskSavePath is given up.
 void SaveAs(std::string path);
@@ -68,30 +100,7 @@ void SaveAs(std::string path);
 std::vector<std::string>& Copied();
 std::vector<std::string>& Printed();
 
-/// Gives windows that are up what a screen gives them: a place in the middle where they have none
-/// of their own, and the inner size; the resize handler runs where that has changed.
-void PlaceWindows();
-
-// The scripted user. Each call fails the test by an exception when the control is not there to be
-// used.
-
-/// A whole click: press, release, click. Returns whether the press stood.
-bool Click(Control& control, int button = intLeftButton);
-bool Press(Control& control, float x = 0, float y = 0, int button = intLeftButton);
-/// A move while the press is held; the place counts from the control that was pressed.
-void Drag(Control& control, float x, float y);
-void Release(Control& control, float x = 0, float y = 0);
-/// The pointer moves over a control, or over the bare window.
-void Hover(Control& control);
-void Hover(Window& window);
 /// The user picks a row of a grid or a point of a chart.
 void Pick(Control& grid, int row);
-/// Puts the focus in a box as by mouse and replaces its text as by typing. Returns whether the
-/// focus got there.
-bool Type(Control& box, const std::string& text);
-/// Moves the focus as the Tab key does. Returns whether it moved.
-bool Tab(Window& window);
-void Key(Window& window, const std::string& key, int shift = 0);
-void Close(Window& window);
 
 }  // namespace headless

@@ -197,7 +197,7 @@ void Transcript::prcTell(const std::string& topic, const std::string& what,
 void Transcript::prcTellBoxes() {
   static const char* const icons[]{"", "stop", "!", "i"};
   for (const user::Box& box : user::Boxes()) {
-    std::string choice = box.blnCancel ? " OK/Cancel" : "";
+    std::string choice = box.Buttons == platform::Buttons::OkCancel ? " OK/Cancel" : "";
     choice += box.Standard == platform::Answer::Cancel ? ", Cancel" : "";
     prcClause("box " + std::string(icons[static_cast<std::size_t>(box.Icon)]) + "[" + box.Title +
               choice + "]: " + fncPiped(box.Text));

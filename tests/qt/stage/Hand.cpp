@@ -233,7 +233,8 @@ void prcRead(const QMessageBox& box) {
   const bool blnStandard =
       box.defaultButton() != nullptr && box.defaultButton() == box.button(QMessageBox::Cancel);
   hand.Boxes.push_back({fncTold(box.text()), box.windowTitle().toStdString(), icons.at(box.icon()),
-                        blnCancel, blnStandard ? platform::Answer::Cancel : platform::Answer::Ok});
+                        blnCancel ? platform::Buttons::OkCancel : platform::Buttons::Ok,
+                        blnStandard ? platform::Answer::Cancel : platform::Answer::Ok});
 }
 
 void prcAnswer(QMessageBox& box) {
@@ -463,7 +464,6 @@ void WhileModal(std::function<void()> act) { hand.Modal.push_back(std::move(act)
 void Answer(platform::Answer answer) { hand.Answers.push_back(answer); }
 const std::vector<Box>& Boxes() { return hand.Boxes; }
 void ForgetBoxes() { hand.Boxes.clear(); }
-void AtNextTurn(std::function<void()> handler) { prcAtNextTurn(std::move(handler)); }
 void After(std::uint32_t milliseconds, std::function<void()> handler) {
   prcAfter(milliseconds, std::move(handler));
 }
