@@ -9,22 +9,12 @@
 // velmora_qt_endurance: at the real widgets. Both print counts, or the fault with its seed and the
 // shortest list of events that repeats it.
 
-namespace {
-
-int fncEndureAll(int argc, char** argv) {
-  const std::uint64_t seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
-  const std::int64_t shoes = argc > 2 ? std::atoll(argv[2]) : 10'000;
-  const EnduranceResult result = fncEndure(seed, shoes);
-  std::printf("%" PRId64 " shoes, %" PRId64 " hands, %" PRId64 " starts of the program\n",
-              result.Shoes, result.Hands, result.Starts);
-  if (!result.Fault.empty()) {
-    std::printf("%s\n", result.Fault.c_str());
-  }
-  return result.Fault.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
-}
-
-}  // namespace
-
 int main(int argc, char** argv) {
-  return user::Play(argc, argv, [&] { return fncEndureAll(argc, argv); });
+  return user::Play(argc, argv, [&] {
+    const std::uint64_t seed = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1;
+    const EnduranceResult result = fncEndure(seed, argc > 2 ? std::atoll(argv[2]) : 10'000);
+    std::printf("%" PRId64 " shoes, %" PRId64 " hands, %" PRId64 " starts of the program\n%s",
+                result.Shoes, result.Hands, result.Starts, result.Fault.c_str());
+    return result.Fault.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+  });
 }

@@ -1,8 +1,6 @@
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
 
 #include "judges/Endurance.h"
 
@@ -13,22 +11,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   constexpr std::size_t mostEvents = 120;
-  if (size < 5) {
+  if (size <= sizeof(UserEvent)) {
     return 0;
   }
-  const std::size_t count = std::min((size - 1) / 4, mostEvents);
-  std::vector<UserEvent> events;
-  for (std::size_t at = 0; at < count; ++at) {
-    const std::uint8_t* bytes = data + 1 + at * 4;
-    events.push_back({bytes[0], bytes[1], bytes[2], bytes[3]});
-  }
-  const EnduranceResult result = fncPlay("game", data[0], events);
-  if (!result.Fault.empty()) {
-    std::fprintf(stderr, "%s\n", result.Fault.c_str());
-    for (const UserEvent& event : events) {
-      std::fprintf(stderr, "  %s\n", fncDescribe(event).c_str());
-    }
-    std::abort();
+  std::vector<UserEvent> events(std::min((size - 1) / sizeof(UserEvent), mostEvents));
+  std::memcpy(events.data(), data + 1, events.size() * sizeof(UserEvent));
+  if (const std::string fault = fncPlay("game", data[0], events).Fault; !fault.empty()) {
+    throw std::runtime_error(fault);
   }
   return 0;
 }

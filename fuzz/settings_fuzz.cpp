@@ -1,9 +1,7 @@
-#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <string>
+#include <stdexcept>
 
 #include "platform/ProfileFile.h"
 
@@ -13,18 +11,18 @@
 namespace {
 
 const std::string strFile = "VELMORA.INI";  // In the folder it is started in.
-const ProfileKey keyWin{"Player1Stats", "Win", " -12.5"};
 
-std::string fncContents() {
+/// The file behind a write.
+std::string fncWritten() {
+  const ProfileKey keyWin{"Player1Stats", "Win", " -12.5"};
+  if (!fncWriteProfile(strFile, {&keyWin, 1})) {
+    throw std::runtime_error("it cannot be written");
+  }
   std::ifstream file(strFile, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-void prcNeed(bool blnHolds) {
-  if (!blnHolds) {
-    std::abort();
-  }
-}
+std::string fncOther() { return fncReadProfile(strFile, "Misc", "UnitValue", "No"); }
 
 }  // namespace
 
@@ -32,12 +30,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::ofstream(strFile, std::ios::binary) << std::string(data, data + size);
-  const std::string other = fncReadProfile(strFile, "Misc", "UnitValue", "No");
-  prcNeed(fncWriteProfile(strFile, {&keyWin, 1}));
-  prcNeed(fncReadProfile(strFile, "player1stats", "WIN", "No") == "-12.5");
-  prcNeed(fncReadProfile(strFile, "Misc", "UnitValue", "No") == other);
-  const std::string after = fncContents();
-  prcNeed(fncWriteProfile(strFile, {&keyWin, 1}));
-  prcNeed(fncContents() == after);
+  const std::string other = fncOther(), after = fncWritten();
+  if (fncReadProfile(strFile, "player1stats", "WIN", "No") != "-12.5" || fncOther() != other ||
+      fncWritten() != after) {
+    throw std::runtime_error("what is written is not what is read");
+  }
   return 0;
 }

@@ -1,13 +1,13 @@
 #include "judges/Endurance.h"
 
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 #include "judges/Adapter.h"
 #include "judges/Invariants.h"
 #include "marking/MarkState.h"
 #include "shell/Program.h"
+#include "shell/SettingsStore.h"
 #include "table/BaccTable.h"
 
 std::function<void(const UserEvent&)> prcAfterEvent = [](const UserEvent&) {};
@@ -15,13 +15,6 @@ std::function<void(const UserEvent&)> prcAfterEvent = [](const UserEvent&) {};
 namespace {
 
 constexpr std::size_t intEventsOfAnEvening = 200;
-
-/// A small shoe ends soon; the rest is what a first run would find.
-constexpr const char* strFirstFile =
-    "[frmBaccTable]\r\nHeight= 5400\r\nWidth= 10770\r\n"
-    "[Misc]\r\nUnitValue= 10\r\nNerodik=1\r\n"
-    "[Player1Stats]\r\nStake= 5000\r\n[Player2Stats]\r\nStake= 5000\r\n"
-    "[Shoe Size]\r\nDecks= 1\r\n";
 
 /// An evening under way: the events come one after the other, in whatever wait the program is in.
 struct Evening {
@@ -37,13 +30,10 @@ void prcLook(Evening& evening) {
     return;
   }
   evening.Fault = fncLook();
-  if (user::Ended()) {
-    return;
-  }
   if (evening.Fault.empty()) {
     evening.Fault = fncLookAtSwitches();
   }
-  if (!evening.Fault.empty()) {
+  if (!evening.Fault.empty() && !user::Ended()) {
     platform::End();  // Nobody will turn the cards that the program may be waiting for.
   }
 }
@@ -78,11 +68,20 @@ void prcRun(Evening& evening) {
 
 }  // namespace
 
-EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
-                        const std::vector<UserEvent>& events) {
+void prcMakeSettings(const std::string& folder, int stake, int decks) {
   std::filesystem::remove_all(folder);
   std::filesystem::create_directories(folder);
-  std::ofstream(folder + "/VELMORA.INI", std::ios::binary) << strFirstFile;
+  strIniFile = folder + "/VELMORA.INI";
+  prcWriteSetting(secMisc, keyNerodik, 1);
+  prcWriteSetting(secShoeSize, keyDecks, decks);
+  for (int seat = 0; seat < intSeats; ++seat) {
+    prcWriteSetting(fncSeatSection(seat), keyStake, stake);
+  }
+}
+
+EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
+                        const std::vector<UserEvent>& events) {
+  prcMakeSettings(folder, 5000, 1);  // A small shoe ends soon.
   Evening evening{events};
   EnduranceResult result;
   lngHandsSeen = lngShoesSeen = 0;

@@ -15,11 +15,15 @@ struct EnduranceResult {
   std::int64_t Hands = 0, Shoes = 0, Starts = 0;
 };
 
+/// Makes a folder anew with a settings file in it: no start screen, so much money for each seat, a
+/// shoe of so many decks, and else what a first run finds.
+void prcMakeSettings(const std::string& folder, int stake, int decks);
+
 /// Called after each event, before the watch looks: where a test plants a fault.
 extern std::function<void(const UserEvent&)> prcAfterEvent;
 
-/// Plays the events in a folder whose settings file it makes anew: the program is started, and
-/// started again where an event ends it. Shuffles take their order from the seed.
+/// Plays the events in a folder that it makes anew: the program is started, and started again where
+/// an event ends it. Shuffles take their order from the seed.
 EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
                         const std::vector<UserEvent>& events);
 

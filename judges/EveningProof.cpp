@@ -12,25 +12,12 @@
 #include "judges/Endurance.h"
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
-#include "shell/SettingsStore.h"
 #include "table/DealCommand.h"
 
 namespace {
 
 constexpr int intBlocks = 10;  // Of an evening, each with bets of its own.
 constexpr int intHandsOfBlock = 10;
-
-void prcStartTable(const std::string& folder) {
-  headless::Reset(folder);
-  prcResetTableState();
-  strIniFile = folder + "/VELMORA.INI";
-  prcWriteSetting(secMisc, keyNerodik, 1);
-  for (int seat = 0; seat < intSeats; ++seat) {
-    prcWriteSetting(fncSeatSection(seat), keyStake, 10'000'000);
-  }
-  platform::Run(0, nullptr, fncStartProgram);
-  headless::Wait(10);
-}
 
 void prcMakeBet(BetSide side, int seat, int chips) {
   prcBetInc(side, seat, fncInteger(chips - fncBetChips(side, seat)));
@@ -88,8 +75,12 @@ bool EveningProof::fncHolds() const {
 
 EveningProof fncProveEvenings(int evenings, std::uint64_t seed) {
   const std::string folder = fncFastFolder();
-  prcStartTable(folder);
+  prcMakeSettings(folder, 10'000'000, 8);
+  headless::Reset(folder);
   headless::Seed(seed);
+  prcResetTableState();
+  platform::Run(0, nullptr, fncStartProgram);
+  headless::Wait(10);
   EveningProof proof{.Evenings = evenings};
   for (int evening = 0; evening < evenings; ++evening) {
     prcForgetHands();

@@ -202,6 +202,9 @@ std::string fncLook() {
 
 std::string fncLookAtSwitches() {
   strFault.clear();
+  if (user::Ended()) {
+    return "";
+  }
   for (const Switch* row :
        {&swtLearn, &swtCardFaceUp, &swtShowCardValues, &swtShowCardsDealt, &swtShowCardsDealtCount,
         &swtShowScore, &swtShowNaturals, &swtPlayerBlue, &swtDelay, &swtAnimation}) {

@@ -77,24 +77,25 @@ void prcSqueeze(Byte which, Byte how) {
   user::Release(strip, -1, -1);
 }
 
-/// Shuffle, an entry of a menu or a button of the toolbar, any of which may ask.
-void prcCommand(Control& control, Byte how) {
+/// A control whose click may bring up a box that asks.
+void prcClickAndAnswer(Control& control, Byte how) {
   prcAnswer(how);
   prcClick(control);
 }
 
-void prcMenu(Byte which, Byte how) {
-  std::vector<Control*> entries;
-  std::ranges::copy_if(MDIForm1.Form.Controls, std::back_inserter(entries), [](const Control* c) {
-    return c->Kind == ControlKind::MenuEntry && c->On->Click != nullptr && c != &MDIForm1.mnuExit;
-  });
-  prcCommand(*fncPick(entries, which), how);
+/// Any entry or button of the frame, or a box of the lists.
+void prcCommand(Byte which, Byte how) {
+  std::vector<Control*> all;
+  for (const Window* window : {&MDIForm1.Form, &frmCardsDealt.Form, &frmCardsDealtCount.Form}) {
+    std::ranges::copy_if(window->Controls, std::back_inserter(all),
+                         [](const Control* c) { return c->On->Click != nullptr; });
+  }
+  prcClickAndAnswer(*fncPick(all, which), how);
 }
 
-/// Mostly the lists: the other two may end the program.
 void prcCloseWindow(Byte which, Byte /*how*/) {
-  const std::array windows{&frmCardsDealt.Form, &frmCardsDealtCount.Form, &frmCardsDealt.Form,
-                           which < 128 ? &BaccTable.Form : &MDIForm1.Form};
+  const std::array windows{&frmCardsDealt.Form, &frmCardsDealtCount.Form, &BaccTable.Form,
+                           &MDIForm1.Form};
   if (Window& window = *fncPick(windows, which); window.Visible) {
     user::Close(window);
   }
@@ -108,7 +109,7 @@ void prcUseStatistics(Byte which, Byte how) {
     user::Tab(frmStatistics.Form);
   }
   if (how % 5 == 0) {
-    prcCommand(frmStatistics.cmdResetStats, how);
+    prcClickAndAnswer(frmStatistics.cmdResetStats, how);
   }
   prcClick(frmStatistics.Command1);
   user::Type(stake, "10000000");  // A stake that is refused holds its user until it is mended.
@@ -146,20 +147,12 @@ const std::array kinds{
     Kind{"Deal", 48, [](Byte which, Byte) { prcClick(BaccTable.duokkortos[which % 4]); }},
     Kind{"TypeHands", 8,
          [](Byte, Byte how) { user::Type(BaccTable.mskHandsAtaTime, fncPick(strHands, how)); }},
-    Kind{"Shuffle", 9, [](Byte, Byte how) { prcCommand(BaccTable.maisyk, how); }},
+    Kind{"Shuffle", 9, [](Byte, Byte how) { prcClickAndAnswer(BaccTable.maisyk, how); }},
     Kind{"Turn", 12, prcTurn},
     Kind{"Squeeze", 5, prcSqueeze},
     Kind{"Key", 5, [](Byte, Byte how) { user::Key(BaccTable.Form, fncPick(strKeys, how)); }},
-    Kind{"Menu", 2, prcMenu},
-    Kind{"ToolButton", 2,
-         [](Byte which, Byte how) {
-           prcCommand(fncButtons(*tlbrRef)[which % intToolButtons], how);
-         }},
+    Kind{"Command", 8, prcCommand},
     Kind{"CloseWindow", 1, prcCloseWindow},
-    Kind{"KeepOnTop", 1,
-         [](Byte which, Byte) {
-           prcClick(which % 2 == 0 ? frmCardsDealt.chkOnTop : frmCardsDealtCount.chkOnTop);
-         }},
     Kind{"UnitValue", 2,
          [](Byte, Byte how) { user::Type(BaccTable.txtUnitValue, fncPick(strUnits, how)); }},
     Kind{"Statistics", 2, prcStatistics},
