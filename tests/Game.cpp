@@ -5,6 +5,7 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "betting/frmStatistics.h"
 #include "marking/MarkState.h"
 #include "platform/Procedure.h"
 #include "platform/ProfileFile.h"
@@ -55,6 +56,11 @@ void prcFreshGame(const std::string& folder) {
   strHelpFile = folder + "/VELMORA.HLP";
 }
 
+std::string fncFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
 std::string fncPiped(std::string text) {
   for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n")) {
     text.replace(at, 2, "|");
@@ -87,10 +93,7 @@ void Game::WriteFile(const std::string& contents) {
   std::ofstream(strIniFile, std::ios::binary) << contents;
 }
 
-std::string Game::Contents() {
-  std::ifstream file(strIniFile, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+std::string Game::Contents() { return fncFile(strIniFile); }
 
 void Game::Start() {
   user::Run(fncStartProgram);
@@ -120,9 +123,13 @@ void Game::NextCards(const std::vector<int>& values) {
   }
 }
 
-void Game::NextResult(const std::string& result) {
-  // Player, Banker, Player, Banker: 9 against 7, 7 against 9, or both 7 on two cards.
-  NextCards({13, 13, result == "P" ? 9 : 7, result == "B" ? 9 : 7});
+void Game::NextResult(const std::string& results) {
+  std::vector<int> values;
+  for (const char result : results) {
+    // Player, Banker, Player, Banker: 9 against 7, 7 against 9, or both 7 on two cards.
+    values.insert(values.end(), {13, 13, result == 'P' ? 9 : 7, result == 'B' ? 9 : 7});
+  }
+  NextCards(values);
 }
 
 bool Game::Bet(BetSide side, int seat, const std::string& chips) {
@@ -141,6 +148,15 @@ void Game::Deal(int hands) {
 void Game::DealResult(const std::string& result) {
   NextResult(result);
   Deal();
+}
+
+void Game::ResetStatistics() {
+  user::WhileModal([] {
+    user::Answer(platform::Answer::Ok);
+    user::Click(frmStatistics.cmdResetStats);
+    user::Close(frmStatistics.Form);
+  });
+  user::Click(MDIForm1.mnuStatistics);
 }
 
 std::string Game::LastBox() { return user::Boxes().empty() ? "" : user::Boxes().back().Text; }

@@ -32,6 +32,9 @@ class TestFolder {
 /// any window.
 void prcFreshGame(const std::string& folder);
 
+/// All that a file holds, empty where there is none.
+std::string fncFile(const std::string& path);
+
 /// A text with "|" for its line breaks.
 std::string fncPiped(std::string text);
 
@@ -58,8 +61,8 @@ class Game : public testing::Test {
   /// The shoe keeps each of its cards.
   static void NextCards(const std::vector<int>& values);
 
-  /// The next hand is won by this side on four cards, or tied: "P", "B" or "T".
-  static void NextResult(const std::string& result);
+  /// The next hands are won by these sides on four cards, or tied: "P", "B" or "T" for each.
+  static void NextResult(const std::string& results);
 
   /// Types chips into a bet box and leaves it by the Tab key. Returns whether the check let go.
   static bool Bet(BetSide side, int seat, const std::string& chips);
@@ -69,6 +72,9 @@ class Game : public testing::Test {
 
   /// One hand that is won by a side, in a single-hand run until the table is open again.
   static void DealResult(const std::string& result);
+
+  /// Opens the statistics, sets them to zero and closes them.
+  static void ResetStatistics();
 
   static void ShowNoCardsSlowly();
 
