@@ -8,6 +8,7 @@
 #include "evening/Law.h"
 #include "evening/Luck.h"
 #include "evening/Reckoning.h"
+#include "table/Odds.h"
 
 namespace {
 
@@ -70,14 +71,18 @@ SumLaw fncSum(const std::vector<EveningHand>& hands, std::size_t most) {
   return sum;
 }
 
+constexpr std::array<double, 4> dblBand{0.05, 0.25, 0.75, 0.95};
+
 TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
   const std::vector<EveningHand> hands = fncMixed(9);
   std::map<std::int64_t, double> sums{{0, 1.0}};  // In twentieths.
   for (const EveningHand& hand : hands) {
-    const HandLaw law = fncBoth(hand);
+    const HandLaw one = fncHandLaw(hand, 0), two = fncHandLaw(hand, 1);
+    const OddsRow& odds = fncOdds(hand.Decks);
+    EXPECT_NEAR(one.Chance[0] * double(odds.fncAll()), double(odds.Banker), 1);
     for (const auto& [sum, chance] : std::exchange(sums, {})) {
       for (std::size_t n = 0; n < 3; ++n) {
-        sums[sum + law.Net.at(n)] += chance * law.Chance.at(n);
+        sums[sum + one.Net.at(n) + two.Net.at(n)] += chance * one.Chance.at(n);
       }
     }
   }
@@ -87,12 +92,16 @@ TEST(Law, OfASumIsThatOfEveryOutcomeOneByOne) {
   for (const auto& [value, chance] : sums) {
     ASSERT_NEAR(fncShareBelow(sum, value), below, 1e-11) << value;
     ASSERT_NEAR(fncShareAt(sum, value), chance, 1e-11) << value;
+    for (std::size_t n = 0; n < dblBand.size(); ++n) {
+      if (below < dblBand.at(n) && below + chance >= dblBand.at(n)) {
+        EXPECT_EQ(std::llround(fncQuantiles(sum, dblBand).at(n) * intTwentieths), value);
+      }
+    }
     below += chance;
   }
 }
 
 TEST(Law, OnACoarseGridStaysNearTheExactOneAlsoWhenSmallBetsFollowBigOnes) {
-  constexpr std::array<double, 4> band{0.05, 0.25, 0.75, 0.95};
   for (const auto& [hands, share, money] :
        {std::tuple{fncMixed(400), 2e-4, 1}, {fncBigThenSmall(1, 100, 80, 10), 5e-3, 20}}) {
     const SumLaw exact = fncSum(hands, 1U << 22U), coarse = fncSum(hands, 1U << 11U);
@@ -103,8 +112,8 @@ TEST(Law, OnACoarseGridStaysNearTheExactOneAlsoWhenSmallBetsFollowBigOnes) {
       EXPECT_NEAR(fncShareBelow(coarse, at), fncShareBelow(exact, at) + fncShareAt(exact, at) / 2,
                   share);
     }
-    for (std::size_t n = 0; n < band.size(); ++n) {
-      EXPECT_NEAR(fncQuantiles(coarse, band).at(n), fncQuantiles(exact, band).at(n), money);
+    for (std::size_t n = 0; n < dblBand.size(); ++n) {
+      EXPECT_NEAR(fncQuantiles(coarse, dblBand).at(n), fncQuantiles(exact, dblBand).at(n), money);
     }
   }
 }
