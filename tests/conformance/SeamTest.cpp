@@ -53,6 +53,20 @@ TEST(Seam, APointOfAChartIsPickedByThePointerAndByKeys) {
   user::Reset();
 }
 
+TEST(Values, SetFromCodeStayWithinTheirBoundsAndTellOnce) {
+  static int intTold = 0;
+  static const ControlEvents told{.Change = [](Control&) { ++intTold; }};
+  Control bar;
+  bar.Kind = ControlKind::HScrollBar;
+  bar.Max = 1000;
+  bar.On = &told;
+  for (const double value : {400, 400, 5000}) {
+    prcSetValue(bar, value);
+  }
+  EXPECT_EQ(intTold, 2);
+  EXPECT_EQ(bar.Value, 1000);
+}
+
 TEST(ChartPlot, StepsAreRoundAndHoldTheCurve) {
   constexpr int most = 7;
   for (const auto& [span, step] :
