@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -13,24 +14,55 @@
 namespace {
 
 Window frmBench;
-Control crtCurve;
+Control crtCurve, lblStrip;
 std::string strLog;
 
 std::string fncTaken() { return std::exchange(strLog, {}); }
 
-TEST(Seam, APointOfAChartIsPickedByThePointerAndByKeys) {
+class Seam : public testing::Test {
+ protected:
+  void SetUp() override {
+    user::Reset();
+    frmBench.Kind = WindowKind::Float;
+    frmBench.FixedInner = true;
+    frmBench.ScaleWidth = 9000;
+    frmBench.ScaleHeight = 3600;
+    const Place rows[] = {{&crtCurve, "crtCurve", -1, ControlKind::Chart, 0, 0, 9000, 3000},
+                          {&lblStrip, "lblStrip", -1, ControlKind::Label, 3000, 3300, 1065, 150}};
+    prcLayOut(frmBench, rows);
+  }
+  void TearDown() override { user::Reset(); }
+
+  static void Show(Control& control, const ControlEvents& events) {
+    control.On = &events;
+    prcShow(frmBench);
+    user::Settle();
+  }
+};
+
+TEST_F(Seam, APressHoldsTheMouseEvenOutsideAndWhenHidden) {
+  static const ControlEvents held{.MouseMove =
+                                      [](Control&, const Mouse& m) {
+                                        strLog += std::to_string(std::lround(m.X)) + ' ' +
+                                                  std::to_string(std::lround(m.Y)) + ' ';
+                                      },
+                                  .MouseUp = [](Control&, const Mouse&) { strLog += "up"; }};
+  Show(lblStrip, held);
+  user::Press(lblStrip, 150, 75);
+  fncTaken();
+  user::Drag(lblStrip, -2700, -1650);
+  lblStrip.Visible = false;
+  user::Settle();
+  user::Drag(lblStrip, 150, -750);
+  user::Release(lblStrip, 150, -750);
+  EXPECT_EQ(fncTaken(), "-2700 -1650 150 -750 up");
+}
+
+TEST_F(Seam, APointOfAChartIsPickedByThePointerAndByKeys) {
   static const ControlEvents picked{
       .Click = [](Control& c) { strLog += "click " + std::to_string(c.ListIndex) + ' '; },
       .Change = [](Control& c) { strLog += std::to_string(c.ListIndex) + ' '; }};
-  user::Reset();
-  frmBench.Kind = WindowKind::Float;
-  frmBench.FixedInner = true;
-  frmBench.ScaleWidth = 9000;
-  frmBench.ScaleHeight = 3000;
-  prcPlace(frmBench, {&crtCurve, "crtCurve", -1, ControlKind::Chart, 0, 0, 9000, 3000});
-  crtCurve.On = &picked;
-  prcShow(frmBench);
-  user::Settle();
+  Show(crtCurve, picked);
   user::Hover(crtCurve);
   EXPECT_EQ(fncTaken(), "") << "there are no points";
   auto chart = std::make_shared<ChartData>();
@@ -50,7 +82,6 @@ TEST(Seam, APointOfAChartIsPickedByThePointerAndByKeys) {
   }
   user::Release(crtCurve, at(10.1), 1500);
   EXPECT_EQ(fncTaken(), "1 2 3 0 3 click 3 ");
-  user::Reset();
 }
 
 TEST(Values, SetFromCodeStayWithinTheirBoundsAndTellOnce) {
