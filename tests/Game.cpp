@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 
 #include "betting/frmStatistics.h"
 #include "marking/MarkState.h"
@@ -23,17 +22,6 @@ void prcWaitUntilIdle() {
   while (blnBusy && !user::Ended() && user::Now() - start < lngLongestHand) {
     user::Wait(100);
   }
-}
-
-void prcSwapIn(int position, int value) {
-  SlotRow& order = intShoeCards[intShoeNumber];
-  for (int behind = position; behind <= intLastCard[intShoeNumber]; ++behind) {
-    if (intCardValue[intShoeNumber][order[behind]] == value) {
-      std::swap(order[position], order[behind]);
-      return;
-    }
-  }
-  throw std::logic_error("the shoe holds no more cards of that value");
 }
 
 }  // namespace
@@ -117,9 +105,14 @@ void Game::Shuffle(std::uint64_t seed) {
 }
 
 void Game::NextCards(const std::vector<int>& values) {
+  SlotRow& order = intShoeCards[intShoeNumber];
   int position = intNextCard[intShoeNumber];
   for (const int value : values) {
-    prcSwapIn(position++, value);
+    int behind = position;  // A shoe that holds no more of them ends in a fault of its row's.
+    while (intCardValue[intShoeNumber][order[behind]] != value) {
+      ++behind;
+    }
+    std::swap(order[position++], order[behind]);
   }
 }
 

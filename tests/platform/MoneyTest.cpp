@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <utility>
 
 #include "platform/Texts.h"
 
@@ -10,19 +11,17 @@ namespace {
 
 TEST(Money, HalvesRoundAwayFromZeroAlsoWhereTheBooksFallShortOfThem) {
   prcSetCurrency({});
-  const struct {
-    double Amount;
-    const char* Text;
-  } rows[] = {{3 * 0.95 * 10, "$29"},  // 28.499999999999996 in the books.
-              {0.95 * 10, "$10"},
-              {1000 - 30 + 3 * 0.95 * 10, "$999"},
-              {-(3 * 0.95 * 10), "-$29"},
-              {28.4999, "$28"},
-              {-0.4, "$0"},
-              {1234567.5, "$1,234,568"},
-              {1e15, "$1,000,000,000,000,000"}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(fncCurrency(row.Amount), row.Text) << row.Amount;
+  const std::pair<double, const char*> rows[] = {
+      {3 * 0.95 * 10, "$29"},  // 28.499999999999996 in the books.
+      {0.95 * 10, "$10"},
+      {1000 - 30 + 3 * 0.95 * 10, "$999"},
+      {-(3 * 0.95 * 10), "-$29"},
+      {28.4999, "$28"},
+      {-0.4, "$0"},
+      {1234567.5, "$1,234,568"},
+      {1e15, "$1,000,000,000,000,000"}};
+  for (const auto& [amount, text] : rows) {
+    EXPECT_EQ(fncCurrency(amount), text) << amount;
   }
 }
 

@@ -1,3 +1,5 @@
+#include <tuple>
+
 #include "shell/HelpTopics.h"
 #include "table/DrawRules.h"
 #include "tests/Game.h"
@@ -22,24 +24,23 @@ TEST(HelpPages, ThePictureOfTheDrawIsDrawnByTheRules) {
 }
 
 TEST(HelpPages, TheTopicOfWhatHasTheFocusLeadsToItsPage) {
-  const struct {
-    const char *Window, *Control, *Page;
-  } rows[] = {{"BaccTable", "", "first.html"},
-              {"BaccTable", "txtUnitValue", "betting.html#chipvalue"},
-              {"BaccTable", "pctCardBack", "squeezing.html"},
-              {"frmCourse", "grdEdge", "luck.html"},
-              {"MDIForm1", "", "menus.html"},
-              {"KasSitas", "cmdOK", "index.html"}};
+  const std::tuple<const char*, const char*, const char*> rows[] = {
+      {"BaccTable", "", "first.html"},
+      {"BaccTable", "txtUnitValue", "betting.html#chipvalue"},
+      {"BaccTable", "pctCardBack", "squeezing.html"},
+      {"frmCourse", "grdEdge", "luck.html"},
+      {"MDIForm1", "", "menus.html"},
+      {"KasSitas", "cmdOK", "index.html"}};
   const std::string index = fncFile(VELMORA_HELP_PAGES "/velmora.qhp");
-  for (const auto& row : rows) {
+  for (const auto& [name, focus, page] : rows) {
     Control focused;
     Window window;
-    window.Name = row.Window;
-    focused.Name = row.Control;
-    window.ActiveControl = *row.Control != 0 ? &focused : nullptr;
+    window.Name = name;
+    focused.Name = focus;
+    window.ActiveControl = *focus != 0 ? &focused : nullptr;
     const std::string entry =
-        "id=\"context" + std::to_string(fncHelpTopic(window)) + "\" ref=\"" + row.Page + "\"";
-    EXPECT_NE(index.find(entry), std::string::npos) << row.Window << row.Control << ' ' << entry;
+        "id=\"context" + std::to_string(fncHelpTopic(window)) + "\" ref=\"" + page + "\"";
+    EXPECT_NE(index.find(entry), std::string::npos) << name << focus << ' ' << entry;
   }
 }
 

@@ -59,19 +59,14 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
 }
 
 TEST_F(ShoeTest, CardsAreNamedBySlot) {
-  struct Case {
-    int Slot, Number;
-    const char* Name;
-    int Row;
-  };
-  for (const Case& card : {Case{52, 1, "1 Spade", 1},
-                           {12, 13, "King Spade", 1},
-                           {13, 14, "1 Club", 2},
-                           {36, 37, "Jack Diamond", 3},
-                           {104 + 50, 51, "Queen Heart", 4}}) {
-    EXPECT_EQ(CardNumber1To52(card.Slot), card.Number);
-    EXPECT_EQ(fncCardValueName(card.Slot % 13 + 1) + " " + CardSuite(card.Slot), card.Name);
-    EXPECT_EQ(intSuitRow, card.Row);
+  for (const auto& [slot, number, name, row] : {std::tuple{52, 1, "1 Spade", 1},
+                                                {12, 13, "King Spade", 1},
+                                                {13, 14, "1 Club", 2},
+                                                {36, 37, "Jack Diamond", 3},
+                                                {104 + 50, 51, "Queen Heart", 4}}) {
+    EXPECT_EQ(CardNumber1To52(slot), number);
+    EXPECT_EQ(fncCardValueName(slot % 13 + 1) + " " + CardSuite(slot), name);
+    EXPECT_EQ(intSuitRow, row);
   }
   EXPECT_EQ(fncCardValueName(0) + fncCardValueName(14), "");
   EXPECT_EQ(fncCardName(14), "Ace of Clubs");
