@@ -212,10 +212,10 @@ TEST_F(EveningWindows, LuckIsThatOfTheEveningWorkedByHandOnTheHelpsPage) {
 TEST_F(EveningWindows, ALongEveningIsReckonedInPortionsWhileItsWindowIsOpen) {
   PlayThree();
   while (colEveningHands.size() < 4003) {
-    const auto ties = static_cast<std::int16_t>(colEveningHands.size() % 17);
+    const auto chips = static_cast<std::int16_t>(colEveningHands.size() % 17);
     EveningHand hand = colEveningHands[colEveningHands.size() % 3];
-    hand.Chips[1] = {1, 0, ties};
-    hand.Paid[1] = {10, 0, ties * 10};
+    hand.Chips[1] = {1, 0, chips};
+    hand.Paid[1] = {10, 0, chips * 10};
     colEveningHands.push_back(hand);
   }
   prcShowCourse();
