@@ -4,14 +4,16 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Window.h"
 
-struct MarkCardWindow;
+/// The name of a control as a user of the tests says it: "maisyk", "txtTieBet(0)".
+std::string fncOwnName(const Control& control);
 
-/// The control of that name, such as "maisyk" or "txtTieBet(0)", in any loaded window; one in view
-/// goes before others. "frmCardsDealt.chkOnTop" looks in that window alone.
+/// The control of that name in any loaded window; one in view goes before others.
+/// "frmCardsDealt.chkOnTop" looks in that window or toolbar alone.
 Control& fncNamed(const std::string& name);
 
 /// The loaded window of that name; fails the test by an exception where there is none.
@@ -26,17 +28,18 @@ class Transcript {
  public:
   /// What is told from now on: "windows", "places", "focus", "program", "table" for the labels that
   /// are read out, "file", "money", "marks".
-  void Tells(const std::string& topics);
+  void Tells(const std::vector<std::string>& topics) { topics_ = {topics.begin(), topics.end()}; }
 
   /// Which controls are told, by how their names begin.
-  void Watch(const std::string& names);
+  void Watch(const std::vector<std::string>& names);
 
-  /// What a control shows that a plain one of its kind does not, apart from its place.
-  static std::string See(const std::string& name);
+  /// Watches, and next tells what these controls show that plain ones of their kind do not, apart
+  /// from their places.
+  void See(const std::vector<std::string>& names);
 
   /// Whether a watched control has come, gone or changed its text since it was last told: quick,
   /// for looks at every millisecond.
-  bool Moved() const;
+  bool Moved() const { return fncQuickLook() != quick_; }
 
   /// What is new, in clauses.
   std::string WhatIsNew();
@@ -46,15 +49,13 @@ class Transcript {
 
  private:
   using Words = std::array<std::string, 12>;
-  using Names = std::vector<std::pair<std::string, int>>;
-  using Looks = std::map<Names::value_type, Words>;
+  using Looks = std::map<const Control*, Words>;
+  /// By topic and by what is told: the text last told.
+  using Facts = std::map<std::pair<std::string, std::string>, std::string>;
 
   static Words fncWords(const Control& control);
-  bool fncWatched(const Control& control) const;
-  std::string fncList(Names names) const;
-  Looks fncLooks();
+  Looks fncLooks() const;
   std::string fncQuickLook() const;
-  void prcClause(const std::string& clause) { prcAdd(told_, clause); }
   void prcTellBoxes();
   void prcTellWindows();
   void prcTellTable();
@@ -62,17 +63,14 @@ class Transcript {
   void prcTellFile();
   void prcTellMoney();
   void prcTellMarks();
-  void prcTellTotals(const MarkCardWindow& card);
-  /// Tells a text that stands for something when it differs from what it was.
+  void prcTellMark(int number, const Control& shape, const Control& text);
+  /// Tells a fact when it differs from what it was.
   void prcTell(const std::string& topic, const std::string& what, const std::string& now);
 
-  std::string told_;
+  std::string told_, box_;  ///< What is being told, and the last message.
   std::set<std::string> topics_;
+  Facts facts_, factsBefore_;
   std::vector<std::string> watched_;
-  std::map<std::string, std::string> last_;  ///< By what: the text last told.
-  std::set<std::string> windows_;            ///< That were loaded.
   Looks looks_;
-  std::vector<const Control*> controls_;  ///< That are watched.
   std::string quick_;
-  std::map<std::string, std::string> file_;
 };
