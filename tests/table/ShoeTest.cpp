@@ -54,7 +54,7 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
   EXPECT_EQ(seen.size(), 13U);
   // The last one's: 3 of Spades and Diamonds, 5 of Hearts, 10 of Clubs.
   const std::vector<std::string>& counts = frmCardsDealtCount.lstCardsDealtCount.List;
-  EXPECT_EQ(counts[2] + counts[4] + counts[9],
+  EXPECT_EQ(counts.at(2) + counts.at(4) + counts.at(9),
             "3    1  0  1  0      5    0  0  0  1      10   0  1  0  0      ");
 }
 
