@@ -43,17 +43,9 @@ std::vector<EveningHand> fncMixed(int count) {
 std::vector<EveningHand> fncBigThenSmall(int big, int unit, int small, int chips) {
   std::vector<EveningHand> hands;
   for (int n = 0; n < big + small; ++n) {
-    hands.push_back(n < big ? fncHand("PB" [n % 2], unit,
-                                      {
-                                        {
-                                          { 0, 0, 100 }
-                                        }
-                                      })
-                            : fncHand("PB" [n % 2], 10, {
-                                {
-                                  { 0, chips, 0 }
-                                }
-                              }));
+    const char result = "PB"[n % 2];
+    hands.push_back(n < big ? fncHand(result, unit, {{{0, 0, 100}}})
+                            : fncHand(result, 10, {{{0, chips, 0}}}));
   }
   return hands;
 }
