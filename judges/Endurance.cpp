@@ -1,5 +1,6 @@
 #include "judges/Endurance.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <stdexcept>
 
@@ -15,6 +16,7 @@ std::function<void(const UserEvent&)> prcAfterEvent = [](const UserEvent&) {};
 namespace {
 
 constexpr std::size_t intEventsOfAnEvening = 200;
+constexpr std::size_t intMostTurns = 240;  // Of all cards, in two minutes, until a hand is over.
 
 /// An evening under way: the events come one after the other, in whatever wait the program is in.
 struct Evening {
@@ -29,7 +31,8 @@ void prcLook(Evening& evening) {
   if (!evening.Fault.empty()) {
     return;
   }
-  evening.Fault = fncLook();
+  const bool blnStuck = evening.Next > evening.Events.size() + intMostTurns;
+  evening.Fault = blnStuck ? "a hand or shuffle does not come to its end" : fncLook();
   if (evening.Fault.empty()) {
     evening.Fault = fncLookAtSwitches();
   }
@@ -57,15 +60,6 @@ void prcNext(Evening& evening) {
   prcLook(evening);
 }
 
-void prcRun(Evening& evening) {
-  prcStartWatch();
-  user::After(1, [&evening] { prcNext(evening); });
-  do {
-    user::Wait(1000);
-  } while (!user::Ended() && (!evening.fncOver() || blnBusy));
-  prcLook(evening);  // At what may have ended it.
-}
-
 }  // namespace
 
 void prcMakeSettings(const std::string& folder, int stake, int decks) {
@@ -91,11 +85,17 @@ EnduranceResult fncPlay(const std::string& folder, std::uint64_t seed,
     prcResetTableState();
     prcResetMarkState();
     user::Run(fncStartProgram);
-    prcRun(evening);
+    prcStartWatch();
+    user::After(1, [&evening] { prcNext(evening); });
+    do {
+      user::Wait(1000);
+    } while (!user::Ended() && (!evening.fncOver() || blnBusy));
+    prcLook(evening);  // At what may have ended it.
   } while (!evening.fncOver());
   user::Reset(folder);
   result.Hands = lngHandsSeen;
   result.Shoes = lngShoesSeen;
+  result.Events = std::min(evening.Next, events.size());
   if (!evening.Fault.empty()) {
     result.Fault = evening.Fault + "\nseed " + std::to_string(seed) + ", " +
                    std::to_string(events.size()) + " events:";
@@ -125,7 +125,8 @@ EnduranceResult fncEndure(std::uint64_t firstSeed, std::int64_t shoes) {
     all.Shoes += one.Shoes;
     all.Starts += one.Starts;
     all.Fault = one.Fault;
-    // What it does without is left out.
+    events.resize(one.Events);
+    // What the fault does without is left out.
     for (std::size_t at = all.Fault.empty() ? 0 : events.size(); at-- > 0;) {
       std::vector<UserEvent> fewer = events;
       fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(at));

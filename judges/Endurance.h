@@ -12,6 +12,7 @@
 struct EnduranceResult {
   /// What did not hold, with its seed and the events that repeat it; empty where all went well.
   std::string Fault;
+  std::size_t Events = 0;  ///< Those that were begun; the rest came behind a fault.
   std::int64_t Hands = 0, Shoes = 0, Starts = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "judges/Invariants.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -33,6 +34,7 @@ struct Seen {
   double Hands = 0;  ///< What the file should say.
   int HandsOfShoe = 0;
   bool blnEndOfShoe = true;
+  std::string Entries{};  ///< Of the switches, and the decks.
 };
 Seen seen;
 std::string strFault;
@@ -142,7 +144,7 @@ void prcLookAtButtons() {
           "the Shuffle button is open in the middle of a hand or shuffle");
 }
 
-/// The shoe has each slot once, and what has left it is listed and counted.
+/// What has left the shoe is listed and counted.
 void prcLookAtCards() {
   const int last = intLastCard[0];
   const bool blnEnded = intNextCard[0] == last && blnEndOfShoe[0];
@@ -154,15 +156,11 @@ void prcLookAtCards() {
   const std::vector<std::string>& rows = frmCardsDealt.lstCardsDealt.List;
   const int gone = blnEnded ? last + 1 : int{intNextCard[0]};
   prcMustBe(static_cast<double>(rows.size()), gone, "cards listed");
-  Table<bool, intMostSlots> blnSeen;
-  for (int p = 0; p <= last && strFault.empty(); ++p) {
+  for (int p = 0; p < gone && strFault.empty(); ++p) {
     const Integer slot = intShoeCards[0][p];
-    prcMust(!std::exchange(blnSeen[slot], true), "a slot stands twice in the shoe");
-    if (p < gone) {
-      const std::string& row = rows[static_cast<std::size_t>(p)];
-      const std::string name = fncCardValueName(slot % 13 + 1) + " " + CardSuite(slot);
-      prcMust(row.starts_with(name), "a row lists ", row);
-    }
+    const std::string& row = rows[static_cast<std::size_t>(p)];
+    const std::string name = fncCardValueName(slot % 13 + 1) + " " + CardSuite(slot);
+    prcMust(row.starts_with(name), "a row lists ", row);
   }
   std::int64_t counted = 0;
   for (const CardsDealtRow& row : varCardsDealtCount) {
@@ -201,19 +199,28 @@ std::string fncLook() {
 }
 
 std::string fncLookAtSwitches() {
+  static const std::array rows{&swtLearn,          &swtCardFaceUp,          &swtShowCardValues,
+                               &swtShowCardsDealt, &swtShowCardsDealtCount, &swtShowScore,
+                               &swtShowNaturals,   &swtPlayerBlue,          &swtDelay,
+                               &swtAnimation};
   strFault.clear();
   if (user::Ended()) {
     return "";
   }
-  for (const Switch* row :
-       {&swtLearn, &swtCardFaceUp, &swtShowCardValues, &swtShowCardsDealt, &swtShowCardsDealtCount,
-        &swtShowScore, &swtShowNaturals, &swtPlayerBlue, &swtDelay, &swtAnimation}) {
+  std::string entries = std::to_string(intDecks[0]);
+  for (const Switch* row : rows) {
+    entries += row->Entry.Value == 1 ? '1' : '0';
+  }
+  const bool blnTurned = std::exchange(seen.Entries, entries) != entries;
+  for (const Switch* row : rows) {
     const bool blnOn = row->Entry.Value == 1;
     prcMust((row->Flag == nullptr || *row->Flag == blnOn) &&
                 fncToolButton(row->Button).Value == row->Entry.Value &&
-                fncSwitchedOn(row->Section, row->Key) == blnOn,
+                (!blnTurned || fncSwitchedOn(row->Section, row->Key) == blnOn),
             "the faces of a switch differ: ", row->Key);
   }
-  prcMustBe(fncGetSetting(secShoeSize, keyDecks), int{intDecks[0]}, "decks in the file");
+  if (blnTurned) {
+    prcMustBe(fncGetSetting(secShoeSize, keyDecks), int{intDecks[0]}, "decks in the file");
+  }
   return strFault;
 }

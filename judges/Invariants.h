@@ -13,7 +13,7 @@ void prcStartWatch();
 std::string fncLook();
 
 /// The same for the user's switches alone: entry, button, flag and file say the same, and so do the
-/// decks.
+/// decks. The file is read where something has been turned.
 std::string fncLookAtSwitches();
 
 /// Hands dealt and shoes ended under the eyes of the watch. It counts on whenever it begins anew.

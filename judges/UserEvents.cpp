@@ -101,23 +101,21 @@ void prcCloseWindow(Byte which, Byte /*how*/) {
   }
 }
 
-/// Works in the statistics, which are open while this runs.
-void prcUseStatistics(Byte which, Byte how) {
-  Control& stake = frmStatistics.mskSteak[which % intSeats];
-  user::Type(stake, fncPick(strStakes, how));
-  if (how % 2 == 0) {
-    user::Tab(frmStatistics.Form);
-  }
-  if (how % 5 == 0) {
-    prcClickAndAnswer(frmStatistics.cmdResetStats, how);
-  }
-  prcClick(frmStatistics.Command1);
-  user::Type(stake, "10000000");  // A stake that is refused holds its user until it is mended.
-  prcClick(frmStatistics.Command1);
-}
-
+/// Opens the statistics and works in them. A stake that is refused holds its user until it is
+/// mended.
 void prcStatistics(Byte which, Byte how) {
-  user::WhileModal([which, how] { prcTry([=] { prcUseStatistics(which, how); }); });
+  Control& stake = frmStatistics.mskSteak[which % intSeats];
+  user::WhileModal([&stake, how] {
+    prcTry([&stake, how] {
+      user::Type(stake, fncPick(strStakes, how));
+      if (how % 5 == 0) {
+        prcClickAndAnswer(frmStatistics.cmdResetStats, how);
+      }
+      prcClick(frmStatistics.Command1);
+      user::Type(stake, "10000000");
+      prcClick(frmStatistics.Command1);
+    });
+  });
   prcClick(fncToolButton("Statistics"));
 }
 
@@ -151,7 +149,7 @@ const std::array kinds{
     Kind{"Turn", 12, prcTurn},
     Kind{"Squeeze", 5, prcSqueeze},
     Kind{"Key", 5, [](Byte, Byte how) { user::Key(BaccTable.Form, fncPick(strKeys, how)); }},
-    Kind{"Command", 8, prcCommand},
+    Kind{"Command", 5, prcCommand},
     Kind{"CloseWindow", 1, prcCloseWindow},
     Kind{"UnitValue", 2,
          [](Byte, Byte how) { user::Type(BaccTable.txtUnitValue, fncPick(strUnits, how)); }},
