@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include "platform/qt/looks/Scale.h"
 #include "reveal/CardReveal.h"
 #include "table/BaccTable.h"
 #include "table/BaccTableLayout.h"
@@ -27,22 +27,18 @@ QImage fncRendered(QSvgRenderer& card, std::initializer_list<const char*> parts,
 }
 
 /// The patches of a card as pixels of its picture.
-std::vector<QRect> fncPatches(int number, double scale) {
+std::vector<QRect> fncPatches(int number) {
   const bool blnPicture = (number - 1) % 13 + 1 >= intFirstPicture;
   const BaccTableWindow& t = BaccTable;
-  const Control& card = t.pctCardBack[0];
-  const auto edge = [scale](double twips) {
-    return static_cast<int>(std::lround(twips / 15 * scale));
-  };
   std::vector<QRect> patches;
   for (const auto& [narrow, wide] : {std::pair{&t.pctCardTopLeft[0], &t.pctCardTopLeftWide[0]},
                                      {&t.pctCardTopRight[0], &t.pctCardTopRightWide[0]},
                                      {&t.pctCardBottomLeft[0], &t.pctCardBottomLeftWide[0]},
                                      {&t.pctCardBottomRight[0], &t.pctCardBottomRightWide[0]}}) {
     const Control& patch = blnPicture ? *narrow : *wide;
-    const double left = patch.Left - card.Left, top = patch.Top - card.Top;
-    patches.emplace_back(QPoint(edge(left), edge(top)),
-                         QPoint(edge(left + patch.Width) - 1, edge(top + patch.Height) - 1));
+    patches.push_back(qt::fncPixelRect(patch.Left - t.pctCardBack[0].Left,
+                                       patch.Top - t.pctCardBack[0].Top, patch.Width,
+                                       patch.Height));
   }
   return patches;
 }
@@ -61,6 +57,7 @@ int fncDifference(const QImage& one, const QImage& other, const QRect& area) {
 TEST(CardArt, PatchesHideEveryMarkAndNothingElse) {
   prcLayOutBaccTable();
   for (const double scale : {1.0, 2.0}) {
+    qt::prcSetScale(scale);
     for (int number = 1; number <= intSlotsOfDeck; ++number) {
       SCOPED_TRACE(number);
       QSvgRenderer card(QStringLiteral(":/cards/%1.svg").arg(number, 2, 10, QLatin1Char('0')));
@@ -68,7 +65,7 @@ TEST(CardArt, PatchesHideEveryMarkAndNothingElse) {
       const QImage unmarked = fncRendered(card, {"face", "pips"}, scale);
       QImage patched = whole;
       QPainter painter(&patched);
-      for (const QRect& patch : fncPatches(number, scale)) {
+      for (const QRect& patch : fncPatches(number)) {
         EXPECT_GT(fncDifference(whole, unmarked, patch), 50) << "a mark in every corner";
         painter.fillRect(patch, Qt::white);
       }

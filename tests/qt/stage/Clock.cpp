@@ -139,10 +139,6 @@ void prcAfter(std::uint32_t milliseconds, std::function<void()> event) {
   fncClock().Line.push_back({.Due = fncNow() + milliseconds, .Event = std::move(event)});
 }
 
-void prcAtNextTurn(std::function<void()> event) {
-  fncClock().Line.insert(fncClock().Line.begin(), {.Due = 0, .Event = std::move(event)});
-}
-
 void prcWhenIdle(bool (*look)()) { fncClock().Look = look; }
 
 void prcFlush() {

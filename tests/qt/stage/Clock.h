@@ -16,9 +16,8 @@ QAbstractEventDispatcher* fncEventLoop();
 std::uint64_t fncNow();
 void prcResetClock();
 
-/// Runs event once this many milliseconds from now have passed, or as the very next thing.
+/// Runs event once this many milliseconds from now have passed.
 void prcAfter(std::uint32_t milliseconds, std::function<void()> event);
-void prcAtNextTurn(std::function<void()> event);
 
 /// Called before the clock goes on, for a user who sees what is open; returns whether he did
 /// something.

@@ -36,6 +36,10 @@ qt::WindowView& fncView(const Window& window) {
                          : throw std::logic_error(std::string("not on the screen: ") + window.Name);
 }
 
+bool fncSame(const QCursor& one, const QCursor& other) {
+  return one.shape() == other.shape() && one.hotSpot() == other.hotSpot();
+}
+
 std::string fncTold(QString text) {
   return text.replace(QLatin1Char('\n'), QLatin1String("\r\n")).toStdString();
 }
@@ -59,10 +63,9 @@ void prcSeePlace(Placed& seen, const QRect& place, const QRect& known) {
 }
 
 Pointer fncPointer(const QCursor& cursor) {
-  for (const Pointer known : {Pointer::Arrow, Pointer::SizeUpDown, Pointer::SizeLeftRight,
-                              Pointer::HandUp, Pointer::HandRight, Pointer::HandLink}) {
-    const QCursor drawn = qt::fncCursor(known);
-    if (drawn.shape() == cursor.shape() && drawn.hotSpot() == cursor.hotSpot()) {
+  using enum Pointer;
+  for (const Pointer known : {Arrow, SizeUpDown, SizeLeftRight, HandUp, HandRight, HandLink}) {
+    if (fncSame(cursor, qt::fncCursor(known))) {
       return known;
     }
   }
@@ -126,12 +129,6 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
   }
 }
 
-/// The control that the keyboard is at, within a window that has the input.
-const Control* fncAtKeyboard(const Window& window) {
-  const qt::ControlView* at = qt::fncControlViewOf(QApplication::focusWidget());
-  return at != nullptr && at->Home.Source == &window ? at->Source : nullptr;
-}
-
 }  // namespace
 
 }  // namespace stage
@@ -141,16 +138,12 @@ namespace user {
 Control Seen(const Control& control) {
   Control seen = control;
   const qt::ControlView* view = qt::fncViewOf(control);
-  if (view == nullptr) {
-    return seen;  // Its window has not come up: nothing of it shows.
-  }
   const QAction* action = stage::fncAction(control);
-  if (action != nullptr && view->Widget == nullptr) {
-    stage::prcSeeAction(seen, *action);
-    return seen;
-  }
-  if (view->Widget == nullptr) {
-    return seen;
+  if (view == nullptr || view->Widget == nullptr) {
+    if (action != nullptr) {
+      stage::prcSeeAction(seen, *action);
+    }
+    return seen;  // Where its window has not come up, nothing of it shows.
   }
   if (control.Kind != ControlKind::Toolbar) {  // A bar that cannot be used is hidden.
     seen.Enabled = view->Widget->isEnabledTo(view->Widget->parentWidget());
@@ -172,16 +165,16 @@ Window Seen(const Window& window) {
     return seen;
   }
   const QWidget& shell = *view->Shell;
-  const QRect place = qt::fncOuterPlace(*view);
   seen.Visible = !shell.isHidden();
   seen.Maximised = shell.isMaximized();
   seen.Topmost = view->Drawn.Topmost;  // What the window manager was asked for last.
   if (seen.Visible) {
-    stage::prcSeePlace(seen, place, qt::fncPixelRect(seen.Left, seen.Top, seen.Width, seen.Height));
+    stage::prcSeePlace(seen, qt::fncOuterPlace(*view),
+                       qt::fncPixelRect(seen.Left, seen.Top, seen.Width, seen.Height));
   }
-  const qt::WindowView* input = qt::fncWindowViewOf(QApplication::focusWidget());
-  if (input == view) {
-    seen.ActiveControl = const_cast<Control*>(stage::fncAtKeyboard(window));
+  if (const QWidget* focus = QApplication::focusWidget(); qt::fncWindowViewOf(focus) == view) {
+    const qt::ControlView* at = qt::fncControlViewOf(focus);
+    seen.ActiveControl = at != nullptr ? at->Source : nullptr;
   }
   return seen;
 }

@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QDir>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -8,7 +7,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
-#include <array>
 #include <cmath>
 #include <deque>
 #include <stdexcept>
@@ -19,7 +17,6 @@
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
-#include "platform/qt/windows/ChildShell.h"
 #include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
@@ -55,19 +52,15 @@ QPoint pntPointer;  // The pointer stays where it is from test to test.
 QWindow& fncNative(const QWidget& widget) { return *widget.window()->windowHandle(); }
 
 /// Watches for a card that is painted while this lives.
-class Paints : public QObject {
- public:
+struct Paints : QObject {
   Paints() { qApp->installEventFilter(this); }
-  bool blnAny = false;
-
- protected:
   bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::Paint) {
-      const qt::ControlView* view = qt::fncControlViewOf(qobject_cast<QWidget*>(object));
-      blnAny = blnAny || (view != nullptr && view->Drawn.Dress == Look::Card);
-    }
+    const auto* widget = qobject_cast<QWidget*>(object);
+    const auto* view = event->type() == QEvent::Paint ? qt::fncControlViewOf(widget) : nullptr;
+    blnAny = blnAny || (view != nullptr && view->Drawn.Dress == Look::Card);
     return false;
   }
+  bool blnAny = false;
 };
 
 void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
@@ -93,26 +86,10 @@ void prcClickAt(const QWidget& window, QPoint global, Qt::MouseButton button = Q
   prcLift(window, button);
 }
 
-/// Whether the pointer at a place within a widget is over it and not over another.
-bool fncOver(const QWidget& widget, QPoint at) {
-  const QWidget* top = widget.window();
-  const QWidget* under = top->childAt(widget.mapTo(top, at));
-  return under == &widget || (under != nullptr && widget.isAncestorOf(under));
-}
-
-/// On the screen the middle of a widget, or where that is covered, a place of a raster at which it
-/// can be seen.
+/// On the screen the middle of a widget, or where that is covered, another place to get at it.
 QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
-  constexpr int intRaster = 24;
-  QPoint at = widget.rect().center();
-  for (int step = 0; !fncOver(widget, at); ++step) {
-    if (step == intRaster * intRaster) {
-      prcOutOfReach(name);
-    }
-    at = QPoint(widget.width() * (2 * (step % intRaster) + 1) / (2 * intRaster),
-                widget.height() * (2 * (step / intRaster) + 1) / (2 * intRaster));
-  }
-  return widget.mapToGlobal(at);
+  const auto at = fncFirst(widget.rect(), [&](QPoint place) { return fncOver(widget, place); });
+  return at ? widget.mapToGlobal(*at) : (prcOutOfReach(name), QPoint());
 }
 
 /// A pointer that comes to where it is already moves nothing: it goes a little aside.
@@ -143,36 +120,51 @@ QWidget& fncAtHand(const Control& control) {
 }
 
 QPoint fncPlace(const QWidget& widget, float x, float y) {
-  const auto pixels = [](float twips) {
-    return static_cast<int>(std::floor(double{twips} / 15 * qt::fncScale()));
-  };
-  return widget.mapToGlobal(QPoint(pixels(x), pixels(y)));
+  const double pixels = qt::fncScale() / 15;
+  return widget.mapToGlobal(QPoint(static_cast<int>(std::floor(double{x} * pixels)),
+                                   static_cast<int>(std::floor(double{y} * pixels))));
 }
 
 /// Opens the menus that hold an entry and clicks it.
 void prcClickEntry(const Control& entry) {
-  std::vector<const Control*> way;
-  for (const Control* at = &entry; at != nullptr; at = at->Container) {
-    way.insert(way.begin(), at);
-  }
   auto* frame = qobject_cast<QMainWindow*>(fncView(*entry.Form).Shell);
   QWidget* holder = frame->menuBar();
-  for (const Control* step : way) {
-    QAction* action = fncAction(*step);
-    const QWidget* modal = QApplication::activeModalWidget();
-    if (action == nullptr || !action->isVisible() || !action->isEnabled() || !holder->isVisible() ||
-        (modal != nullptr && modal != frame)) {
-      prcOutOfReach(entry.Name);
-    }
-    auto* menu = qobject_cast<QMenu*>(holder);
-    const QRect place = menu != nullptr ? menu->actionGeometry(action)
-                                        : qobject_cast<QMenuBar*>(holder)->actionGeometry(action);
-    prcClickAt(*holder, holder->mapToGlobal(place.center()));
-    holder = action->menu();
+  if (entry.Container != nullptr) {
+    prcClickEntry(*entry.Container);
+    holder = fncAction(*entry.Container)->menu();
   }
+  QAction* action = fncAction(entry);
+  if (action == nullptr || !action->isVisible() || !action->isEnabled() || !holder->isVisible() ||
+      QApplication::activeModalWidget() != nullptr) {
+    prcOutOfReach(entry.Name);
+  }
+  auto* menu = qobject_cast<QMenu*>(holder);
+  const QRect place =
+      menu != nullptr ? menu->actionGeometry(action) : frame->menuBar()->actionGeometry(action);
+  prcClickAt(*holder, holder->mapToGlobal(place.center()));
 }
 
 }  // namespace
+
+std::optional<QPoint> fncFirst(const QRect& area, const std::function<bool(QPoint)>& holds) {
+  constexpr int intRaster = 24;
+  QPoint at = area.center();
+  for (int step = 0; !holds(at); ++step) {
+    if (step == intRaster * intRaster) {
+      return std::nullopt;
+    }
+    at = area.topLeft() + QPoint(area.width() * (2 * (step % intRaster) + 1) / (2 * intRaster),
+                                 area.height() * (2 * (step / intRaster) + 1) / (2 * intRaster));
+  }
+  return at;
+}
+
+bool fncOver(const QWidget& widget, QPoint at) {
+  const QWidget* top = widget.window();
+  const QWidget* under = top->childAt(widget.mapTo(top, at));
+  return under != nullptr ? under == &widget || widget.isAncestorOf(under)
+                          : top == &widget && widget.rect().contains(at);
+}
 
 void prcPoint(const QWidget& window, QPoint global) {
   prcMouse(fncNative(window), QEvent::MouseMove, global);
@@ -200,11 +192,10 @@ void prcKey(Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
   if (window == nullptr) {
     throw std::logic_error("no window has the keyboard");
   }
-  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-    if (type == QEvent::KeyRelease && QGuiApplication::focusWindow() != window) {
-      break;
-    }
-    qt_handleKeyEvent(window, type, key, modifiers, text, false, 1);
+  qt_handleKeyEvent(window, QEvent::KeyPress, key, modifiers, text, false, 1);
+  prcFlush();
+  if (QGuiApplication::focusWindow() == window) {
+    qt_handleKeyEvent(window, QEvent::KeyRelease, key, modifiers, text, false, 1);
     prcFlush();
   }
 }
@@ -413,10 +404,8 @@ void Key(Window& window, const std::string& key, int shift) {
   if (key.size() == 1) {
     return prcTypeCharacter(key.front());
   }
-  Qt::KeyboardModifiers modifiers;
-  modifiers.setFlag(Qt::ShiftModifier, (shift & intShiftMask) != 0);
-  modifiers.setFlag(Qt::ControlModifier, (shift & intCtrlMask) != 0);
-  modifiers.setFlag(Qt::AltModifier, (shift & intAltMask) != 0);
+  // The toolkit has the three in the same order.
+  const auto modifiers = Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(shift) << 25);
   prcKey(QKeySequence(QString::fromStdString(key))[0].key(), modifiers);
 }
 
@@ -451,8 +440,7 @@ void Resize(Window& window, double width) {
   const double height = window.Height;
   native.setWindowStates(Qt::WindowNoState);
   prcFlush();
-  double drawn = 0;
-  for (double scale = 1; scale != drawn; scale = qt::fncScale()) {
+  for (double scale = 1, drawn = 0; scale != drawn; scale = qt::fncScale()) {
     drawn = scale;  // At that size the program may be drawn at another one.
     native.setGeometry(0, 0, static_cast<int>(width / 15 * scale),
                        static_cast<int>(height / 15 * scale));

@@ -2,7 +2,6 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWindow>
-#include <algorithm>
 #include <cmath>
 
 #include "betting/frmStatistics.h"
@@ -43,11 +42,10 @@ class Readable : public Game {
     prcFreshGame(Folder());
     Setting("Card Options", "Show Cards Dealt Count", "True");
     Start();
-    QWindow& frame = *stage::fncView(MDIForm1.Form).Shell->windowHandle();
-    frame.setWindowStates(Qt::WindowNoState);
-    user::Settle();
-    frame.setGeometry(0, 0, static_cast<int>(std::ceil(960 * scale)),
-                      static_cast<int>(std::ceil(700 * scale)));
+    QWidget& frame = *stage::fncView(MDIForm1.Form).Shell;
+    frame.showNormal();
+    frame.resize(static_cast<int>(std::ceil(960 * scale)),
+                 static_cast<int>(std::ceil(700 * scale)));
     user::Settle();
     ASSERT_EQ(qt::fncScale(), scale);
     Shuffle();
@@ -76,11 +74,11 @@ TEST_F(Readable, NoTextIsBelow11PixelsAtScale1AndListsShowAllTheyHold) {
     }
     EXPECT_GE(QApplication::font("QMenu").pixelSize(), qt::fncScaled(11));
     EXPECT_GE(QToolTip::font().pixelSize(), qt::fncScaled(11));
-    const auto list = [](const Control& control) {
-      return static_cast<qt::RowsView*>(stage::fncWidget(control));
+    const auto list = [](const Control& control) -> qt::RowsView& {
+      return *static_cast<qt::RowsView*>(stage::fncWidget(control));
     };
-    EXPECT_EQ(list(frmCardsDealtCount.lstCardsDealtCount)->verticalScrollBar()->maximum(), 0);
-    const qt::RowsView& cards = *list(frmCardsDealt.lstCardsDealt);
+    EXPECT_EQ(list(frmCardsDealtCount.lstCardsDealtCount).verticalScrollBar()->maximum(), 0);
+    const qt::RowsView& cards = list(frmCardsDealt.lstCardsDealt);
     EXPECT_LE(
         cards.fncSecondColumn() + cards.fontMetrics().horizontalAdvance(QStringLiteral("<-Burnt")),
         cards.viewport()->width());
@@ -93,13 +91,15 @@ TEST_F(Readable, MoneyOfAnyCountryStaysInItsPanel) {
                   .strThousands = "\u202F",
                   .Positive = {false, 1, 1, ""},
                   .Negative = {false, 1, 1, "-"}});
-  Control* const labels[] = {&BaccTable.lblPlayerTotal[0], &BaccTable.lblPlayerWinnings[1],
-                             &frmStatistics.lblWinningsStat[0], &BaccTable.txtBankerBetValue[0]};
-  for (Control* label : labels) {
-    prcShowMoney(*label, label == labels[3] ? 999000 : -123456789);
-    const int width =
-        QFontMetrics(fncDrawn(*label)).horizontalAdvance(QString::fromStdString(label->Text));
-    EXPECT_LE(width, qt::fncPlace(*label).width()) << label->Name;
+  for (const auto& [label, money] : {std::pair{&BaccTable.lblPlayerTotal[0], -123456789},
+                                     {&BaccTable.lblPlayerWinnings[1], -123456789},
+                                     {&frmStatistics.lblWinningsStat[0], -123456789},
+                                     {&BaccTable.txtBankerBetValue[0], 999000}}) {
+    prcShowMoney(*label, money);
+    const QFontMetrics type(fncDrawn(*label));
+    EXPECT_LE(type.horizontalAdvance(QString::fromStdString(label->Text)),
+              qt::fncPlace(*label).width())
+        << label->Name;
   }
 }
 
@@ -116,7 +116,7 @@ TEST_F(Readable, AMessageStandsClearOfTheMoney) {
 
 TEST_F(Readable, AMarkTellsItsHandUnderThePointer) {
   Play(1);
-  const std::string tip = fncPiped(user::Seen(MarkCards[0].lblTBP.at(0)).ToolTip);
+  const std::string tip = fncPiped(MarkCards[0].lblTBP.at(0).ToolTip);
   EXPECT_TRUE(tip.starts_with("Hand 1: Player wins, 9 to 6|Player 9")) << tip;
   EXPECT_TRUE(tip.ends_with("|Player 1 staked Banker $600, Tie $120 and lost $720")) << tip;
 }

@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QMessageBox>
 #include <QWidget>
+#include <functional>
+#include <optional>
 
 #include "platform/qt/windows/Screen.h"
 
@@ -18,6 +20,16 @@ QAction* fncAction(const Control& control);
 
 /// The widgets of a loaded window; an error where it is not on the screen.
 qt::WindowView& fncView(const Window& window);
+
+/// The first place of an area, the middle before all others, that holds says yes to.
+std::optional<QPoint> fncFirst(const QRect& area, const std::function<bool(QPoint)>& holds);
+
+/// Whether the pointer at a place within a widget is over it or what lies in it, and not over
+/// another.
+bool fncOver(const QWidget& widget, QPoint at);
+
+/// Whether two pointers look the same.
+bool fncSame(const QCursor& one, const QCursor& other);
 
 // The hand at whatever lies there, told of a place on the screen and the top-level window that gets
 // the event. Each serves what the toolkit posts meanwhile.

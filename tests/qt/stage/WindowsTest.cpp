@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWindow>
@@ -9,10 +7,8 @@
 #include "platform/Modal.h"
 #include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Painted.h"
-#include "platform/qt/windows/Screen.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
-#include "shell/MDIForm1.h"
 #include "table/BaccTable.h"
 #include "tests/Game.h"
 #include "tests/qt/stage/Stage.h"
@@ -32,7 +28,7 @@ class Windows : public Game {
     ASSERT_TRUE(List().isVisible());
   }
 
-  static QWidget& Shell(const Window& window) { return *qt::fncViewOf(window)->Shell; }
+  static QWidget& Shell(const Window& window) { return *stage::fncView(window).Shell; }
   static QWidget& List() { return Shell(frmCardsDealtCount.Form); }
 
   /// The user goes over to one of the windows that list cards.
@@ -40,23 +36,9 @@ class Windows : public Game {
     user::Click(frmCardsDealtCount.lstCardsDealtCount);
     ASSERT_EQ(qt::fncActiveWindow(), &frmCardsDealtCount.Form);
   }
-};
 
-TEST_F(Windows, CtrlF4AsksTheChildThatHasTheInputAndMayBeClosed) {
-  const auto ctrlF4 = [](Window& window) {
-    user::Activate(window);
-    stage::prcKey(Qt::Key_F4, Qt::ControlModifier);
-  };
-  ctrlF4(fncMarkCard(0)->Form);
-  EXPECT_NE(fncMarkCard(0), nullptr) << "the marking card cannot be closed";
-  blnBusy = true;
-  ctrlF4(BaccTable.Form);
-  ASSERT_EQ(user::Boxes().size(), 1U);
-  EXPECT_EQ(user::Boxes()[0].Text, "Must wait for hand or shuffle to end.");
-  blnBusy = false;
-  ctrlF4(BaccTable.Form);
-  EXPECT_TRUE(user::Ended());
-}
+  Window& card_ = MarkCards[0].Form;
+};
 
 TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
   GoToList();
@@ -75,55 +57,51 @@ TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
 }
 
 TEST_F(Windows, AChildThatGoesLeavesTheInputToTheOther) {
-  const auto expectInput = [](const Window& window) {
-    user::Settle();
-    EXPECT_EQ(qt::fncActiveWindow(), &window);
-    EXPECT_EQ(QApplication::focusWidget(), stage::fncView(window).Ground);
-  };
-  Window& card = fncMarkCard(0)->Form;
+  user::Activate(card_);
+  user::Close(card_);
+  EXPECT_NE(fncMarkCard(0), nullptr) << "the marking card cannot be closed";
   user::Click(BaccTable.txtUnitValue);
   BaccTable.Form.Visible = false;
-  expectInput(card);
+  user::Settle();
+  EXPECT_EQ(qt::fncActiveWindow(), &card_);
+  EXPECT_EQ(QApplication::focusWidget(), stage::fncView(card_).Ground);
   BaccTable.Form.Visible = true;
-  platform::Activate(card);
-  fncUnload(card);
+  platform::Activate(card_);
+  fncUnload(card_);
   user::Settle();
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form);
 }
 
 TEST_F(Windows, TheMarkingCardIsPannedByItsBarByKeysAndByTheWheel) {
-  MarkCardWindow& card = *fncMarkCard(0);
-  const double seen = card.Form.ScaleWidth / card.Picture1.Width;
-  const auto inSlider = static_cast<float>(0.9 * seen * card.HScroll1.Width);
-  user::Press(card.HScroll1, inSlider, 100);
-  user::Release(card.HScroll1, inSlider, 100);
-  EXPECT_EQ(card.HScroll1.Value, 0) << "the slider is as long as what is seen";
-  user::Click(card.HScroll1);
-  EXPECT_EQ(card.HScroll1.Value, card.HScroll1.LargeChange);
-  user::Activate(card.Form);
-  stage::prcKey(Qt::Key_Right);
-  user::Hover(card.Picture1);
-  stage::prcTurnWheel(*stage::fncWidget(card.HScroll1)->window(), -1);
-  EXPECT_EQ(card.Picture1.Left, -card.HScroll1.LargeChange - 2 * card.HScroll1.SmallChange);
+  Control& bar = MarkCards[0].HScroll1;
+  const double seen = card_.ScaleWidth / MarkCards[0].Picture1.Width;
+  const auto inSlider = static_cast<float>(0.9 * seen * bar.Width);
+  user::Press(bar, inSlider, 100);
+  user::Release(bar, inSlider, 100);
+  EXPECT_EQ(bar.Value, 0) << "the slider is as long as what is seen";
+  user::Click(bar);
+  EXPECT_EQ(bar.Value, bar.LargeChange);
+  user::Key(card_, "Right");
+  user::Hover(MarkCards[0].Picture1);
+  stage::prcTurnWheel(Shell(MDIForm1.Form), -1);
+  EXPECT_EQ(MarkCards[0].Picture1.Left, -bar.LargeChange - 2 * bar.SmallChange);
 }
 
 TEST_F(Windows, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
-  Window& card = fncMarkCard(0)->Form;
-  QWidget& shell = Shell(card);
+  QWidget& shell = Shell(card_);
   const auto drag = [&](QPoint way) {
     const QPoint from = shell.mapToGlobal(QPoint(40, 10));
     stage::prcPoint(shell, from);
     stage::prcPress(shell, Qt::LeftButton);
     stage::prcPoint(shell, from + way);
     stage::prcLift(shell, Qt::LeftButton);
+    return QPoint(qt::fncPixels(card_.Left), qt::fncPixels(card_.Top));
   };
-  const QPoint place = shell.pos();
-  drag({30, 20});
-  EXPECT_EQ(shell.pos(), place + QPoint(30, 20));
-  EXPECT_EQ(QPoint(qt::fncPixels(card.Left), qt::fncPixels(card.Top)), shell.pos());
-  drag({0, -900});
-  EXPECT_EQ(shell.y(), 0) << "a title stays within reach";
-  card.Left = -90;
+  const QPoint place = shell.pos() + QPoint(30, 20);
+  EXPECT_EQ(drag({30, 20}), place);
+  EXPECT_EQ(shell.pos(), place);
+  EXPECT_EQ(drag({0, -900}).y(), 0) << "a title stays within reach";
+  card_.Left = -90;
   user::Settle();
   EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }
@@ -140,14 +118,12 @@ TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
 }
 
 TEST_F(Windows, TheTableIsDrawnAsLargeAsTheFrameLets) {
-  QWindow& frame = *Shell(MDIForm1.Form).windowHandle();
   const auto size = [&](int width, int height) {
-    frame.setGeometry(0, 0, width, height);
+    Shell(MDIForm1.Form).windowHandle()->setGeometry(0, 0, width, height);
     user::Settle();
   };
   const QWidget& shuffle = *stage::fncWidget(BaccTable.maisyk);
-  frame.setWindowStates(Qt::WindowNoState);
-  user::Settle();
+  Shell(MDIForm1.Form).showNormal();
   size(1536, 1050);
   EXPECT_EQ(qt::fncScale(), 1.5);
   EXPECT_EQ(shuffle.geometry(), qt::fncPlace(BaccTable.maisyk));
@@ -163,8 +139,8 @@ TEST_F(Windows, TheTableIsDrawnAsLargeAsTheFrameLets) {
   EXPECT_EQ(Shell(BaccTable.Form).x(), 0) << "what is cut is reached by scrolling";
   stage::prcKey(Qt::Key_Tab);
   stage::prcKey(Qt::Key_Tab, Qt::ShiftModifier);
-  EXPECT_EQ(QApplication::focusWidget()->visibleRegion().boundingRect(),
-            QApplication::focusWidget()->rect());
+  const QWidget& focus = *QApplication::focusWidget();
+  EXPECT_EQ(focus.visibleRegion().boundingRect(), focus.rect());
 }
 
 TEST_F(Windows, KeysOfTheProgramAsAWhole) {
