@@ -76,28 +76,10 @@ void prcSeeAction(Control& seen, const QAction& action) {
   seen.Visible = action.isVisible();
   seen.Enabled = action.isVisible() ? action.isEnabled() : seen.Enabled;  // Hidden ones say no.
   seen.Text = action.isSeparator() ? "-" : action.text().toStdString();
-  seen.ToolTip = seen.ToolTip.empty() ? "" : action.toolTip().toStdString();
   seen.Value = action.isChecked() ? 1 : 0;
 }
 
-void prcSeeText(Control& seen, const QLineEdit& edit, bool blnTyped) {
-  const std::string meant =
-      blnTyped || seen.Kind != ControlKind::MaskedEdit ? seen.Text : fncMaskShown(seen);
-  seen.Text = fncTold(edit.text()) == meant ? seen.Text : "shows " + fncTold(edit.text());
-  if (edit.hasFocus()) {
-    seen.SelLength = static_cast<int>(edit.selectedText().size());
-  }
-}
-
-void prcSeeRows(Control& seen, const QListWidget& list) {
-  seen.List.clear();
-  for (int row = 0; row < list.count(); ++row) {
-    seen.List.push_back(list.item(row)->text().toStdString());
-  }
-  seen.ListIndex = list.currentRow();
-}
-
-/// What the widget of its kind shows of a control.
+/// What the widget of its kind shows of a control, beyond what is painted of its view's own copy.
 void prcSeeKind(Control& seen, const qt::ControlView& view) {
   QWidget* widget = view.Widget;
   const auto see = [widget](const char* property, double& known) {
@@ -110,22 +92,23 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
   if (seen.Max > seen.Min) {  // A bar that goes nowhere has no end to show.
     see("maximum", seen.Max);
   }
-  if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    prcSeeText(seen, *edit, view.Home.Source->ActiveControl == view.Source);
-  } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+  if (const auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    const bool blnTyped = view.Home.Source->ActiveControl == view.Source;
+    const std::string shown = fncTold(edit->text());
+    const bool blnMasked = seen.Kind == ControlKind::MaskedEdit && !blnTyped;
+    seen.Text =
+        shown == (blnMasked ? fncMaskShown(seen) : seen.Text) ? seen.Text : "shows " + shown;
+  } else if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
     seen.Text = fncTold(button->text());
-    seen.Value = button->isCheckable() ? (button->isChecked() ? 1 : 0) : seen.Value;
-  } else if (auto* list = qobject_cast<QListWidget*>(widget)) {
-    prcSeeRows(seen, *list);
+    seen.Value = button->isCheckable() ? button->isChecked() : seen.Value;
+  } else if (const auto* list = qobject_cast<QListWidget*>(widget)) {
+    seen.List.clear();
+    for (int row = 0; row < list->count(); ++row) {
+      seen.List.push_back(list->item(row)->text().toStdString());
+    }
+    seen.ListIndex = list->currentRow();
   } else if (qobject_cast<qt::PaintedView*>(widget) != nullptr) {
-    seen.MousePointer =
-        widget->testAttribute(Qt::WA_SetCursor) ? fncPointer(widget->cursor()) : Pointer::Arrow;
-    // Painted from the view's own copy, so that copy is what shows.
-    seen.Text = view.Drawn.Text;
-    seen.ForeColor = view.Drawn.ForeColor;
-    seen.FillColor = view.Drawn.FillColor;
-    seen.BorderColor = view.Drawn.BorderColor;
-    seen.Picture = view.Drawn.Picture;
+    seen.MousePointer = fncPointer(widget->cursor());
   }
 }
 
@@ -136,22 +119,24 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
 namespace user {
 
 Control Seen(const Control& control) {
-  Control seen = control;
   const qt::ControlView* view = qt::fncViewOf(control);
+  if (view == nullptr) {
+    return control;  // Its window has not come up: nothing of it shows.
+  }
+  Control seen = view->Drawn;
   const QAction* action = stage::fncAction(control);
-  if (view == nullptr || view->Widget == nullptr) {
+  if (view->Widget == nullptr) {
     if (action != nullptr) {
       stage::prcSeeAction(seen, *action);
     }
-    return seen;  // Where its window has not come up, nothing of it shows.
-  }
-  if (control.Kind != ControlKind::Toolbar) {  // A bar that cannot be used is hidden.
-    seen.Enabled = view->Widget->isEnabledTo(view->Widget->parentWidget());
+    return seen;
   }
   seen.Visible = action != nullptr ? action->isVisible() : !view->Widget->isHidden();
-  seen.ToolTip = stage::fncTold(view->Widget->toolTip());
-  if (control.Kind != ControlKind::Toolbar && control.Kind != ControlKind::ToolButton) {
-    stage::prcSeePlace(seen, view->Widget->geometry(), qt::fncPlace(seen));
+  if (control.Kind != ControlKind::Toolbar) {  // A bar that cannot be used is hidden.
+    seen.Enabled = view->Widget->isEnabledTo(view->Widget->parentWidget());
+    if (control.Kind != ControlKind::ToolButton) {
+      stage::prcSeePlace(seen, view->Widget->geometry(), qt::fncPlace(seen));
+    }
   }
   stage::prcSeeKind(seen, *view);
   return seen;
