@@ -3,10 +3,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QImage>
-#include <QMessageBox>
 #include <QPrinter>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -18,32 +16,30 @@
 
 namespace {
 
-QString fncBuiltHelp() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/../VELMORA.HLP");
-}
+class Help : public testing::Test {
+ protected:
+  void TearDown() override { delete Shown(); }
 
-qt::HelpWindow* fncShown() {
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    if (auto* help = qobject_cast<qt::HelpWindow*>(window); help != nullptr && help->isVisible()) {
-      return help;
-    }
+  static QString Built() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../VELMORA.HLP");
   }
-  return nullptr;
-}
+  /// The help window; none where there is none.
+  static qt::HelpWindow* Shown() {
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto help = std::ranges::find(all, QStringLiteral("Help"), &QObject::objectName);
+    return help != all.end() ? static_cast<qt::HelpWindow*>(*help) : nullptr;
+  }
+  static qt::HelpWindow& Opened(int context = 0) {
+    platform::ShowHelp(Built().toStdString(), context);
+    return *Shown();
+  }
+};
 
-/// The help at its first page.
-qt::HelpWindow& fncOpened() {
-  platform::ShowHelp(fncBuiltHelp().toStdString(), 0);
-  return *fncShown();
-}
-
-TEST(Help, OpensWithItsFirstPageAndOnlyOnce) {
-  qt::HelpWindow& help = fncOpened();
+TEST_F(Help, OpensWithItsFirstPageAndOnlyOnce) {
+  qt::HelpWindow& help = Opened();
   EXPECT_TRUE(help.fncPages().toPlainText().contains(QStringLiteral("Velmora")));
-  platform::ShowHelp(fncBuiltHelp().toStdString(), 2);
-  EXPECT_EQ(fncShown(), &help);
+  EXPECT_EQ(&Opened(2), &help);
   EXPECT_TRUE(help.fncPages().toPlainText().startsWith(QStringLiteral("Exact odds")));
-  delete &help;
 }
 
 QString fncTold(const qt::HelpWindow& help) {
@@ -53,43 +49,39 @@ QString fncTold(const qt::HelpWindow& help) {
                                                                     : list->currentItem()->text());
 }
 
-TEST(Help, WordsAreFoundOnAllPagesMarkedAndGoneThroughByKeys) {
-  qt::HelpWindow& help = fncOpened();
+TEST_F(Help, WordsAreFoundOnAllPagesMarkedAndGoneThroughByKeys) {
+  qt::HelpWindow& help = Opened();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
   QTest::keyClick(&help, Qt::Key_F, Qt::ControlModifier);
   auto& find = *qobject_cast<QLineEdit*>(help.focusWidget());
-  const struct {
-    const char* Typed;
-    int Steps;  ///< Enter, so many times; below 0, Shift+F3.
-    const char* Told;
-    int Marks;
-  } rows[] = {{"x", 0, "Type what you look for into the box above the page.|", 0},
-              {"xyzzy", 1, "Nothing found for \u201cxyzzy\u201d.|", 0},
-              {"Third  CARD", 1, "Pages with \u201cThird CARD\u201d: 8|The draw rules  (4)", 4},
-              {"Third  CARD", 4,
-               "Pages with \u201cThird CARD\u201d: 8|Dealing, one hand or many at a time  (3)", 3},
-              {"third card", -4, "Pages with \u201cthird card\u201d: 8|The draw rules  (4)", 4},
-              {"turnover stake", 1,
-               "Pages with \u201cturnover stake\u201d: 2|Statistics, stake and reset  (14)", 14}};
-  for (const auto& row : rows) {
-    find.setText(QString::fromUtf8(row.Typed));
-    for (int step = 0; step < std::abs(row.Steps); ++step) {
-      QTest::keyClick(&find, row.Steps < 0 ? Qt::Key_F3 : Qt::Key_Return,
-                      row.Steps < 0 ? Qt::ShiftModifier : Qt::NoModifier);
+  // Typed; Enter, so many times, or below 0, Shift+F3; told; marks.
+  const std::tuple<const char*, int, const char*, int> rows[] = {
+      {"x", 0, "Type what you look for into the box above the page.|", 0},
+      {"xyzzy", 1, "Nothing found for \u201cxyzzy\u201d.|", 0},
+      {"Third  CARD", 1, "Pages with \u201cThird CARD\u201d: 8|The draw rules  (4)", 4},
+      {"Third  CARD", 4,
+       "Pages with \u201cThird CARD\u201d: 8|Dealing, one hand or many at a time  (3)", 3},
+      {"third card", -4, "Pages with \u201cthird card\u201d: 8|The draw rules  (4)", 4},
+      {"turnover stake", 1,
+       "Pages with \u201cturnover stake\u201d: 2|Statistics, stake and reset  (14)", 14}};
+  for (const auto& [typed, steps, told, marks] : rows) {
+    find.setText(QString::fromUtf8(typed));
+    for (int step = 0; step < std::abs(steps); ++step) {
+      QTest::keyClick(&find, steps < 0 ? Qt::Key_F3 : Qt::Key_Return,
+                      steps < 0 ? Qt::ShiftModifier : Qt::NoModifier);
     }
-    EXPECT_EQ(fncTold(help).toStdString(), row.Told) << row.Typed;
-    EXPECT_EQ(help.fncPages().extraSelections().size(), row.Marks) << row.Typed;
+    EXPECT_EQ(fncTold(help).toStdString(), told) << typed;
+    EXPECT_EQ(help.fncPages().extraSelections().size(), marks) << typed;
   }
   QTest::keyClick(&find, Qt::Key_Escape);
   EXPECT_TRUE(help.isVisible() && help.fncPages().extraSelections().isEmpty());
   QTest::keyClick(&find, Qt::Key_Escape);
   EXPECT_FALSE(help.isVisible());
-  delete &help;
 }
 
-TEST(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
+TEST_F(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
   QTemporaryDir folder;
-  qt::HelpWindow& help = fncOpened();
+  qt::HelpWindow& help = Opened();
   qt::HelpPages& pages = help.fncPages();
   pages.setSource(pages.source().resolved(QUrl(QStringLiteral("rules.html"))));
   pages.verticalScrollBar()->setValue(pages.verticalScrollBar()->maximum() / 2);
@@ -109,14 +101,13 @@ TEST(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("/Count 2")) << steps;
   }
-  delete &help;
 }
 
-TEST(Help, PicturesAreSmoothAtEveryScale) {
+TEST_F(Help, PicturesAreSmoothAtEveryScale) {
   const double before = qt::fncScale();
   for (const double scale : {1.0, 1.5}) {
     qt::prcSetScale(scale);
-    qt::HelpPages& pages = fncOpened().fncPages();
+    qt::HelpPages& pages = Opened().fncPages();
     const QUrl table(QStringLiteral("pictures/table.png"));
     const auto shown = pages.loadResource(QTextDocument::ImageResource, table).value<QImage>();
     std::set<QRgb> colours;
@@ -124,23 +115,21 @@ TEST(Help, PicturesAreSmoothAtEveryScale) {
       colours.insert(shown.pixel(at % shown.width(), at / shown.width()));
     }
     EXPECT_GT(colours.size(), 2000U) << "colours of a palette, dithered, at scale " << scale;
-    delete fncShown();
+    delete Shown();
   }
   qt::prcSetScale(before);
 }
 
-TEST(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {
+TEST_F(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {
   QTemporaryDir folder;
-  QFile built(fncBuiltHelp()), damaged(folder.filePath(QStringLiteral("damaged")));
+  QFile built(Built()), damaged(folder.filePath(QStringLiteral("damaged")));
   ASSERT_TRUE(built.open(QIODevice::ReadOnly));
   const QByteArray whole = built.readAll();
   int boxes = 0;
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, [&boxes] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-      ++boxes;
-      box->accept();
-    }
+    QWidget* box = QApplication::activeModalWidget();
+    boxes += box != nullptr && box->close() ? 1 : 0;
   });
   user.start(1);
   platform::ShowHelp(folder.filePath(QStringLiteral("missing")).toStdString(), 0);
@@ -150,7 +139,7 @@ TEST(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {
     damaged.write(content);
     damaged.close();
     platform::ShowHelp(damaged.fileName().toStdString(), 0);
-    EXPECT_EQ(fncShown(), nullptr) << content.size();
+    EXPECT_EQ(Shown(), nullptr) << content.size();
   }
   EXPECT_EQ(boxes, 5);
 }

@@ -8,14 +8,9 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  if (testing::GTEST_FLAG(list_tests)) {
-    return RUN_ALL_TESTS();
-  }
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  }
+  qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication::setApplicationName(QStringLiteral("Velmora"));
-  QApplication application(argc, argv);
+  const QApplication application(argc, argv);
   qt::prcBringUpPlatform();
   const int result = RUN_ALL_TESTS();
   qt::prcTakeDownPlatform();
