@@ -6,6 +6,7 @@
 #include <tuple>
 #include <vector>
 
+#include "judges/Adapter.h"
 #include "platform/qt/windows/Loop.h"
 #include "platform/qt/windows/Reports.h"
 
@@ -31,13 +32,12 @@ struct Pending {
 
 class Clock : public QAbstractEventDispatcher {
  public:
-  std::uint64_t Now = 0;
+  std::uint64_t Now = 0, Begin = 0;  ///< Begin is the time of prcResetClock.
   std::vector<Pending> Line;
   bool (*Look)() = [] { return false; };
 
   bool processEvents(QEventLoop::ProcessEventsFlags flags) override {
     blnInterrupted_ = false;
-    emit awake();
     for (;;) {
       bool blnServed = fncServePosted();
       while (!blnInterrupted_ && fncServeDue()) {
@@ -46,7 +46,6 @@ class Clock : public QAbstractEventDispatcher {
       if (blnServed || blnInterrupted_ || !flags.testFlag(QEventLoop::WaitForMoreEvents)) {
         return blnServed;
       }
-      emit aboutToBlock();
       if (Look()) {
         return true;
       }
@@ -125,18 +124,9 @@ Clock& fncClock() {
 
 QAbstractEventDispatcher* fncEventLoop() { return &fncClock(); }
 
-std::uint64_t fncNow() { return fncClock().Now; }
-
 void prcResetClock() {
   std::erase_if(fncClock().Line, [](const Pending& one) { return one.Timed == nullptr; });
-  for (Pending& timer : fncClock().Line) {
-    timer.Due -= std::min(timer.Due, fncNow());
-  }
-  fncClock().Now = 0;
-}
-
-void prcAfter(std::uint32_t milliseconds, std::function<void()> event) {
-  fncClock().Line.push_back({.Due = fncNow() + milliseconds, .Event = std::move(event)});
+  fncClock().Begin = fncClock().Now;
 }
 
 void prcWhenIdle(bool (*look)()) { fncClock().Look = look; }
@@ -147,3 +137,14 @@ void prcFlush() {
 }
 
 }  // namespace stage
+
+std::uint32_t user::Now() {
+  return static_cast<std::uint32_t>(stage::fncClock().Now - stage::fncClock().Begin);
+}
+
+void user::After(std::uint32_t milliseconds, std::function<void()> handler) {
+  stage::fncClock().Line.push_back(
+      {.Due = stage::fncClock().Now + milliseconds, .Event = std::move(handler)});
+}
+
+std::uint32_t platform::TickCount() { return user::Now(); }

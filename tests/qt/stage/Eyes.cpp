@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -9,8 +8,6 @@
 
 #include "judges/Adapter.h"
 #include "platform/qt/looks/Pictures.h"
-#include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/WindowViews.h"
 #include "tests/qt/stage/Stage.h"
 
@@ -46,19 +43,14 @@ std::string fncTold(QString text) {
 
 namespace {
 
-/// The model's number where the screen agrees with it to the pixel, else the screen's.
-double fncAgreed(double twips, int pixels) {
-  return qt::fncPixels(twips) == pixels ? twips : qt::fncTwips(pixels);
-}
-
-/// Two edges that are rounded to the pixel may differ by one from a length that is.
+/// Where the screen agrees with the model to the pixel, the model's place is seen.
 template <class Placed>
 void prcSeePlace(Placed& seen, const QRect& place, const QRect& known) {
   if (known != place) {
-    seen.Left = fncAgreed(seen.Left, place.left());
-    seen.Top = fncAgreed(seen.Top, place.top());
-    seen.Width = fncAgreed(seen.Width, place.width());
-    seen.Height = fncAgreed(seen.Height, place.height());
+    seen.Left = qt::fncTwips(place.left());
+    seen.Top = qt::fncTwips(place.top());
+    seen.Width = qt::fncTwips(place.width());
+    seen.Height = qt::fncTwips(place.height());
   }
 }
 

@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QDir>
 #include <QMainWindow>
 #include <QMenu>
@@ -6,7 +5,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
-#include <QWindow>
 #include <cmath>
 #include <deque>
 #include <stdexcept>
@@ -15,7 +13,6 @@
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
 #include "platform/UserInput.h"
-#include "platform/qt/looks/Scale.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Loop.h"
@@ -86,12 +83,6 @@ void prcClickAt(const QWidget& window, QPoint global, Qt::MouseButton button = Q
   prcLift(window, button);
 }
 
-/// On the screen the middle of a widget, or where that is covered, another place to get at it.
-QPoint fncMiddleSeen(const QWidget& widget, const std::string& name) {
-  const auto at = fncFirst(widget.rect(), [&](QPoint place) { return fncOver(widget, place); });
-  return at ? widget.mapToGlobal(*at) : (prcOutOfReach(name), QPoint());
-}
-
 /// A pointer that comes to where it is already moves nothing: it goes a little aside.
 void prcMoveTo(const QWidget& window, QPoint global) {
   prcPoint(window, global == pntPointer ? global - QPoint(1, 0) : global);
@@ -119,10 +110,18 @@ QWidget& fncAtHand(const Control& control) {
   return *widget;
 }
 
-QPoint fncPlace(const QWidget& widget, float x, float y) {
+/// A place on the screen, in twips from the corner of a control.
+QPoint fncPlace(const Control& control, float x, float y) {
   const double pixels = qt::fncScale() / 15;
-  return widget.mapToGlobal(QPoint(static_cast<int>(std::floor(double{x} * pixels)),
-                                   static_cast<int>(std::floor(double{y} * pixels))));
+  return fncWidget(control)->mapToGlobal(QPoint(static_cast<int>(std::floor(double{x} * pixels)),
+                                                static_cast<int>(std::floor(double{y} * pixels))));
+}
+
+/// On the screen the middle of a control, or where that is covered, another place to get at it.
+QPoint fncMiddle(const Control& control) {
+  const QWidget& widget = fncAtHand(control);
+  const auto at = fncFirst(widget.rect(), [&](QPoint place) { return fncOver(widget, place); });
+  return at ? widget.mapToGlobal(*at) : (prcOutOfReach(control.Name), QPoint());
 }
 
 /// Opens the menus that hold an entry and clicks it.
@@ -308,7 +307,7 @@ void Run(bool (*start)()) {
 
 void Wait(std::uint32_t milliseconds) {
   bool blnOver = false;
-  prcAfter(milliseconds, [&] { blnOver = true; });
+  After(milliseconds, [&] { blnOver = true; });
   try {
     Settle();
     qt::prcServeUntil([&] { return blnOver; });
@@ -318,8 +317,6 @@ void Wait(std::uint32_t milliseconds) {
   }
 }
 
-std::uint32_t Now() { return static_cast<std::uint32_t>(fncNow()); }
-
 void Settle() {
   qt::fncEnded() ? qt::prcClearScreen() : qt::prcSyncAll();
   prcFlush();
@@ -327,7 +324,7 @@ void Settle() {
 
 bool Press(Control& control, float x, float y, int button) {
   const QWidget& widget = fncAtHand(control);
-  const QPoint at = fncPlace(widget, x, y);
+  const QPoint at = fncPlace(control, x, y);
   if (!fncOver(widget, widget.mapFromGlobal(at))) {
     prcOutOfReach(control.Name);
   }
@@ -340,18 +337,18 @@ bool Press(Control& control, float x, float y, int button) {
 void Drag(Control& control, float x, float y) {
   Settle();
   if (hand.Held != &control) {
-    const QWidget& widget = fncAtHand(control);
+    const QPoint at = fncMiddle(control);
     hand.Held = &control;
-    prcPoint(widget, fncMiddleSeen(widget, control.Name));
-    prcPress(widget, Qt::LeftButton);
+    prcPoint(*fncWidget(control), at);
+    prcPress(*fncWidget(control), Qt::LeftButton);
   }
-  prcPoint(*fncWidget(control), fncPlace(*fncWidget(control), x, y));
+  prcPoint(*fncWidget(control), fncPlace(control, x, y));
 }
 
 void Release(Control& control, float x, float y, int button) {
   hand.Held = nullptr;
-  prcMouse(fncNative(*fncWidget(control)), QEvent::MouseButtonRelease,
-           fncPlace(*fncWidget(control), x, y), Qt::MouseButton(button));
+  prcMouse(fncNative(*fncWidget(control)), QEvent::MouseButtonRelease, fncPlace(control, x, y),
+           Qt::MouseButton(button));
 }
 
 bool Click(Control& control, int button) {
@@ -360,15 +357,15 @@ bool Click(Control& control, int button) {
     Settle();
     prcClickEntry(control);
   } else {
-    const QWidget& widget = fncAtHand(control);
-    prcClickAt(widget, fncMiddleSeen(widget, control.Name), Qt::MouseButton(button));
+    const QPoint at = fncMiddle(control);
+    prcClickAt(*fncWidget(control), at, Qt::MouseButton(button));
   }
   return true;
 }
 
 void Hover(Control& control) {
-  const QWidget& widget = fncAtHand(control);
-  prcMoveTo(widget, fncMiddleSeen(widget, control.Name));
+  const QPoint at = fncMiddle(control);
+  prcMoveTo(*fncWidget(control), at);
 }
 
 void Hover(Window& window) {
@@ -452,9 +449,6 @@ void WhileModal(std::function<void()> act) { hand.Modal.push_back(std::move(act)
 void Answer(platform::Answer answer) { hand.Answers.push_back(answer); }
 const std::vector<Box>& Boxes() { return hand.Boxes; }
 void ForgetBoxes() { hand.Boxes.clear(); }
-void After(std::uint32_t milliseconds, std::function<void()> handler) {
-  prcAfter(milliseconds, std::move(handler));
-}
 bool Ended() { return qt::fncEnded(); }
 bool PaintedAtOnce() { return hand.blnPainted; }
 

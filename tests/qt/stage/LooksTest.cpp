@@ -1,4 +1,3 @@
-#include <QApplication>
 #include <QPainter>
 #include <QScreen>
 #include <cmath>
@@ -6,9 +5,6 @@
 #include "assets/Pictures.h"
 #include "platform/platform.h"
 #include "platform/qt/looks/Pictures.h"
-#include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/Painted.h"
-#include "table/BaccTable.h"
 #include "tests/Game.h"
 #include "tests/qt/stage/Stage.h"
 
@@ -130,15 +126,13 @@ TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
 }
 
 TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
-  const auto expect = [this](int picture) {
-    EXPECT_EQ(Shot(card_).pixel(35, 48), Card(picture).pixel(35, 48));
-  };
+  const auto middle = [](const QImage& image) { return image.pixel(35, 48); };
   prcControlToFront(face_);
-  expect(22);
+  EXPECT_EQ(middle(Shot(card_)), middle(Card(22)));
   prcRemoveControl(face_);
-  expect(picCardBack);
+  EXPECT_EQ(middle(Shot(card_)), middle(Card(picCardBack)));
   prcAddControl(BaccTable.Form, face_);
-  expect(22);
+  EXPECT_EQ(middle(Shot(card_)), middle(Card(22)));
 }
 
 TEST(Scale, FillsTheFrameWithTableCardAndLists) {

@@ -1,19 +1,14 @@
-#include <QApplication>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWindow>
 #include <cmath>
 
 #include "betting/frmStatistics.h"
 #include "marking/MarkCard.h"
 #include "platform/Texts.h"
-#include "platform/qt/looks/Scale.h"
 #include "platform/qt/views/Boxes.h"
-#include "platform/qt/views/Painted.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
 #include "shell/StartScreen.h"
-#include "table/BaccTable.h"
 #include "tests/Game.h"
 #include "tests/qt/stage/Stage.h"
 

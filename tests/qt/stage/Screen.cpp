@@ -2,17 +2,10 @@
 #include <cstdio>
 
 #include "judges/Adapter.h"
-#include "platform/platform.h"
 #include "platform/qt/windows/Session.h"
 #include "tests/qt/stage/Clock.h"
 
 // The real widgets on an offscreen display, the machine on paper, and the clock in our hands.
-
-namespace platform {
-
-std::uint32_t TickCount() { return static_cast<std::uint32_t>(stage::fncNow()); }
-
-}  // namespace platform
 
 namespace {
 

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <QAction>
+#include <QApplication>
 #include <QMessageBox>
-#include <QWidget>
+#include <QWindow>
 #include <functional>
 #include <optional>
 
+#include "platform/qt/looks/Scale.h"
+#include "platform/qt/views/Painted.h"
 #include "platform/qt/windows/Screen.h"
 
 // What hand and eyes share: from the names of the model to what stands for them on the screen.

@@ -1,15 +1,10 @@
-#include <QApplication>
 #include <QKeyEvent>
-#include <QWindow>
 #include <cmath>
 
 #include "marking/MarkCard.h"
 #include "platform/Modal.h"
-#include "platform/qt/looks/Scale.h"
-#include "platform/qt/views/Painted.h"
 #include "shell/About.h"
 #include "shell/CardsDealt.h"
-#include "table/BaccTable.h"
 #include "tests/Game.h"
 #include "tests/qt/stage/Stage.h"
 
