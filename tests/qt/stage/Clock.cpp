@@ -23,9 +23,9 @@ namespace {
 /// A timer of the toolkit, or an event of the script.
 struct Pending {
   std::uint64_t Due;
-  std::function<void()> Event{};
+  std::function<void()> Event;
   QObject* Timed = nullptr;
-  int Id = 0;
+  int Id = 0;  ///< Of a timer; never 0 there.
   std::uint64_t Interval = 0;
   bool blnTicks = false;  ///< Its handler runs: a timer does not tick into itself.
 };
@@ -66,12 +66,15 @@ class Clock : public QAbstractEventDispatcher {
   }
 
   void registerTimer(int id, qint64 interval, Qt::TimerType /*type*/, QObject* object) override {
+    const auto tick = [id, object] {
+      QTimerEvent event(id);
+      QCoreApplication::sendEvent(object, &event);
+    };
     const auto length = static_cast<std::uint64_t>(interval);
-    Line.push_back({.Due = Now + length, .Timed = object, .Id = id, .Interval = length});
+    Line.push_back({Now + length, tick, object, id, length});
   }
   bool unregisterTimer(int id) override {
-    return std::erase_if(
-               Line, [&](const Pending& one) { return one.Timed != nullptr && one.Id == id; }) != 0;
+    return std::erase_if(Line, [&](const Pending& one) { return one.Id == id; }) != 0;
   }
   bool unregisterTimers(QObject* object) override {
     return std::erase_if(Line, [&](const Pending& one) { return one.Timed == object; }) != 0;
@@ -97,17 +100,14 @@ class Clock : public QAbstractEventDispatcher {
     if (next == Line.end() || next->Due > Now) {
       return false;
     }
-    if (next->Timed == nullptr) {
-      const std::function<void()> event = std::move(next->Event);
-      Line.erase(next);
-      qt::prcServe(event);
-      return true;
-    }
     const int id = next->Id;
+    const std::function<void()> event = next->Event;
     next->Due = Now + std::max<std::uint64_t>(next->Interval, 1);
     next->blnTicks = true;
-    QTimerEvent tick(id);
-    QCoreApplication::sendEvent(next->Timed, &tick);
+    if (next->Timed == nullptr) {
+      Line.erase(next);
+    }
+    event();
     std::ranges::for_each(Line, [id](Pending& one) { one.blnTicks &= one.Id != id; });
     return true;
   }
@@ -144,7 +144,7 @@ std::uint32_t user::Now() {
 
 void user::After(std::uint32_t milliseconds, std::function<void()> handler) {
   stage::fncClock().Line.push_back(
-      {.Due = stage::fncClock().Now + milliseconds, .Event = std::move(handler)});
+      {stage::fncClock().Now + milliseconds, [=] { qt::prcServe(handler); }});
 }
 
 std::uint32_t platform::TickCount() { return user::Now(); }

@@ -2,9 +2,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QVariant>
 #include <cmath>
-#include <stdexcept>
 
 #include "judges/Adapter.h"
 #include "platform/qt/looks/Pictures.h"
@@ -144,7 +142,8 @@ Window Seen(const Window& window) {
   const QWidget& shell = *view->Shell;
   seen.Visible = !shell.isHidden();
   seen.Maximised = shell.isMaximized();
-  seen.Topmost = view->Drawn.Topmost;  // What the window manager was asked for last.
+  seen.Topmost = shell.windowHandle() != nullptr &&
+                 shell.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
   if (seen.Visible) {
     stage::prcSeePlace(seen, qt::fncOuterPlace(*view),
                        qt::fncPixelRect(seen.Left, seen.Top, seen.Width, seen.Height));

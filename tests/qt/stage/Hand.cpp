@@ -1,4 +1,3 @@
-#include <QDir>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,7 +11,6 @@
 #include "judges/Adapter.h"
 #include "platform/Procedure.h"
 #include "platform/Texts.h"
-#include "platform/UserInput.h"
 #include "platform/qt/looks/Style.h"
 #include "platform/qt/windows/Fitting.h"
 #include "platform/qt/windows/Loop.h"
@@ -30,7 +28,6 @@ namespace {
 
 struct Hand {
   Control* Held = nullptr;
-  Qt::MouseButtons Down;
   QPointer<QWindow> On;     ///< Where the pointer was last, and its place.
   int Stamp = 0;            ///< Each press long after the last: no two make a double click.
   bool blnPainted = false;  ///< A card has been painted while the event was delivered.
@@ -62,17 +59,14 @@ struct Paints : QObject {
 
 void prcMouse(QWindow& window, QEvent::Type type, QPoint global,
               Qt::MouseButton button = Qt::NoButton, bool blnSoon = false) {
-  if (type == QEvent::MouseButtonPress) {
-    hand.Stamp += blnSoon ? 0 : 1000;
-    hand.Down |= button;
-  } else if (type == QEvent::MouseButtonRelease) {
-    hand.Down &= ~Qt::MouseButtons(button);
-  }
+  Qt::MouseButtons down = QGuiApplication::mouseButtons();
+  down.setFlag(button, type == QEvent::MouseButtonPress);
+  hand.Stamp += type == QEvent::MouseButtonPress && !blnSoon ? 1000 : 1;
   hand.On = &window;
   pntPointer = global;
   Paints paints;
-  qt_handleMouseEvent(&window, window.mapFromGlobal(QPointF(global)), global, hand.Down, button,
-                      type, {}, ++hand.Stamp);
+  qt_handleMouseEvent(&window, window.mapFromGlobal(QPointF(global)), global, down, button, type,
+                      {}, hand.Stamp);
   hand.blnPainted = paints.blnAny;
   prcFlush();
 }
@@ -90,7 +84,7 @@ void prcMoveTo(const QWidget& window, QPoint global) {
 
 /// A button that is still down comes up where the pointer is.
 void prcLetGo() {
-  if (hand.Down != Qt::NoButton && hand.On != nullptr) {
+  if (QGuiApplication::mouseButtons() != Qt::NoButton && hand.On != nullptr) {
     prcMouse(*hand.On, QEvent::MouseButtonRelease, pntPointer, Qt::LeftButton);
   }
   hand.Held = nullptr;
@@ -180,7 +174,7 @@ void prcLift(const QWidget& window, Qt::MouseButton button) {
 void prcTurnWheel(const QWidget& window, int notches) {
   QWindow& native = fncNative(window);
   const QPoint turned(0, notches * QWheelEvent::DefaultDeltasPerStep);
-  QWheelEvent wheel(native.mapFromGlobal(pntPointer), pntPointer, {}, turned, hand.Down, {},
+  QWheelEvent wheel(native.mapFromGlobal(pntPointer), pntPointer, {}, turned, {}, {},
                     Qt::NoScrollPhase, false);
   QCoreApplication::sendEvent(&native, &wheel);
   prcFlush();
@@ -389,9 +383,7 @@ bool Type(Control& box, const std::string& text) {
 }
 
 bool Tab(Window& window) {
-  Settle();
-  prcNeedInput(window);
-  prcKey(Qt::Key_Tab, {}, QStringLiteral("\t"));
+  Key(window, "Tab");
   return true;
 }
 

@@ -7,19 +7,13 @@
 
 // The real widgets on an offscreen display, the machine on paper, and the clock in our hands.
 
-namespace {
-
-/// The offscreen display says at each window what it cannot do.
-void prcMessage(QtMsgType /*type*/, const QMessageLogContext& /*where*/, const QString& text) {
-  if (!text.startsWith(QLatin1String("This plugin does not support"))) {
-    std::fprintf(stderr, "%s\n", qPrintable(text));
-  }
-}
-
-}  // namespace
-
 int user::Play(int argc, char** argv, const std::function<int()>& run) {
-  qInstallMessageHandler(prcMessage);
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+    // The offscreen display says at each window what it cannot do.
+    if (!text.startsWith(QLatin1String("This plugin does not support"))) {
+      std::fprintf(stderr, "%s\n", qPrintable(text));
+    }
+  });
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" VELMORA_STAGE_SCREEN);
   QCoreApplication::setEventDispatcher(stage::fncEventLoop());
   QApplication::setApplicationName(QStringLiteral("Velmora"));

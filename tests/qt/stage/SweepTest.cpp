@@ -42,8 +42,7 @@ const ControlEvents evtTells{
     .LostFocus = [](Control& c) { prcTell(fncName(c), "lost"); },
     .Validate = [](Control& c, bool&) { prcTell(fncName(c), "check"); }};
 const WindowEvents evtWindowTells{
-    .KeyDown = [](Window& w, const std::string&, int) { prcTell(w.Name, "keydown"); },
-    .KeyPress = [](Window& w, char) { prcTell(w.Name, "keypress"); }};
+    .KeyDown = [](Window& w, const std::string&, int) { prcTell(w.Name, "keydown"); }};
 const ControlEvents evtRefuses{.Validate = [](Control& c, bool& blnCancel) {
   prcTell(fncName(c), "check");
   platform::MsgBox("no");
@@ -102,11 +101,7 @@ const Act actNothing = [] {};
 /// One window, swept while it has the input, or while it lies below a dialog: then nothing answers.
 class Sweep {
  public:
-  Sweep(Window& window, bool blnBelow)
-      : window_(window),
-        ground_(*fncView(window).Ground),
-        top_(*ground_.window()),
-        blnBelow_(blnBelow) {}
+  Sweep(Window& window, bool blnBelow) : window_(window), blnBelow_(blnBelow) {}
 
   void Run() {
     if (!blnBelow_) {
@@ -356,19 +351,15 @@ class Sweep {
   }
 
   void Key(Control* from, Qt::Key key, Qt::KeyboardModifiers modifiers, const Act& model) {
-    const QString text = key == Qt::Key_Space ? QStringLiteral(" ") : QString();
     const Act heard = [&] {
       if (key != Qt::Key_Tab && key != Qt::Key_Backtab) {
         prcTell(window_.Name, "keydown");
-      }
-      if (!text.isEmpty()) {
-        prcTell(window_.Name, "keypress");
       }
       model();
     };
     Compare((from != nullptr ? fncName(*from) : window_.Name) + " at key " +
                 QKeySequence(key | modifiers).toString().toStdString(),
-            from, heard, [&] { prcKey(key, modifiers, text); });
+            from, heard, [&] { prcKey(key, modifiers); });
   }
 
   void SweepKeys() {
@@ -396,9 +387,9 @@ class Sweep {
   }
 
   Window& window_;
-  QWidget& ground_;
-  QWidget& top_;
   bool blnBelow_;
+  QWidget& ground_ = *fncView(window_).Ground;
+  QWidget& top_ = *ground_.window();
 };
 
 /// Sweeps all windows with tellers for the handlers of the game; then everything is as it was.

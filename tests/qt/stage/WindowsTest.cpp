@@ -101,17 +101,6 @@ TEST_F(Windows, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
 }
 
-TEST_F(Windows, AListIsAWindowOfItsOwnThatTopmostLeavesWhereItIs) {
-  EXPECT_EQ(List().windowHandle()->transientParent(), nullptr) << "the frame may cover it";
-  const QRect place = List().geometry();
-  for (const bool blnTop : {true, false}) {
-    user::Click(frmCardsDealtCount.chkOnTop);
-    EXPECT_EQ(List().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), blnTop);
-    EXPECT_TRUE(List().isVisible());
-    EXPECT_EQ(List().geometry(), place);
-  }
-}
-
 TEST_F(Windows, TheTableIsDrawnAsLargeAsTheFrameLets) {
   const auto size = [&](int width, int height) {
     Shell(MDIForm1.Form).windowHandle()->setGeometry(0, 0, width, height);
@@ -156,6 +145,7 @@ TEST_F(Windows, KeysOfTheProgramAsAWhole) {
 }
 
 TEST_F(Windows, TheListsGoWithTheFrameAndComeBackWithIt) {
+  EXPECT_EQ(List().windowHandle()->transientParent(), nullptr) << "the frame may cover it";
   QWidget& frame = Shell(MDIForm1.Form);
   frame.showMinimized();
   user::Settle();

@@ -4,6 +4,5 @@
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  return testing::GTEST_FLAG(list_tests) ? RUN_ALL_TESTS()
-                                         : user::Play(argc, argv, [] { return RUN_ALL_TESTS(); });
+  return user::Play(argc, argv, [] { return RUN_ALL_TESTS(); });
 }
