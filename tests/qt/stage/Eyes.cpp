@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <cmath>
+#include <stdexcept>
 
 #include "judges/Adapter.h"
 #include "platform/qt/looks/Pictures.h"
@@ -52,16 +53,6 @@ void prcSeePlace(Placed& seen, const QRect& place, const QRect& known) {
   }
 }
 
-Pointer fncPointer(const QCursor& cursor) {
-  using enum Pointer;
-  for (const Pointer known : {Arrow, SizeUpDown, SizeLeftRight, HandUp, HandRight, HandLink}) {
-    if (fncSame(cursor, qt::fncCursor(known))) {
-      return known;
-    }
-  }
-  throw std::logic_error("a pointer that no control has");
-}
-
 void prcSeeAction(Control& seen, const QAction& action) {
   seen.Visible = action.isVisible();
   seen.Enabled = action.isVisible() ? action.isEnabled() : seen.Enabled;  // Hidden ones say no.
@@ -98,7 +89,9 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
     }
     seen.ListIndex = list->currentRow();
   } else if (qobject_cast<qt::PaintedView*>(widget) != nullptr) {
-    seen.MousePointer = fncPointer(widget->cursor());
+    if (!fncSame(widget->cursor(), qt::fncCursor(seen.MousePointer))) {
+      throw std::logic_error(std::string("another pointer than it should have: ") + seen.Name);
+    }
   }
 }
 

@@ -201,15 +201,6 @@ void prcTypeCharacter(char typed) {
 
 namespace {
 
-/// The keyboard goes to where it is; that this is the window meant is asked of the screen.
-void prcNeedInput(const Window& window) {
-  const qt::WindowView* input = qt::fncWindowViewOf(QApplication::focusWidget());
-  if (input == nullptr || (input->Source != &window && input->Source->Kind != WindowKind::Frame)) {
-    throw std::logic_error(std::string("the keyboard is at ") +
-                           (input == nullptr ? "nothing" : input->Source->Name));
-  }
-}
-
 void prcRead(const QMessageBox& box) {
   using enum platform::Icon;
   constexpr std::array icons{None, Information, Exclamation, Stop};  // In the toolkit's order.
@@ -382,20 +373,25 @@ bool Type(Control& box, const std::string& text) {
   return true;
 }
 
-bool Tab(Window& window) {
-  Key(window, "Tab");
-  return true;
-}
-
 void Key(Window& window, const std::string& key, int shift) {
   Settle();
-  prcNeedInput(window);
+  // The keyboard goes to where it is; that this is the window meant is asked of the screen.
+  const qt::WindowView* input = qt::fncWindowViewOf(QApplication::focusWidget());
+  if (input == nullptr || (input->Source != &window && input->Source->Kind != WindowKind::Frame)) {
+    throw std::logic_error(std::string("the keyboard is at ") +
+                           (input == nullptr ? "nothing" : input->Source->Name));
+  }
   if (key.size() == 1) {
     return prcTypeCharacter(key.front());
   }
   // The toolkit has the three in the same order.
   const auto modifiers = Qt::KeyboardModifiers::fromInt(static_cast<unsigned>(shift) << 25);
   prcKey(QKeySequence(QString::fromStdString(key))[0].key(), modifiers);
+}
+
+bool Tab(Window& window) {
+  Key(window, "Tab");
+  return true;
 }
 
 void Close(Window& window) {
