@@ -77,11 +77,6 @@ void prcClickAt(const QWidget& window, QPoint global, Qt::MouseButton button = Q
   prcLift(window, button);
 }
 
-/// A pointer that comes to where it is already moves nothing: it goes a little aside.
-void prcMoveTo(const QWidget& window, QPoint global) {
-  prcPoint(window, global == pntPointer ? global - QPoint(1, 0) : global);
-}
-
 /// A button that is still down comes up where the pointer is.
 void prcLetGo() {
   if (QGuiApplication::mouseButtons() != Qt::NoButton && hand.On != nullptr) {
@@ -160,7 +155,8 @@ bool fncOver(const QWidget& widget, QPoint at) {
 }
 
 void prcPoint(const QWidget& window, QPoint global) {
-  prcMouse(fncNative(window), QEvent::MouseMove, global);
+  // A pointer that comes to where it is already moves nothing: it goes a little aside.
+  prcMouse(fncNative(window), QEvent::MouseMove, global - QPoint(global == pntPointer ? 1 : 0, 0));
 }
 
 void prcPress(const QWidget& window, Qt::MouseButton button, bool blnSoon) {
@@ -341,23 +337,23 @@ bool Click(Control& control, int button) {
     prcLetGo();
     Settle();
     prcClickEntry(control);
-  } else {
-    const QPoint at = fncMiddle(control);
-    prcClickAt(*fncWidget(control), at, Qt::MouseButton(button));
+    return true;
   }
+  const QPoint at = fncMiddle(control);
+  prcClickAt(*fncWidget(control), at, Qt::MouseButton(button));
   return true;
 }
 
 void Hover(Control& control) {
   const QPoint at = fncMiddle(control);
-  prcMoveTo(*fncWidget(control), at);
+  prcPoint(*fncWidget(control), at);
 }
 
 void Hover(Window& window) {
   prcLetGo();
   Settle();
   const QWidget& ground = *fncView(window).Ground;
-  prcMoveTo(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
+  prcPoint(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
 }
 
 bool Type(Control& box, const std::string& text) {
