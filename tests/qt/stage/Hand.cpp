@@ -77,18 +77,18 @@ void prcClickAt(const QWidget& window, QPoint global, Qt::MouseButton button = Q
   prcLift(window, button);
 }
 
-/// A button that is still down comes up where the pointer is.
+/// A button that is still down comes up where the pointer is, before what is next is looked for.
 void prcLetGo() {
   if (QGuiApplication::mouseButtons() != Qt::NoButton && hand.On != nullptr) {
     prcMouse(*hand.On, QEvent::MouseButtonRelease, pntPointer, Qt::LeftButton);
   }
   hand.Held = nullptr;
+  user::Settle();
 }
 
 /// The widget of a control that the user can get at, with no button down.
 QWidget& fncAtHand(const Control& control) {
   prcLetGo();
-  user::Settle();
   QWidget* widget = fncWidget(control);
   const QWidget* popup = QApplication::activePopupWidget();
   const QWidget* modal = popup != nullptr ? popup : QApplication::activeModalWidget();
@@ -335,7 +335,6 @@ void Release(Control& control, float x, float y, int button) {
 bool Click(Control& control, int button) {
   if (control.Kind == ControlKind::MenuEntry) {
     prcLetGo();
-    Settle();
     prcClickEntry(control);
     return true;
   }
@@ -351,7 +350,6 @@ void Hover(Control& control) {
 
 void Hover(Window& window) {
   prcLetGo();
-  Settle();
   const QWidget& ground = *fncView(window).Ground;
   prcPoint(ground, ground.mapToGlobal(QPoint(ground.width() - 2, ground.height() - 2)));
 }

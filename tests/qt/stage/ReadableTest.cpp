@@ -19,15 +19,13 @@ namespace {
 /// The type that a control's text is drawn in.
 QFont fncDrawn(const Control& control) {
   const QWidget* widget = stage::fncWidget(control);
-  const bool blnPainted = widget == nullptr || qobject_cast<const qt::PaintedView*>(widget);
+  const bool blnPainted = qobject_cast<const qt::PaintedView*>(widget) != nullptr;
   return blnPainted ? qt::fncFittedFont(control, qt::fncPlace(control).size()) : widget->font();
 }
 
 bool fncShowsText(const Control& control) {
-  using enum ControlKind;
-  constexpr std::array texts{Label, TextBox, MaskedEdit, Button, CheckBox, OptionButton, ListBox};
-  return std::ranges::find(texts, control.Kind) != texts.end() && control.Dress != Look::Chip &&
-         (!control.Text.empty() || control.Kind == ListBox);
+  return stage::fncWidget(control) != nullptr && control.Dress != Look::Chip &&
+         (!control.Text.empty() || control.Kind == ControlKind::ListBox);
 }
 
 class Readable : public Game {
