@@ -143,8 +143,8 @@ std::uint32_t user::Now() {
 }
 
 void user::After(std::uint32_t milliseconds, std::function<void()> handler) {
-  stage::fncClock().Line.push_back(
-      {stage::fncClock().Now + milliseconds, [=] { qt::prcServe(handler); }});
+  stage::fncClock().Line.push_back({stage::fncClock().Now + milliseconds,
+                                    [event = std::move(handler)] { qt::prcServe(event); }});
 }
 
 std::uint32_t platform::TickCount() { return user::Now(); }

@@ -48,6 +48,15 @@ TEST_F(Input, APressThatMovesALittleKeepsTheSelection) {
   EXPECT_EQ(box_.Text, "7");
 }
 
+TEST_F(Input, WhatIsTypedDuringAPressIsCheckedBeforeItsClick) {
+  user::Type(box_, "10");
+  user::Press(BaccTable.lblBBetInc1[1], 150, 150);
+  prcTypeCharacter('9');
+  user::Release(BaccTable.lblBBetInc1[1], 150, 150);
+  EXPECT_EQ(user::Boxes().size(), 1U);
+  EXPECT_EQ(BaccTable.txtBankerBet[1].Text, "0");
+}
+
 TEST_F(Input, ACardThatIsPulledFromWithinItsEdgesIsNotTurned) {
   blnCardFaceUp = false;
   user::After(4000, [] {

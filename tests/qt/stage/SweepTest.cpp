@@ -270,7 +270,7 @@ class Sweep {
       Compare(name + " refused", box, refused, [&] {
         blnByMouse ? user::Answer(platform::Answer::Ok) : void();
         user::WhileModal([&] {
-          prcTypeCharacter('8');
+          prcTypeCharacter('8');  // Into the message, and not into the box.
           blnByMouse ? prcLift(top_, Qt::LeftButton) : void();
         });
         prcPress(top_, Qt::LeftButton);
@@ -351,11 +351,11 @@ class Sweep {
   }
 
   void Key(Control* from, Qt::Key key, Qt::KeyboardModifiers modifiers, const Act& model) {
+    const bool blnTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;  // Heard of when it is over.
     const Act heard = [&] {
-      if (key != Qt::Key_Tab && key != Qt::Key_Backtab) {
-        prcTell(window_.Name, "keydown");
-      }
-      model();
+      blnTab ? model() : void();
+      prcTell(window_.Name, "keydown");
+      blnTab ? void() : model();
     };
     Compare((from != nullptr ? fncName(*from) : window_.Name) + " at key " +
                 QKeySequence(key | modifiers).toString().toStdString(),
@@ -364,24 +364,26 @@ class Sweep {
 
   void SweepKeys() {
     std::map<char, Control*> before;  // The control with the same access key that comes before.
-    for (Control* stop : window_.Controls) {
-      if (!fncStop(stop)) {
-        continue;
-      }
+    std::vector<Control*> stops;
+    std::ranges::copy_if(window_.Controls, std::back_inserter(stops), fncStop);
+    for (std::size_t n = 0; n < stops.size(); ++n) {
+      Control* const stop = stops[n];
+      const auto reach = [&](std::size_t way) {
+        return [to = stops[(n + way) % stops.size()]] { fncUserReach(*to); };
+      };
       const bool blnButton = stop->Kind == ControlKind::Button;
       const bool blnEnters =
           blnButton || stop->Kind == ControlKind::Picture || stop->Kind == ControlKind::Chart;
       const bool blnSpaces = blnEnters || stop->Kind == ControlKind::CheckBox ||
                              stop->Kind == ControlKind::OptionButton;
-      Key(stop, Qt::Key_Tab, {}, [&] { fncUserTab(window_, false); });
-      Key(stop, Qt::Key_Backtab, Qt::ShiftModifier, [&] { fncUserTab(window_, true); });
+      Key(stop, Qt::Key_Tab, {}, reach(1));
+      Key(stop, Qt::Key_Backtab, Qt::ShiftModifier, reach(stops.size() - 1));
       Key(stop, Qt::Key_Space, {}, fncClick(blnSpaces ? stop : nullptr));
       Key(stop, Qt::Key_Return, {}, fncClick(blnEnters ? stop : fncFirstOpen(&Control::Default)));
       Key(stop, Qt::Key_Escape, {}, fncClick(fncFirstOpen(&Control::CancelButton)));
       if (stop->AccessKey != 0) {
-        Key(
-            std::exchange(before[stop->AccessKey], stop), static_cast<Qt::Key>(stop->AccessKey),
-            Qt::AltModifier, blnButton ? fncClick(stop) : [&] { fncUserReach(*stop); });
+        Key(std::exchange(before[stop->AccessKey], stop), static_cast<Qt::Key>(stop->AccessKey),
+            Qt::AltModifier, blnButton ? fncClick(stop) : reach(0));
       }
     }
   }
