@@ -64,7 +64,8 @@ bool fncOpen(const Control& control) { return fncSeen(control) && fncUsable(cont
 
 bool fncShuffling() { return blnBusy && BaccTable.lblShuffleInProgress[0].Visible; }
 
-/// Every hand that a shoe has dealt is counted in the file; one in view at its end.
+/// Every hand that a shoe has dealt is counted in the file; one in view at its end. A new shoe
+/// shows by fewer hands than before: a look comes before it has dealt as many.
 void prcLookAtHands() {
   const int dealt = intHandsDealt[0];
   const int more = dealt - (dealt < seen.HandsOfShoe ? 0 : seen.HandsOfShoe);
