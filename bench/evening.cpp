@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "judges/EveningProof.h"
+#include "judges/ShuffleStatistics.h"
 
 // Plays evenings at the running table and holds them against the law of luck: velmora_evening
 // [EVENINGS [SEED]], by default 1100 evenings, of a hundred hands each where no shoe ends.
@@ -14,7 +15,9 @@ int main(int argc, char** argv) {
               proof.Hands, proof.Gridded);
   std::printf("  ends within the band of 50 %%: %.1f %% of seats, within that of 90 %%: %.1f %%\n",
               50.0 * proof.InHalf / proof.Evenings, 50.0 * proof.InNine / proof.Evenings);
-  std::printf("  places in tenths: chi-square %.1f of 9 degrees\n", proof.fncPlaces().Sum);
+  ChiSquare places;
+  places.prcAddAlike(proof.Tenths);
+  std::printf("  places in tenths: chi-square %.1f of 9 degrees\n", places.Sum);
   std::printf("  mean luck in its errors: seat 1 %+.2f, seat 2 %+.2f, both %+.2f\n",
               proof.Deviation[0], proof.Deviation[1], proof.Deviation[2]);
   std::printf(proof.fncHolds() ? "All that is told holds.\n" : "What is told does not hold.\n");

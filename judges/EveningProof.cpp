@@ -10,6 +10,7 @@
 #include "evening/Luck.h"
 #include "evening/Reckoning.h"
 #include "judges/Endurance.h"
+#include "judges/ShuffleStatistics.h"
 #include "platform/headless/Headless.h"
 #include "shell/Program.h"
 #include "table/DealCommand.h"
@@ -56,20 +57,16 @@ void prcCount(EveningProof& proof) {
 
 }  // namespace
 
-ChiSquare EveningProof::fncPlaces() const {
-  ChiSquare places;
-  places.prcAddAlike(Tenths);
-  return places;
-}
-
 bool EveningProof::fncHolds() const {
   // Errors as of as many seats as evenings: the two seats of one bet on the same cards.
   const auto likely = [this](int count, double share) {
     return std::abs(count / 2.0 / Evenings - share) <
            dblChance * std::sqrt(share * (1 - share) / Evenings);
   };
+  ChiSquare places;
+  places.prcAddAlike(Tenths);
   return Gridded > Evenings / 2 && likely(InHalf, 0.5) && likely(InNine, 0.9) &&
-         fncPlaces().fncLikely() &&
+         places.fncLikely() &&
          std::ranges::all_of(Deviation, [](double luck) { return std::abs(luck) < dblChance; });
 }
 

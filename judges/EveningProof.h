@@ -3,7 +3,7 @@
 #include <array>
 #include <cstdint>
 
-#include "judges/ShuffleStatistics.h"
+#include "table/TableState.h"
 
 // Evenings played at the running table, held against the law by which luck is told: what the
 // program says of each evening must come out, over many of them, as often as it says.
@@ -15,8 +15,6 @@ struct EveningProof {
   int InHalf = 0, InNine = 0;       ///< Seats' ends within the bands of 50 % and of 90 %.
   std::array<double, 10> Tenths{};  ///< Evenings of both seats by their place among 100 players.
   Table<double, 3> Deviation{};     ///< Mean luck of seat 1, seat 2 and both, in its own errors.
-  /// Tenths that should all be alike.
-  ChiSquare fncPlaces() const;
   /// Whether all of this could well come by chance: one time in some thousands it could not. The
   /// law of most evenings must have lain on a grid, so that it is the grid's law that is held
   /// against the table.
