@@ -111,10 +111,11 @@ TEST_F(Looks, ACardTurnsOverUntilSomethingElseComes) {
 
 TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
   Shuffle();
-  const QRect place = qt::fncPlace(BaccTable.lblPBetInc5[0]);
+  const Control& chip = BaccTable.lblPBetInc5[0];
+  const QRect place = qt::fncPixelRect(chip.Left, chip.Top, chip.Width, chip.Height);
   const QWidget& table = *stage::fncView(BaccTable.Form).Ground;
   const QImage still = Shot(place);
-  stage::prcPoint(table, table.mapToGlobal(QPoint(place.center().x(), place.bottom())));
+  stage::prcPoint(table, table.mapToGlobal(QPoint(place.center().x(), place.bottom() + 3)));
   const QImage lit = Shot(place);
   EXPECT_NE(lit, still);
   stage::prcPress(table, Qt::MiddleButton);
