@@ -55,7 +55,7 @@ constexpr double dblAreaWidth = 2505;
 
 /// The betting seats between them share one plate; the line that parts them has as much room on
 /// each side as the chips and boxes leave.
-constexpr std::array<double, 3> dblSeatEdges{3975, 5332, 6690};
+constexpr std::array<double, 3> dblSeatEdges{3900, 5295, 6690};
 
 void prcLayGround() {
   BaccTableWindow& t = BaccTable;
