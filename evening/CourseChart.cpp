@@ -101,29 +101,34 @@ void prcAddBands(Sheet& sheet, bool blnNamed) {
   }
 }
 
-/// The line of a stretch at its winnings, with a step where money came from elsewhere than from
-/// bets, so that nobody takes that for a win or a loss. It bends at each hand, or at the steps
-/// alone.
+/// The line of a stretch at its winnings. It ends and begins anew where money came from elsewhere
+/// than from bets, so that nobody takes that for a win or a loss. It bends at each hand, or
+/// nowhere.
 template <class Winnings>
-std::vector<ChartPoint> fncStepping(const Sheet& sheet, const Stretch& over, bool blnEachHand,
-                                    Winnings won) {
+void prcAddStretch(Sheet& sheet, const Stretch& over, ChartLine line, bool blnEachHand,
+                   Winnings won) {
   const auto base = [&](int hand) { return sheet.fncPoint(hand).Base; };
-  std::vector<ChartPoint> points{fncAt(over.From, won(over.From) + base(over.From))};
-  const auto go = [&](int hand, double to) {
-    if (const ChartPoint next = fncAt(hand, won(hand) + to); points.back() != next) {
-      points.push_back(next);
+  const auto at = [&](int hand, double from) { return fncAt(hand, won(hand) + from); };
+  const auto end = [&] {
+    if (line.Points.size() > 1) {
+      sheet.Chart.Lines.push_back(line);
     }
   };
+  line.Ink = clrLoss;
+  line.Points = {at(over.From, base(over.From))};
   for (int hand = over.From + 1; hand <= over.To; ++hand) {
     if (std::abs(base(hand) - base(hand - 1)) > dblCent / 2) {
-      go(hand - 1, base(hand - 1));
-      go(hand - 1, base(hand));
+      if (!blnEachHand && line.Points.back() != at(hand - 1, base(hand - 1))) {
+        line.Points.push_back(at(hand - 1, base(hand - 1)));
+      }
+      end();
+      line.Points = {at(hand - 1, base(hand))};
     }
     if (blnEachHand || hand == over.To) {
-      go(hand, base(hand));
+      line.Points.push_back(at(hand, base(hand)));
     }
   }
-  return points;
+  end();
 }
 
 void prcAddFall(Sheet& sheet) {
@@ -132,12 +137,8 @@ void prcAddFall(Sheet& sheet) {
     return;
   }
   const double top = sheet.fncWon(fall.From), slope = fall.Amount / (fall.To - fall.From);
-  sheet.Chart.Lines.push_back({.Ink = clrLoss,
-                               .Width = 1,
-                               .blnDashed = true,
-                               .Points = fncStepping(sheet, fall, false, [&](int hand) {
-                                 return top - (hand - fall.From) * slope;
-                               })});
+  prcAddStretch(sheet, fall, {.Width = 1, .blnDashed = true}, false,
+                [&](int hand) { return top - (hand - fall.From) * slope; });
   sheet.Chart.Marks.push_back(
       {sheet.fncMoney(fall.To), clrLoss, "Deepest fall " + fncCurrency(fall.Amount)});
 }
@@ -147,10 +148,8 @@ void prcAddRun(Sheet& sheet) {
   if (run.Amount < 2) {
     return;
   }
-  sheet.Chart.Lines.push_back(
-      {.Ink = clrLoss, .Width = dblRunWidth, .Points = fncStepping(sheet, run, true, [&](int hand) {
-                                               return sheet.fncWon(hand);
-                                             })});
+  prcAddStretch(sheet, run, {.Width = dblRunWidth}, true,
+                [&](int hand) { return sheet.fncWon(hand); });
   sheet.Chart.Marks.push_back({sheet.fncMoney(run.From), clrLoss,
                                std::to_string(static_cast<int>(run.Amount)) + " lost in a row"});
 }

@@ -20,9 +20,6 @@ std::string fncWho(const Scope& scope) {
 }
 
 std::string fncFortune(const Luck& luck) {
-  if (luck.Deviation == 0) {
-    return "There was no luck in it: the bets of the two seats make up for one another.";
-  }
   const std::string size = fncCurrency(std::abs(luck.Fortune));
   const std::string deviations =
       fncTenths(luck.Deviations) + " standard deviations of " + fncCurrency(luck.Deviation);

@@ -58,6 +58,12 @@ void Activate(Window& window);
 double ScreenWidth();
 double ScreenHeight();
 
+/// All screens together, in twips at the scale in use; they need not begin at 0, 0.
+struct Desk {
+  double Left, Top, Width, Height;
+};
+Desk WholeDesk();
+
 /// The folder of the program, or the user's own data folder where that one cannot be written; no
 /// separator at the end.
 std::string DataFolder();

@@ -1,7 +1,6 @@
 #include "table/Adornments.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "table/Bets.h"
 
@@ -42,14 +41,17 @@ void prcAdornCards() {
   }
 }
 
-/// The chips of a bet beside its money, not those that are just being typed: hollow while the hand
-/// that lost them is told. The money of a lost bet is struck out as long as it stands there.
+/// The chips of a bet beside its money, not those that are just being typed into its box, whatever
+/// chip value they were paid at: hollow while the hand that lost them is told. The money of a lost
+/// bet is struck out as long as it stands there.
 void prcAdornBet(BetSide side, int intSeat) {
   const BetControls bet = fncBet(side, intSeat);
   const bool blnStands = bet.Money != 0;
   const bool blnLost = BaccTable.Timer1.Enabled && fncLoses(side, strResult[intShoeNumber]);
-  const double unit = fncUnitValue();
-  bet.Stack.Value = unit > 0 ? std::round(bet.Money / unit) : 0;
+  const double chips = fncBetChips(side, intSeat);
+  if (BaccTable.Form.ActiveControl != &bet.Box || chips * fncUnitValue() == bet.Money) {
+    bet.Stack.Value = chips;
+  }
   bet.Stack.Visible = bet.Value.Visible && blnStands;
   bet.Stack.Enabled = !blnLost;
   bet.Value.Face.Struck = blnLost || !blnStands;

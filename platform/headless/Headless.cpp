@@ -232,6 +232,7 @@ void Activate(Window& window) {
 
 double ScreenWidth() { return state.ScreenWidth; }
 double ScreenHeight() { return state.ScreenHeight; }
+Desk WholeDesk() { return {0, 0, state.ScreenWidth, state.ScreenHeight}; }
 
 std::string AskSavePath(const std::string& /*title*/, const std::string& /*name*/,
                         std::span<const FileKind> /*kinds*/) {

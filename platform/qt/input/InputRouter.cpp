@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include "platform/UserInput.h"
 #include "platform/qt/looks/Scale.h"
@@ -20,6 +21,9 @@
 namespace qt {
 
 namespace {
+
+/// The part of a card's width that the hand may tremble over in a click.
+constexpr int intTremble = 6;
 
 /// Kinds whose widget goes on with a press by itself: it places the caret, drags, or selects a row;
 /// a toolbar holds a button of the toolkit's own.
@@ -88,10 +92,11 @@ void prcShowDown(QWidget* widget, bool blnDown) {
   }
 }
 
-/// A card that was pulled from within its edges is no card that was clicked: who meant to squeeze
-/// it would see it turned.
-bool fncWandered(const Control& control, QPointF way) {
-  return control.Dress == Look::Card && way.manhattanLength() > QApplication::startDragDistance();
+/// A card that was pulled from within its edges, were it there and back, is no card that was
+/// clicked: who meant to squeeze it would see it turned. A hand that only trembles has clicked.
+bool fncPulled(const Control& control, const QWidget& card, QPointF way) {
+  const int tremble = std::max(QApplication::startDragDistance(), card.width() / intTremble);
+  return control.Dress == Look::Card && way.manhattanLength() > tremble;
 }
 
 /// The toolkit has given a widget the focus: an assistive tool asked for it, if not the model.
@@ -156,6 +161,9 @@ bool InputRouter::eventFilter(QObject* object, QEvent* event) {
   if (object->isWidgetType()) {
     return fncWidgetEvent(*static_cast<QWidget*>(object), event);
   }
+  if (event->type() == QEvent::Expose && object->isWindowType()) {
+    prcEndUnseen(*static_cast<QWindow*>(object));
+  }
   // The toolkit drops what comes for a widget that has been hidden under the press.
   const bool blnHidden = held_.Widget != nullptr && !held_.Widget->isVisible();
   if (object->isWindowType() && blnHidden && event->type() == QEvent::MouseMove) {
@@ -219,6 +227,7 @@ bool InputRouter::fncWidgetEvent(QWidget& widget, QEvent* event) {
 
 bool InputRouter::fncPressed(QWidget& widget, const QMouseEvent& event) {
   prcEndFlip();
+  blnToolkitHolds_ = false;
   WindowView* home = fncWindowViewOf(&widget);
   if (fncLive(*home) == nullptr) {
     return false;
@@ -263,6 +272,14 @@ void InputRouter::prcEndLost(Qt::MouseButtons down) {
   }
 }
 
+void InputRouter::prcEndUnseen(const QWindow& window) {
+  if (held_.Widget != nullptr && held_.Widget->window()->windowHandle() == &window &&
+      !window.isExposed()) {
+    prcEndLost(Qt::NoButton);
+    blnToolkitHolds_ = true;
+  }
+}
+
 Control* InputRouter::fncHeldControl() const {
   Control* control = held_.Widget != nullptr ? fncControlOf(*held_.Widget) : nullptr;
   return control != nullptr && control == held_.Target && control->Serial == held_.Serial ? control
@@ -271,13 +288,21 @@ Control* InputRouter::fncHeldControl() const {
 
 bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
   prcEndLost(event.buttons());
-  return held_.Button == Qt::NoButton ? fncHovered(widget, event) : fncDragged(event);
+  if (held_.Button != Qt::NoButton) {
+    return fncDragged(event);
+  }
+  QWidget* under = &widget;
+  if (blnToolkitHolds_) {
+    under = QApplication::widgetAt(event.globalPosition().toPoint());
+  }
+  return under != nullptr && fncWindowViewOf(under) != nullptr && fncHovered(*under, event);
 }
 
 bool InputRouter::fncDragged(const QMouseEvent& event) {
   const bool blnOurs = held_.Button != Qt::NoButton && !held_.blnNative;
   if (Control* control = fncHeldControl(); control != nullptr) {
     QWidget& own = *held_.Widget;
+    held_.blnPulled |= fncPulled(*control, own, event.globalPosition() - held_.From);
     const bool blnInside = own.rect().contains(own.mapFromGlobal(event.globalPosition()).toPoint());
     prcShowDown(&own, blnInside && fncClicksWith(*control, fncButton(held_.Button)));
     const Mouse mouse = fncMouse(own, event.globalPosition(), fncButtons(event.buttons()));
@@ -317,7 +342,7 @@ bool InputRouter::fncWheeled(QWidget& widget, const QWheelEvent& event) {
   if (home == nullptr || fncLive(*home) == nullptr) {
     return false;
   }
-  const Control* control = fncControlOf(widget);
+  Control* control = fncControlOf(widget);
   const bool blnOwn = control != nullptr && fncNative(control->Kind);
   return (!blnOwn || fncIsBar(*control)) && fncTurnBar(*home, control, event);
 }
@@ -338,7 +363,8 @@ void InputRouter::prcRelease(QPointF global) {
   }
   QWidget* widget = held.Widget;
   prcShowDown(widget, false);
-  const bool blnInside = widget->isVisible() && !fncWandered(*control, global - held.From) &&
+  const bool blnInside = widget->isVisible() && !held.blnPulled &&
+                         !fncPulled(*control, *widget, global - held.From) &&
                          widget->rect().contains(widget->mapFromGlobal(global).toPoint());
   const Mouse mouse = fncMouse(*widget, global, fncButton(held.Button));
   prcServe([&] { prcUserRelease(*control, mouse, blnInside); });

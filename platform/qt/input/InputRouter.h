@@ -39,6 +39,7 @@ class InputRouter : public QObject {
     Qt::MouseButton Button = Qt::NoButton;  ///< None while there is no press.
     bool blnNative = false;                 ///< The toolkit's widget follows the press by itself.
     QPointF From;                           ///< Where on the screen it began.
+    bool blnPulled = false;                 ///< It has led further than a click does.
   };
 
   // Each tells whether the event goes no further.
@@ -55,10 +56,16 @@ class InputRouter : public QObject {
   /// Ends a press whose button is no longer down: it came up while something else had the mouse,
   /// such as a message answered by key. It leads to no click.
   void prcEndLost(Qt::MouseButtons down);
+  /// Ends a press whose window is seen no more, such as one that is minimised by key: nobody tells
+  /// of its button any more.
+  void prcEndUnseen(const QWindow& window);
   void prcRelease(QPointF global);
   Control* fncHeldControl() const;
 
   Held held_;
+  /// The toolkit goes on with a press that has ended so, until the next one: it tells of the
+  /// pointer only to the widget that was pressed.
+  bool blnToolkitHolds_ = false;
 };
 
 /// A key goes down in the widget that has the focus. Returns whether that was all of it, so that

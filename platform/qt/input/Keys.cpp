@@ -202,9 +202,11 @@ bool fncAccessKey(const Window& window, const QKeyEvent& event) {
   if (meant == nullptr) {
     return window.Kind == WindowKind::Float && fncMenuKey(event.key());
   }
-  prcAct(*meant, [](Control& control) {
-    control.Kind == ControlKind::Button ? prcUserClick(control) : void(fncUserReach(control));
-  });
+  if (!event.isAutoRepeat()) {
+    prcAct(*meant, [](Control& control) {
+      control.Kind == ControlKind::Button ? prcUserClick(control) : void(fncUserReach(control));
+    });
+  }
   return true;
 }
 
@@ -212,7 +214,7 @@ bool fncAccessKey(const Window& window, const QKeyEvent& event) {
 bool fncEntryKey(const Window& window, const QKeyEvent& event) {
   QAction* entry =
       window.Kind == WindowKind::Float ? fncMenuEntryOf(event.key(), event.modifiers()) : nullptr;
-  if (entry != nullptr) {
+  if (entry != nullptr && !event.isAutoRepeat()) {
     entry->trigger();
   }
   return entry != nullptr;
@@ -242,26 +244,28 @@ bool fncLeaveFullScreen(const Window& window) {
 
 /// The keys for the program as a whole. A dialog keeps the frame behind it as it is.
 bool fncProgramKey(const Window& window, const QKeyEvent& event) {
-  if (fncBare(event) && event.key() == Qt::Key_F1) {
+  const bool blnHelp = fncBare(event) && event.key() == Qt::Key_F1;
+  const bool blnFull =
+      fncBare(event) && event.key() == Qt::Key_F11 && window.Kind != WindowKind::Dialog;
+  if (blnHelp && !event.isAutoRepeat()) {
     prcServe([&] { prcUserHelp(window); });
-  } else if (fncBare(event) && event.key() == Qt::Key_F11 && window.Kind != WindowKind::Dialog) {
+  } else if (blnFull && !event.isAutoRepeat()) {
     prcTurnFullScreen();
-  } else {
-    return false;
   }
-  return true;
+  return blnHelp || blnFull;
 }
 
 /// The keys that go to the next of the frame's children, or close one.
 bool fncChildKey(Window& window, const QKeyEvent& event) {
   const int key = event.key();
-  if (!event.modifiers().testFlag(Qt::ControlModifier) ||
-      (key != Qt::Key_Tab && key != Qt::Key_F6 && key != Qt::Key_F4)) {
+  const bool blnNext = key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_F6;
+  if (!event.modifiers().testFlag(Qt::ControlModifier) || (!blnNext && key != Qt::Key_F4)) {
     return false;
   }
   const bool blnModal = window.Kind == WindowKind::Dialog || window.Kind == WindowKind::Start;
-  if (key != Qt::Key_F4) {
-    if (Window* next = blnModal ? nullptr : fncNextChild(); next != nullptr) {
+  if (blnNext) {
+    const bool blnBackwards = event.modifiers().testFlag(Qt::ShiftModifier);
+    if (Window* next = blnModal ? nullptr : fncNextChild(blnBackwards); next != nullptr) {
       prcBringUp(*next);
     }
   } else if (window.Kind == WindowKind::Child && window.CloseBox) {

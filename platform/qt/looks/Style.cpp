@@ -97,6 +97,7 @@ class Dress : public QProxyStyle {
       case SH_UnderlineShortcut:
         return 1;
       case SH_DialogButtonBox_ButtonsHaveIcons:
+      case SH_MenuBar_AltKeyNavigation:  // Alt touched by mistake would take the table's keys away.
         return 0;
       case SH_ToolTip_WakeUpDelay:
         return 500;

@@ -17,9 +17,9 @@ bool fncMovable(const Control& bar, const Window& window) {
          bar.Top < window.ScaleHeight;
 }
 
-const Control* fncBarFor(const Window& window, bool blnAcross) {
-  const Control* found = nullptr;
-  for (const Control* bar : window.Controls) {
+Control* fncBarFor(const Window& window, bool blnAcross) {
+  Control* found = nullptr;
+  for (Control* bar : window.Controls) {
     if (!fncIsBar(*bar) || !fncMovable(*bar, window)) {
       continue;
     }
@@ -48,18 +48,17 @@ void BarView::initStyleOption(QStyleOptionSlider* option) const {
   option->pageStep = page_ > 0 ? page_ : option->pageStep;
 }
 
-bool fncTurnBar(WindowView& home, const Control* control, const QWheelEvent& event) {
+bool fncTurnBar(WindowView& home, Control* control, const QWheelEvent& event) {
   const QPoint turn = event.angleDelta();
   const bool blnAcross = turn.y() == 0 || event.modifiers().testFlag(Qt::ShiftModifier);
-  const Control* bar =
+  Control* bar =
       control != nullptr && fncIsBar(*control) ? control : fncBarFor(*home.Source, blnAcross);
   if (bar == nullptr) {
     return false;
   }
   const double notches = (turn.y() != 0 ? turn.y() : turn.x()) / 120.0;
-  prcAct(*bar, [notches](Control& turned) {
-    prcUserValue(turned, turned.Value - notches * turned.SmallChange);
-  });
+  // Unlike a press it leaves the keyboard where it is.
+  prcServe([&] { prcUserValue(*bar, bar->Value - notches * bar->SmallChange); });
   return true;
 }
 

@@ -35,6 +35,6 @@ bool fncIsBar(const Control& control);
 /// Turns the bar that is under the wheel (control; none or another kind elsewhere), or the bar of
 /// the window that goes that way: upright where it has one in sight, else across. Returns whether
 /// there was one.
-bool fncTurnBar(WindowView& home, const Control* control, const QWheelEvent& event);
+bool fncTurnBar(WindowView& home, Control* control, const QWheelEvent& event);
 
 }  // namespace qt

@@ -159,7 +159,12 @@ void EditView::prcReservePrompt(const Control& box, qsizetype typed) {
 
 void EditView::prcSelect() {
   const Control* box = view_ != nullptr ? fncLive(*view_) : nullptr;
-  if (box != nullptr && box->SelLength > 0) {
+  if (box == nullptr) {
+    return;
+  }
+  if (view_->Home.Source->ActiveControl != box) {
+    deselect();
+  } else if (box->SelLength > 0) {
     setSelection(0, std::min(box->SelLength, static_cast<int>(text().size())));
   }
 }

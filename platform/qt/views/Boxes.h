@@ -23,7 +23,8 @@ class EditView : public QLineEdit {
   void prcUpdate(const Control& control);
   /// Shows the text in the form that the model's focus asks for.
   void prcShowText();
-  /// Selects as many characters as the control's SelLength says, from the first one.
+  /// Selects as many characters as the control's SelLength says, from the first one; none while
+  /// another control has the focus.
   void prcSelect();
 
  protected:

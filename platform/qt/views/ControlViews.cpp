@@ -390,9 +390,7 @@ void prcShowFocusTexts(WindowView& home) {
   for (const std::unique_ptr<ControlView>& view : home.Controls) {
     if (auto* edit = qobject_cast<EditView*>(view->Widget); edit != nullptr) {
       edit->prcShowText();
-      if (home.Source->ActiveControl == view->Source) {
-        edit->prcSelect();
-      }
+      edit->prcSelect();
     }
   }
 }

@@ -168,6 +168,8 @@ void ChildShell::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChildShell::mouseMoveEvent(QMouseEvent* event) {
+  // A message may have come in between and taken the release.
+  blnDragged_ = blnDragged_ && event->buttons().testFlag(Qt::LeftButton);
   if (blnDragged_) {
     prcDragTo(event->globalPosition().toPoint());
   } else {
@@ -182,13 +184,16 @@ void ChildShell::prcDragTo(QPoint global) {
   if (edges_ == Qt::Edges()) {
     place.translate(way);
     // The title bar stays within reach.
+    place.moveLeft(std::clamp(place.left(), least - width(),
+                              std::max(least - width(), parentWidget()->width() - least)));
     place.moveTop(std::clamp(place.top(), 0, std::max(0, parentWidget()->height() - least / 2)));
   }
   if (edges_.testFlag(Qt::LeftEdge)) {
     place.setLeft(std::min(place.left() + way.x(), place.right() - least));
   }
   if (edges_.testFlag(Qt::TopEdge)) {
-    place.setTop(std::min(place.top() + way.y(), place.bottom() - least));
+    place.setTop(std::clamp(place.top() + way.y(), std::min(0, place.top()),
+                            std::max(0, place.bottom() - least)));
   }
   if (edges_.testFlag(Qt::RightEdge)) {
     place.setRight(std::max(place.right() + way.x(), place.left() + least));

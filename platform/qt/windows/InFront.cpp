@@ -32,7 +32,7 @@ void prcBringUp(Window& window) {
   prcActivate(window);
 }
 
-Window* fncNextChild() {
+Window* fncNextChild(bool blnBackwards) {
   std::vector<Window*> children;
   for (Window* window : fncWindows()) {
     const bool blnSmall = window->Kind == WindowKind::Child || window->Kind == WindowKind::Float;
@@ -44,8 +44,9 @@ Window* fncNextChild() {
     return nullptr;
   }
   const auto at = std::ranges::find(children, fncActiveWindow());
-  const auto place = at == children.end() ? 0 : static_cast<std::size_t>(at - children.begin()) + 1;
-  Window* next = children[place % children.size()];
+  const auto place = static_cast<std::size_t>(at - children.begin());
+  const std::size_t step = blnBackwards ? children.size() - 1 : at == children.end() ? 0 : 1;
+  Window* next = children[(place + step) % children.size()];
   return next == fncActiveWindow() ? nullptr : next;
 }
 

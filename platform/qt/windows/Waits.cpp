@@ -67,6 +67,13 @@ double ScreenHeight() {
   return qt::fncTwips(screen != nullptr ? screen->size().height() : 700);
 }
 
+Desk WholeDesk() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const QRect all = screen != nullptr ? screen->virtualGeometry() : QRect(0, 0, 1024, 700);
+  return {qt::fncTwips(all.left()), qt::fncTwips(all.top()), qt::fncTwips(all.width()),
+          qt::fncTwips(all.height())};
+}
+
 void End() {
   qt::prcNoteEnd();
   throw EndOfProgram{};

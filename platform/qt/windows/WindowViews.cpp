@@ -17,7 +17,7 @@
 #include "platform/qt/views/Captions.h"
 #include "platform/qt/windows/ChildShell.h"
 #include "platform/qt/windows/Fitting.h"
-#include "platform/qt/windows/Topmost.h"
+#include "platform/qt/windows/WindowSystem.h"
 
 namespace qt {
 
@@ -438,16 +438,23 @@ void prcSyncWindow(WindowView& view) {
   view.blnFirst = false;
 }
 
-void prcRestoreFrame(QWidget& shell) {
+void prcRestoreFrame(QWidget& shell, bool blnDragged) {
   if (!fncTakesDesk(shell)) {
     return;
   }
-  QTimer::singleShot(intRestored, &shell, [&shell] {
-    if (shell.windowState() == Qt::WindowNoState && fncTakesDesk(shell)) {
-      QRect place(QPoint(), fncDesk().size() * dblRestored);
-      place.moveCenter(fncDesk().center());
-      shell.setGeometry(place);
+  QTimer::singleShot(intRestored, &shell, [&shell, blnDragged] {
+    if (shell.windowState() != Qt::WindowNoState || !fncTakesDesk(shell)) {
+      return;
     }
+    if (fncButtonHeld()) {
+      prcRestoreFrame(shell, true);
+      return;
+    }
+    QRect place(shell.geometry().topLeft(), fncDesk().size() * dblRestored);
+    if (!blnDragged) {
+      place.moveCenter(fncDesk().center());
+    }
+    shell.setGeometry(place);
   });
 }
 

@@ -23,8 +23,9 @@ void prcFitField();
 /// stand beside it keep their distance from its corner in twips.
 void prcKeepPlaces(double before);
 
-/// The frame is no longer maximised: one that has never had a smaller size gets one that shows it.
-void prcRestoreFrame(QWidget& shell);
+/// The frame is no longer maximised: one that has never had a smaller size gets one that shows it,
+/// in the middle of the desk, or where the hand that is dragging it lets it go.
+void prcRestoreFrame(QWidget& shell, bool blnDragged = false);
 
 /// The user or the window manager has moved or sized a window: its place goes into the model.
 /// Returns whether the screen is to follow: its resize handler is due, or it is the frame.
