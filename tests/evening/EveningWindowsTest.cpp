@@ -260,8 +260,10 @@ TEST_F(EveningWindows, AChangedStakeStepsTheBaseLineAndAResetIsMarkedAtOnce) {
   const Points lines[] = {
       {{0, 1000}, {1, 1095}, {2, 995}, {3, 995}, {4, 1295}, {5, 1500}},
       {{0, 1000}, {3, 1000}, {3, 1500}, {5, 1500}},
-      {{1, 1095}, {3, 895}, {3, 1395}, {4, 1295}},             // The fall steps with the base line,
-      {{1, 1095}, {2, 995}, {3, 995}, {3, 1495}, {4, 1295}}};  // and so does the run.
+      {{1, 1095}, {3, 895}},  // The fall ends where the stake changes and goes on from there,
+      {{3, 1395}, {4, 1295}},
+      {{1, 1095}, {2, 995}, {3, 995}},  // and so does the run.
+      {{3, 1495}, {4, 1295}}};
   for (std::size_t n = 0; n < std::size(lines); ++n) {
     EXPECT_EQ(Chart().Lines.at(n).Points, lines[n]) << n;
   }

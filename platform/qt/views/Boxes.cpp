@@ -193,8 +193,13 @@ bool EditView::event(QEvent* event) {
 }
 
 void EditView::keyPressEvent(QKeyEvent* event) {
-  const bool blnCommand = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-  if (!blnCommand && fncRefuses(event->text())) {
+  const Qt::KeyboardModifiers command =
+      event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  if (command == Qt::AltModifier && !event->text().isEmpty()) {
+    event->ignore();  // An access key that means nothing here types nothing either.
+    return;
+  }
+  if (command == Qt::NoModifier && fncRefuses(event->text())) {
     event->accept();
     return;
   }
