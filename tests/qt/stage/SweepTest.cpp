@@ -206,7 +206,8 @@ class Sweep {
             [&] { Click(Qt::LeftButton, true); });
     const QPoint away = top_.mapToGlobal(QPoint(-40, -40));
     for (const QPoint end : {away - QPoint(1, 1), at}) {
-      const Act drag = fncClick(&control, Qt::LeftButton, 2, end == at);
+      const bool blnClicks = end == at && control.Dress != Look::Card;
+      const Act drag = fncClick(&control, Qt::LeftButton, 2, blnClicks);
       Compare(name + (end == at ? " dragged about" : " dragged away"), nullptr, drag, [&] {
         prcPoint(top_, at);
         strTold.clear();

@@ -40,8 +40,9 @@ TEST_F(Windows, TheTableHasTheInputAfterAShuffleAndAfterADialog) {
   prcShowModal(KasSitas.Form);
   EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "after About";
   user::Settle();
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
-    QKeyEvent held(QEvent::KeyPress, key, {}, {}, true);
+  for (const QKeyCombination key :
+       {QKeyCombination(Qt::Key_Return), {Qt::Key_Space}, Qt::ALT | Qt::Key_U}) {
+    QKeyEvent held(QEvent::KeyPress, key.key(), key.keyboardModifiers(), {}, true);
     QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
     EXPECT_FALSE(blnShuffled[0]) << "by a key that is held";
   }
@@ -77,9 +78,11 @@ TEST_F(Windows, TheMarkingCardIsPannedByItsBarByKeysAndByTheWheel) {
   user::Click(bar);
   EXPECT_EQ(bar.Value, bar.LargeChange);
   user::Key(card_, "Right");
+  user::Activate(BaccTable.Form);
   user::Hover(MarkCards[0].Picture1);
   stage::prcTurnWheel(Shell(MDIForm1.Form), -1);
   EXPECT_EQ(MarkCards[0].Picture1.Left, -bar.LargeChange - 2 * bar.SmallChange);
+  EXPECT_EQ(qt::fncActiveWindow(), &BaccTable.Form) << "the wheel leaves the keyboard where it is";
 }
 
 TEST_F(Windows, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
@@ -96,6 +99,7 @@ TEST_F(Windows, AChildIsDraggedByItsTitleAndKeepsItsPlaceInTwips) {
   EXPECT_EQ(drag({30, 20}), place);
   EXPECT_EQ(shell.pos(), place);
   EXPECT_EQ(drag({0, -900}).y(), 0) << "a title stays within reach";
+  EXPECT_LT(drag({4000, 0}).x(), shell.parentWidget()->width());
   card_.Left = -90;
   user::Settle();
   EXPECT_EQ(shell.x(), qt::fncPixels(-90)) << "a frame narrower than its child shows its middle";
