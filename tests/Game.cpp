@@ -26,16 +26,6 @@ void prcWaitUntilIdle() {
 
 }  // namespace
 
-TestFolder::TestFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "velmora-test-XXXXXX").string();
-  path_ = mkdtemp(name.data());
-}
-
-TestFolder::~TestFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
 void prcFreshGame(const std::string& folder) {
   user::Reset(folder);
   prcResetTableState();
@@ -54,6 +44,11 @@ std::string fncPiped(std::string text) {
     text.replace(at, 2, "|");
   }
   return text;
+}
+
+Game::~Game() {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
 }
 
 void Game::SetUp() {

@@ -7,6 +7,7 @@
 
 #include "betting/BetEntry.h"
 #include "judges/Adapter.h"
+#include "judges/Endurance.h"
 #include "shell/MDIForm1.h"
 #include "shell/SettingsStore.h"
 #include "table/Bets.h"
@@ -14,19 +15,6 @@
 
 // The whole game on either platform: a fresh folder, the program started as its user starts
 // it, and a shoe whose next cards a test can choose.
-
-/// A folder of its own for a test's settings file, gone with the test.
-class TestFolder {
- public:
-  TestFolder();
-  ~TestFolder();
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 /// Puts every table of the game and the platform back to the start of the program, before
 /// any window.
@@ -39,6 +27,9 @@ std::string fncFile(const std::string& path);
 std::string fncPiped(std::string text);
 
 class Game : public testing::Test {
+ public:
+  ~Game() override;
+
  protected:
   void SetUp() override;
 
@@ -81,8 +72,9 @@ class Game : public testing::Test {
   /// The text of the last message box, empty where none was shown since ForgetBoxes.
   static std::string LastBox();
 
-  const std::string& Folder() const { return folder_.Path(); }
+  /// A folder of the test's own for its settings file, gone with the test.
+  const std::string& Folder() const { return folder_; }
 
  private:
-  TestFolder folder_;
+  const std::string folder_ = fncFastFolder();
 };

@@ -4,11 +4,9 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
-#include <filesystem>
 #include <regex>
 #include <thread>
 
-#include "judges/Endurance.h"
 #include "platform/headless/Headless.h"
 #include "shell/SettingsStore.h"
 #include "tests/Game.h"
@@ -17,15 +15,12 @@ namespace {
 
 class Killed : public Game {
  protected:
-  /// In memory, so that many hands are written before a kill.
   void SetUp() override {
     Game::SetUp();
     Setting("Player1Stats", "Stake", "10000000");
     Setting("Player2Stats", "Stake", "10000000");
     Setting("Shoe Size", "Decks", "1");
-    std::filesystem::copy(Folder(), fast_);
   }
-  void TearDown() override { std::filesystem::remove_all(fast_); }
 
   /// Both seats bet one chip of 10 on every hand and never run out: each hand adds 10 to each
   /// turnover.
@@ -39,7 +34,7 @@ class Killed : public Game {
   }
 
   void PlayEvening(std::uint64_t seed) {
-    prcFreshGame(fast_);
+    prcFreshGame(Folder());
     Start();
     PlayShoe(seed);
     ResetStatistics();
@@ -64,8 +59,6 @@ class Killed : public Game {
 
   /// The sections and keys of the settings file.
   static std::string Keys() { return std::regex_replace(Contents(), std::regex("=.*"), ""); }
-
-  const std::string fast_ = fncFastFolder();
 };
 
 TEST_F(Killed, TheFileIsThatOfSomeCompletedHandAtAnyInstant) {

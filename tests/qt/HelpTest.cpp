@@ -2,16 +2,13 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QImage>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
-#include <set>
 
 #include "platform/platform.h"
-#include "platform/qt/looks/Scale.h"
 #include "platform/qt/machine/HelpWindow.h"
 
 namespace {
@@ -100,23 +97,6 @@ TEST_F(Help, ZoomKeepsWhatIsInSightAndPrintsTheSamePages) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("/Count 2")) << steps;
   }
-}
-
-TEST_F(Help, PicturesAreSmoothAtEveryScale) {
-  const double before = qt::fncScale();
-  for (const double scale : {1.0, 1.5}) {
-    qt::prcSetScale(scale);
-    qt::HelpPages& pages = Opened().fncPages();
-    const QUrl table(QStringLiteral("pictures/table.png"));
-    const auto shown = pages.loadResource(QTextDocument::ImageResource, table).value<QImage>();
-    std::set<QRgb> colours;
-    for (int at = 0; at < shown.width() * shown.height(); ++at) {
-      colours.insert(shown.pixel(at % shown.width(), at / shown.width()));
-    }
-    EXPECT_GT(colours.size(), 2000U) << "colours of a palette, dithered, at scale " << scale;
-    delete Shown();
-  }
-  qt::prcSetScale(before);
 }
 
 TEST_F(Help, AMissingOrDamagedFileGetsOneMessageAndNoWindow) {

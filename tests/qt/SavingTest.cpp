@@ -27,12 +27,8 @@ class Saving : public testing::Test {
     paper_.Kind = ControlKind::Chart;
     paper_.Width = 7500;
     paper_.Height = 4500;
-    Draw({{0, 0}, {10, 70}});
-  }
-
-  void Draw(std::vector<ChartPoint> points) {
     auto data = std::make_shared<ChartData>();
-    data->Lines.push_back({.Name = "Player 1", .Width = 3, .Points = std::move(points)});
+    data->Lines.push_back({.Name = "Player 1", .Width = 3, .Points = {{0, 0}, {10, 70}}});
     paper_.Chart = data;
   }
 
@@ -111,18 +107,6 @@ TEST_F(Saving, APictureIsTwiceAsFineAndADrawingIsNoPicture) {
   EXPECT_TRUE(drawing.contains("<polyline") && drawing.contains("Player 1"));
   EXPECT_FALSE(drawing.contains("<image"));
   EXPECT_TRUE(QSvgRenderer(drawing).isValid());
-}
-
-TEST_F(Saving, AStepOfACurveStandsUprightUpAsWellAsDown) {
-  const auto drawn = [this](std::vector<ChartPoint> points) {
-    Draw(std::move(points));
-    EXPECT_EQ(platform::SavePicture(paper_, fncPath("step.png")), "");
-    return QImage(QString::fromStdString(fncPath("step.png")));
-  };
-  for (const float to : {70.F, 0.F}) {
-    EXPECT_EQ(drawn({{0, 35}, {10, 35}, {10, to}}), drawn({{0, 35}, {9, 35}, {10, 35}, {10, to}}))
-        << "level up to the step to " << to;
-  }
 }
 
 TEST_F(Saving, CopiedTextIsOnTheClipboard) {

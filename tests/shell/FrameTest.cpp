@@ -1,4 +1,3 @@
-#include <cctype>
 #include <filesystem>
 #include <functional>
 #include <tuple>
@@ -10,21 +9,6 @@
 namespace {
 
 using Frame = Game;
-
-TEST_F(Frame, NoMenuTakesAKeyOfTheTable) {
-  Start();
-  std::string taken;
-  for (const Control* control : BaccTable.Form.Controls) {
-    taken += control->AccessKey;
-  }
-  for (const Control* menu : MDIForm1.Form.Controls) {
-    if (menu->Kind == ControlKind::MenuEntry && menu->Container == nullptr) {
-      const auto key = static_cast<char>(std::toupper(menu->Text.at(menu->Text.find('&') + 1)));
-      EXPECT_EQ(taken.find(key), std::string::npos) << menu->Text;
-      taken += key;
-    }
-  }
-}
 
 TEST_F(Frame, TheCloseBoxKeepsPlacesAndMoneyWhateverGoesOn) {
   const std::tuple<const char*, Control&, void (*)(std::function<void()>)> states[] = {

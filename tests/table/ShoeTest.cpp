@@ -58,20 +58,6 @@ TEST_F(ShoeTest, TheFirstCardSaysHowManyAreBurnt) {
             "3    1  0  1  0      5    0  0  0  1      10   0  1  0  0      ");
 }
 
-TEST_F(ShoeTest, CardsAreNamedBySlot) {
-  for (const auto& [slot, number, name, row] : {std::tuple{52, 1, "1 Spade", 1},
-                                                {12, 13, "King Spade", 1},
-                                                {13, 14, "1 Club", 2},
-                                                {36, 37, "Jack Diamond", 3},
-                                                {104 + 50, 51, "Queen Heart", 4}}) {
-    EXPECT_EQ(CardNumber1To52(slot), number);
-    EXPECT_EQ(fncCardValueName(slot % 13 + 1) + " " + CardSuite(slot), name);
-    EXPECT_EQ(intSuitRow, row);
-  }
-  EXPECT_EQ(fncCardValueName(0) + fncCardValueName(14), "");
-  EXPECT_EQ(fncCardName(14), "Ace of Clubs");
-}
-
 TEST_F(ShoeTest, AShuffleTakesTwoSecondsAndServesEventsAfterEachCardOfBothItsLoops) {
   Start();
   const std::uint32_t start = headless::Now();

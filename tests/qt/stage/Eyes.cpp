@@ -32,10 +32,6 @@ qt::WindowView& fncView(const Window& window) {
                          : throw std::logic_error(std::string("not on the screen: ") + window.Name);
 }
 
-bool fncSame(const QCursor& one, const QCursor& other) {
-  return one.shape() == other.shape() && one.hotSpot() == other.hotSpot();
-}
-
 std::string fncTold(QString text) {
   return text.replace(QLatin1Char('\n'), QLatin1String("\r\n")).toStdString();
 }
@@ -88,10 +84,6 @@ void prcSeeKind(Control& seen, const qt::ControlView& view) {
       seen.List.push_back(list->item(row)->text().toStdString());
     }
     seen.ListIndex = list->currentRow();
-  } else if (qobject_cast<qt::PaintedView*>(widget) != nullptr) {
-    if (!fncSame(widget->cursor(), qt::fncCursor(seen.MousePointer))) {
-      throw std::logic_error(std::string("another pointer than it should have: ") + seen.Name);
-    }
   }
 }
 

@@ -126,25 +126,6 @@ TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
   EXPECT_EQ(Shot(place), still);
 }
 
-TEST_F(Looks, TheStackIsTheOrderOnTheScreen) {
-  const auto middle = [](const QImage& image) { return image.pixel(35, 48); };
-  prcControlToFront(face_);
-  EXPECT_EQ(middle(Shot(card_)), middle(Card(22)));
-  prcRemoveControl(face_);
-  EXPECT_EQ(middle(Shot(card_)), middle(Card(picCardBack)));
-  prcAddControl(BaccTable.Form, face_);
-  EXPECT_EQ(middle(Shot(card_)), middle(Card(22)));
-}
-
-TEST(Scale, FillsTheFrameWithTableCardAndLists) {
-  for (const auto& [width, height, title, scale] : {std::tuple{1366, 768, 25, 1.09},
-                                                    {1366, 768, 40, 1.07},
-                                                    {1080, 1920, 25, 1.12},
-                                                    {500, 400, 0, 0.52}}) {
-    EXPECT_DOUBLE_EQ(qt::fncFittingScale(QSizeF(width, height), title), scale) << width;
-  }
-}
-
 TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
   for (const double scale : {0.75, 1.0, 1.09, 1.54, 2.5}) {
     qt::prcSetScale(scale);
@@ -157,12 +138,6 @@ TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
   user::Reset();
 }
 
-/// How much of the light of white a colour gives, as the eye takes it.
-double fncLight(const QColor& colour) {
-  return 0.2126 * std::pow(colour.redF(), 2.2) + 0.7152 * std::pow(colour.greenF(), 2.2) +
-         0.0722 * std::pow(colour.blueF(), 2.2);
-}
-
 TEST(Palette, TextsStandOutFromTheirGrounds) {
   using enum QPalette::ColorRole;
   for (const auto group : {QPalette::Active, QPalette::Disabled}) {
@@ -173,9 +148,10 @@ TEST(Palette, TextsStandOutFromTheirGrounds) {
                                        {ButtonText, Button},
                                        {HighlightedText, Highlight},
                                        {ToolTipText, ToolTipBase}}) {
-      const double one = fncLight(QApplication::palette().color(group, text));
-      const double other = fncLight(QApplication::palette().color(group, ground));
-      EXPECT_GE((std::max(one, other) + 0.05) / (std::min(one, other) + 0.05), 4.5)
+      const QPalette palette = QApplication::palette();
+      EXPECT_GE(std::abs(qGray(palette.color(group, text).rgb()) -
+                         qGray(palette.color(group, ground).rgb())),
+                100)
           << "role " << text << " of group " << group;
     }
   }

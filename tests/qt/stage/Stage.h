@@ -30,9 +30,6 @@ std::optional<QPoint> fncFirst(const QRect& area, const std::function<bool(QPoin
 /// another.
 bool fncOver(const QWidget& widget, QPoint at);
 
-/// Whether two pointers look the same.
-bool fncSame(const QCursor& one, const QCursor& other);
-
 // The hand at whatever lies there, told of a place on the screen and the top-level window that gets
 // the event. Each serves what the toolkit posts meanwhile.
 
