@@ -55,7 +55,7 @@ constexpr double dblAreaWidth = 2505;
 
 /// The betting seats between them share one plate; the line that parts them has as much room on
 /// each side as the chips and boxes leave.
-constexpr std::array<double, 3> dblSeatEdges{3900, 5295, 6690};
+constexpr std::array<double, 3> dblSeatEdges{3900, 5295, 6675};
 
 void prcLayGround() {
   BaccTableWindow& t = BaccTable;
@@ -279,7 +279,7 @@ void prcLayRowHeads() {
   BaccTableWindow& t = BaccTable;
   const auto head = [](Control& label, const char* name, int index, double top, double height,
                        const char* text, Colour colour) {
-    prcAdd({&label, name, index, Label, 6705, top, 615, height, text});
+    prcAdd({&label, name, index, Label, 6685, top, 615, height, text});
     prcDress(label, tpeQuiet, colour, Alignment::Left);
   };
   head(t.lblRow[0], "lblRow", 0, 2055, 225, "TIE", clrGold);
