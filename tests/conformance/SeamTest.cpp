@@ -8,8 +8,8 @@
 #include "platform/Chart.h"
 #include "platform/Layout.h"
 
-// What every platform must do alike, and no evening shows. The suite is compiled once for each of
-// them.
+// What every platform, and the model they share, must do alike, and no evening shows. The suite is
+// compiled once for each of them.
 
 namespace {
 

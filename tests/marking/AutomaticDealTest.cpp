@@ -69,17 +69,4 @@ TEST_F(AutomaticDeal, ACardOfAnotherShoeReadsThatShoesHandAndItsOwnUnits) {
   EXPECT_EQ(intLastCard[1], 8 * intSlotsOfDeck - 1);
 }
 
-TEST_F(AutomaticDeal, ACardOutsideIsToldUnderTheNameOfItsProcedure) {
-  const std::pair<const char*, void (*)()> rows[] = {
-      {"30 Error - 9-Subscript out of range\r\n'NewCardViewForm'", [] { NewCardViewForm(0, 9); }},
-      {"10 Error - 9-Subscript out of range\r\n'ClearCardView'", [] { ClearCardView(-1); }},
-      {"10 Error - 9-Subscript out of range\r\n'SetCardView'", [] { SetCardView(9); }}};
-  for (const auto& [told, call] : rows) {
-    prcFreshGame(Folder());
-    prcDispatch(call);
-    EXPECT_EQ(LastBox(), std::string("Serious Error Occurred - Line ") + told +
-                             "\r\nPLEASE RECORD ERROR MESSAGE");
-  }
-}
-
 }  // namespace

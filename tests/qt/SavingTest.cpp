@@ -3,7 +3,6 @@
 #include <sys/stat.h>
 
 #include <QApplication>
-#include <QClipboard>
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
@@ -107,11 +106,6 @@ TEST_F(Saving, APictureIsTwiceAsFineAndADrawingIsNoPicture) {
   EXPECT_TRUE(drawing.contains("<polyline") && drawing.contains("Player 1"));
   EXPECT_FALSE(drawing.contains("<image"));
   EXPECT_TRUE(QSvgRenderer(drawing).isValid());
-}
-
-TEST_F(Saving, CopiedTextIsOnTheClipboard) {
-  platform::CopyText("1,\u2660");
-  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("1,\u2660"));
 }
 
 }  // namespace

@@ -273,8 +273,14 @@ void InputRouter::prcEndLost(Qt::MouseButtons down) {
 }
 
 void InputRouter::prcEndUnseen(const QWindow& window) {
-  if (held_.Widget != nullptr && held_.Widget->window()->windowHandle() == &window &&
-      !window.isExposed()) {
+  const WindowView* frame = fncFrameView();
+  const QWidget* pressed = held_.Widget != nullptr ? held_.Widget->window()
+                           : frame != nullptr      ? frame->Shell.data()
+                                                   : nullptr;
+  // Where windows are drawn when the compositor says so, one that is late looks unseen.
+  if (pressed != nullptr && pressed->windowHandle() == &window && !window.isExposed() &&
+      QGuiApplication::mouseButtons() != Qt::NoButton &&
+      QGuiApplication::platformName() != QLatin1String("wayland")) {
     prcEndLost(Qt::NoButton);
     blnToolkitHolds_ = true;
   }
@@ -291,11 +297,14 @@ bool InputRouter::fncMoved(QWidget& widget, const QMouseEvent& event) {
   if (held_.Button != Qt::NoButton) {
     return fncDragged(event);
   }
-  QWidget* under = &widget;
-  if (blnToolkitHolds_) {
-    under = QApplication::widgetAt(event.globalPosition().toPoint());
+  if (!blnToolkitHolds_) {
+    return fncHovered(widget, event);
   }
-  return under != nullptr && fncWindowViewOf(under) != nullptr && fncHovered(*under, event);
+  QWidget* under = QApplication::widgetAt(event.globalPosition().toPoint());
+  if (under != nullptr && fncWindowViewOf(under) != nullptr) {
+    fncHovered(*under, event);
+  }
+  return true;
 }
 
 bool InputRouter::fncDragged(const QMouseEvent& event) {
@@ -344,7 +353,7 @@ bool InputRouter::fncWheeled(QWidget& widget, const QWheelEvent& event) {
   }
   Control* control = fncControlOf(widget);
   const bool blnOwn = control != nullptr && fncNative(control->Kind);
-  return (!blnOwn || fncIsBar(*control)) && fncTurnBar(*home, control, event);
+  return (!blnOwn || fncTurns(*control)) && fncTurnBar(*home, control, event);
 }
 
 bool InputRouter::fncReleased(const QMouseEvent& event) {

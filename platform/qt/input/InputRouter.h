@@ -56,8 +56,8 @@ class InputRouter : public QObject {
   /// Ends a press whose button is no longer down: it came up while something else had the mouse,
   /// such as a message answered by key. It leads to no click.
   void prcEndLost(Qt::MouseButtons down);
-  /// Ends a press whose window is seen no more, such as one that is minimised by key: nobody tells
-  /// of its button any more.
+  /// Ends a press, on a control or on the frame's bare ground, whose window is seen no more, such
+  /// as one that is minimised by key: nobody tells of its button any more.
   void prcEndUnseen(const QWindow& window);
   void prcRelease(QPointF global);
   Control* fncHeldControl() const;

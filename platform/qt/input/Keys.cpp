@@ -200,7 +200,7 @@ bool fncAccessKey(const Window& window, const QKeyEvent& event) {
     }
   }
   if (meant == nullptr) {
-    return window.Kind == WindowKind::Float && fncMenuKey(event.key());
+    return window.Kind == WindowKind::Float && (event.isAutoRepeat() || fncMenuKey(event.key()));
   }
   if (!event.isAutoRepeat()) {
     prcAct(*meant, [](Control& control) {

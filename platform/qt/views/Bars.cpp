@@ -38,6 +38,10 @@ bool fncIsBar(const Control& control) {
   return control.Kind == ControlKind::VScrollBar || control.Kind == ControlKind::HScrollBar;
 }
 
+bool fncTurns(const Control& control) {
+  return fncIsBar(control) || control.Kind == ControlKind::Slider;
+}
+
 void BarView::prcShowPage(int page) {
   page_ = page;
   update();
@@ -52,13 +56,14 @@ bool fncTurnBar(WindowView& home, Control* control, const QWheelEvent& event) {
   const QPoint turn = event.angleDelta();
   const bool blnAcross = turn.y() == 0 || event.modifiers().testFlag(Qt::ShiftModifier);
   Control* bar =
-      control != nullptr && fncIsBar(*control) ? control : fncBarFor(*home.Source, blnAcross);
+      control != nullptr && fncTurns(*control) ? control : fncBarFor(*home.Source, blnAcross);
   if (bar == nullptr) {
     return false;
   }
   const double notches = (turn.y() != 0 ? turn.y() : turn.x()) / 120.0;
+  const double step = (bar->Kind == ControlKind::Slider ? 1 : -1) * bar->SmallChange;
   // Unlike a press it leaves the keyboard where it is.
-  prcServe([&] { prcUserValue(*bar, bar->Value - notches * bar->SmallChange); });
+  prcServe([&] { prcUserValue(*bar, bar->Value + notches * step); });
   return true;
 }
 

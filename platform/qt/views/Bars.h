@@ -31,6 +31,8 @@ class BarView : public QScrollBar {
 };
 
 bool fncIsBar(const Control& control);
+/// Whether the wheel turns it: a bar or a slider.
+bool fncTurns(const Control& control);
 
 /// Turns the bar that is under the wheel (control; none or another kind elsewhere), or the bar of
 /// the window that goes that way: upright where it has one in sight, else across. Returns whether

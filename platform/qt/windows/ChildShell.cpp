@@ -189,14 +189,16 @@ void ChildShell::prcDragTo(QPoint global) {
     place.moveTop(std::clamp(place.top(), 0, std::max(0, parentWidget()->height() - least / 2)));
   }
   if (edges_.testFlag(Qt::LeftEdge)) {
-    place.setLeft(std::min(place.left() + way.x(), place.right() - least));
+    place.setLeft(
+        std::min({place.left() + way.x(), place.right() - least, parentWidget()->width() - least}));
   }
   if (edges_.testFlag(Qt::TopEdge)) {
-    place.setTop(std::clamp(place.top() + way.y(), std::min(0, place.top()),
-                            std::max(0, place.bottom() - least)));
+    place.setTop(
+        std::clamp(place.top() + way.y(), std::min(0, place.top()),
+                   std::max(0, std::min(place.bottom(), parentWidget()->height()) - least)));
   }
   if (edges_.testFlag(Qt::RightEdge)) {
-    place.setRight(std::max(place.right() + way.x(), place.left() + least));
+    place.setRight(std::max({place.right() + way.x(), place.left() + least, least}));
   }
   if (edges_.testFlag(Qt::BottomEdge)) {
     place.setBottom(std::max(place.bottom() + way.y(), place.top() + least));

@@ -177,14 +177,22 @@ void prcPlaceChild(WindowView& view) {
   view.Shell->setGeometry(place.translated(fncOrigin(view)));
 }
 
-/// The top left corner at which a window on whatever screen is seen from its beginning.
-QPoint fncInSight(const QRect& place) {
-  const QRect desk = QGuiApplication::primaryScreen()->availableVirtualGeometry();
+QPoint fncWithin(const QRect& place, const QRect& desk) {
   const auto within = [](int at, int length, int from, int room) {
     return std::clamp(at, from, std::max(from, from + room - length));
   };
   return {within(place.left(), place.width(), desk.left(), desk.width()),
           within(place.top(), place.height(), desk.top(), desk.height())};
+}
+
+/// The top left corner at which a window on whatever screen is seen from its beginning. Screens of
+/// unlike sizes leave corners that are on none.
+QPoint fncInSight(const QRect& place) {
+  const QScreen& first = *QGuiApplication::primaryScreen();
+  const QPoint corner = fncWithin(place, first.availableVirtualGeometry());
+  const QPoint title = corner + QPoint(place.width() / 2, 0);
+  return QGuiApplication::screenAt(title) != nullptr ? corner
+                                                     : fncWithin(place, first.availableGeometry());
 }
 
 void prcPlaceTop(WindowView& view) {
@@ -454,6 +462,7 @@ void prcRestoreFrame(QWidget& shell, bool blnDragged) {
     if (!blnDragged) {
       place.moveCenter(fncDesk().center());
     }
+    place.moveTopLeft(fncInSight(place));
     shell.setGeometry(place);
   });
 }

@@ -151,7 +151,7 @@ TEST(Palette, TextsStandOutFromTheirGrounds) {
       const QPalette palette = QApplication::palette();
       EXPECT_GE(std::abs(qGray(palette.color(group, text).rgb()) -
                          qGray(palette.color(group, ground).rgb())),
-                100)
+                130)
           << "role " << text << " of group " << group;
     }
   }

@@ -96,17 +96,6 @@ TEST_F(Readable, MoneyOfAnyCountryStaysInItsPanel) {
   }
 }
 
-TEST_F(Readable, AMessageStandsClearOfTheMoney) {
-  Play(1);
-  const QWidget& money = *stage::fncWidget(BaccTable.lblPlayerTotal[0]);
-  const QRect seat(money.mapToGlobal(QPoint()), money.size());
-  user::WhileModal([&] {
-    EXPECT_FALSE(QApplication::activeModalWidget()->frameGeometry().intersects(seat));
-    EXPECT_FALSE(seat.isEmpty());
-  });
-  Deal(5);
-}
-
 TEST_F(Readable, AMarkTellsItsHandUnderThePointer) {
   Play(1);
   const std::string tip = fncPiped(MarkCards[0].lblTBP.at(0).ToolTip);

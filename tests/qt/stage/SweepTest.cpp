@@ -113,9 +113,8 @@ class Sweep {
       if (fncOfInterest(*control) && fncWidget(*control) != nullptr) {
         SweepPlaces(*control);
         SweepEar(*control);
-      } else if (control->Kind == ControlKind::MenuEntry && control->On->Click != nullptr &&
-                 !blnBelow_) {
-        SweepEntry(*control);
+      } else if (control->Kind == ControlKind::MenuEntry && !blnBelow_) {
+        control->Container == nullptr ? SweepTitle(*control) : SweepEntry(*control);
       }
     }
   }
@@ -344,11 +343,25 @@ class Sweep {
   void SweepEntry(Control& entry) {
     const Control seen = user::Seen(entry);
     EXPECT_EQ(seen.Visible && seen.Enabled, fncOpen(entry)) << entry.Name;
-    if (fncOpen(entry)) {
+    if (fncOpen(entry) && entry.On->Click != nullptr) {
       Compare(fncName(entry) + " chosen", nullptr, fncClick(&entry), [&] {
         user::Click(entry);
         std::erase_if(strTold, [](const std::string& line) { return line.ends_with(" move"); });
       });
+    }
+  }
+
+  /// A letter that a key of the table or another menu has opens no menu.
+  static void SweepTitle(const Control& title) {
+    const auto key = [](const Control& one) -> char {
+      const bool blnTitle = one.Kind == ControlKind::MenuEntry && one.Container == nullptr;
+      return blnTitle ? one.Text.at(one.Text.find('&') + 1) : one.AccessKey;
+    };
+    for (const Window* window : {&BaccTable.Form, title.Form}) {
+      for (const Control* other : window->Controls) {
+        EXPECT_TRUE(other == &title || std::toupper(key(*other)) != std::toupper(key(title)))
+            << title.Text << " and " << other->Text;
+      }
     }
   }
 
