@@ -11,6 +11,7 @@ namespace {
 constexpr double dblLeast = 1050, dblRight = 225, dblTop = 435, dblBottom = 525;
 constexpr double dblLetter = 100, dblAroundText = 200;
 constexpr int intMostSteps = 7;
+constexpr double dblLeastSpan = 10;  // Less would be written by heights that read alike.
 
 struct Range {
   double Low, High;
@@ -60,8 +61,11 @@ ChartPlot fncChartPlot(const Control& chart) {
       }
     }
   }
-  const double span = std::max(y.High - y.Low, 1.0);
-  const double step = fncChartStep(span, intMostSteps);
+  if (const double missing = dblLeastSpan - (y.High - y.Low); missing > 0) {
+    y.Low -= missing / 2;
+    y.High += missing / 2;
+  }
+  const double step = fncChartStep(y.High - y.Low, intMostSteps);
   const double low = std::floor(y.Low / step) * step;
   const double high = std::max(std::ceil(y.High / step) * step, low + step);
   const double left =

@@ -112,6 +112,8 @@ TEST(ChartPlot, StepsAreRoundAndHoldTheCurve) {
   chart.Chart = data;
   EXPECT_EQ(fncChartPlot(chart).YLow, -500);
   EXPECT_EQ(fncChartPlot(chart).YHigh, 2000);
+  data->Bands.clear();
+  EXPECT_EQ(fncChartPlot(chart).YLow, 994) << "so flat a curve has whole heights too";
 }
 
 }  // namespace

@@ -214,7 +214,9 @@ void prcPlaceTop(WindowView& view) {
     window.Left = fncTwips(at.x());
     window.Top = fncTwips(at.y());
   }
-  view.Shell->move(fncInSight({at, inner}));
+  // What will be around it is around the frame already.
+  const WindowView* up = frame.isNull() ? fncFrameView() : nullptr;
+  view.Shell->move(fncInSight({at, inner.grownBy(up != nullptr ? fncFrameOf(*up) : frame)}));
 }
 
 /// The largest place for the frame; where a window manager maximises it this is only the place it
