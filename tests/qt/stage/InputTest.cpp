@@ -139,7 +139,7 @@ TEST_F(Input, AHandIsFollowedByEarAndPlayedByKeys) {
   QObject::connect(ear, &qt::EarView::told,
                    [](const QString& text) { strHeard += text.toStdString() + "\n"; });
   EXPECT_EQ(QAccessible::queryAccessibleInterface(ear)->role(), QAccessible::Notification);
-  NextCards({13, 2, 5, 4, 3});
+  NextCards({13, 1, 5, 4, 3});
   prcKey(Qt::Key_P, Qt::AltModifier);
   prcTypeCharacter('5');
   prcKey(Qt::Key_Tab);
@@ -155,11 +155,11 @@ Player first card, King of Clubs
 Player advice: 8, 9 for NATURAL
 Player second card, 5 of Hearts. Player total 5
 Banker advice: At least 6 would be good, (2 card total)
-Banker first card, 2 of Hearts
-Banker advice: 6, 7 to WIN
-Banker second card, 4 of Diamonds. Banker total 6
+Banker first card, Ace of Diamonds
+Banker advice: 7, 8 to WIN
+Banker second card, 4 of Diamonds. Banker total 5
 Hidden Player third card
-Player advice: 2, 3, 4 to WIN, 1 to TIE, 8, 9, 10, Picture to LOSE
+Player advice: 1, 2, 3 to WIN, 4 is good; 10, Picture to TIE, 8, 9 to LOSE
 Player third card, 3 of Spades. Player total 8
 Player 1, Player bet WIN. Player 1, money $1,000. Player WIN
 )");

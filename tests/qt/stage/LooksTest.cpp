@@ -126,6 +126,11 @@ TEST_F(Looks, AChipAnswersThePointerAlsoBelowItsPlace) {
   EXPECT_EQ(Shot(place), still);
 }
 
+TEST_F(Looks, WhatIsBroughtToTheFrontCoversTheOthers) {
+  prcControlToFront(face_);
+  EXPECT_EQ(Shot(card_).pixel(35, 48), Card(22).pixel(35, 48));
+}
+
 TEST(Scale, EdgesAreRoundedSoThatNeighboursStayNeighbours) {
   for (const double scale : {0.75, 1.0, 1.09, 1.54, 2.5}) {
     qt::prcSetScale(scale);
